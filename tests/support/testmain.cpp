@@ -1,0 +1,78 @@
+#include "testmain.h"
+
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array<const char *, 16> forbiddenMarks{
+    "connectSlotsByName", "QObject::connect", "QObject::disconnect", "QLayout",
+    "QWidget::",          "QPainter::",       "QPixmap::",           "QMovie",
+    "QFont::",            "QTimer",           "QGraphicsScene::",    "Could not parse",
+    "Unknown property",   "QMetaObject",      "QSocketNotifier",     "Cannot open file ':/",
+};
+
+bool isForbidden(const QString &line)
+{
+    return line.startsWith(QLatin1String("QWARN"))
+           && std::any_of(forbiddenMarks.begin(), forbiddenMarks.end(), [&line](const char *mark) {
+                  return line.contains(QLatin1String(mark));
+              });
+}
+
+/// The lines of QtTest's log in \a path that no program of ours may cause.
+QStringList complaintsIn(const QString &path)
+{
+    QFile log(path);
+    if (!log.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {QStringLiteral("the log of the test cannot be read: ") + path};
+    QStringList complaints;
+    QTextStream lines(&log);
+    QString line;
+    while (lines.readLineInto(&line)) {
+        if (isForbidden(line))
+            complaints.append(line);
+    }
+    return complaints;
+}
+
+} // namespace
+
+namespace TestMain {
+
+void pinEnvironment()
+{
+    if (qEnvironmentVariableIsEmpty("MZ_TEST_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("TZ", "UTC");
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("QT_FONT_DPI", "96");
+    qputenv("QT_SCALE_FACTOR", "1");
+    qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "0");
+    QLocale::setDefault(QLocale::c());
+}
+
+int run(QObject &test, int argc, char **argv)
+{
+    // QtTest replaces any message handler while it runs, so its own log is what there is to look at.
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("log.txt"));
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0") << QStringLiteral("-o")
+              << QStringLiteral("-,txt") << QStringLiteral("-o") << log + QStringLiteral(",txt");
+
+    const int failures = QTest::qExec(&test, arguments);
+    const QStringList complaints = complaintsIn(log);
+    for (const QString &complaint : complaints)
+        QTextStream(stderr) << "FORBIDDEN: " << complaint << '\n';
+    return complaints.isEmpty() ? failures : failures + 1;
+}
+
+} // namespace TestMain
