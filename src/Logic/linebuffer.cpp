@@ -1,0 +1,1 @@
+#include "Logic/linebuffer.h"

@@ -1,0 +1,147 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include "Logic/linebuffer.h"
+
+class QIODevice;
+class QSerialPort;
+class QTcpSocket;
+class QTimer;
+
+/// How long the link waits for the instrument, in milliseconds.
+struct LinkWaits
+{
+    int connecting = 3000;    ///< for each of the two attempts to reach a host
+    int serialWriting = 3000; ///< for a command to leave the serial port
+    int tcpWriting = 2000;    ///< for each of the three attempts to send a command over TCP
+    int reading = 5000;       ///< for each piece of a reply
+    int closing = 1000;       ///< from the wish to close to the close
+};
+
+/// The one object through which the program talks to the instrument, over a serial port or over
+/// TCP.
+///
+/// It lives on the GUI thread and blocks it while it waits; no operation throws. Every setter asks
+/// the instrument for the value again once it was confirmed, so that the `update...` signals always
+/// carry what the instrument holds. A query whose command went out emits its signal in every case:
+/// with an empty text or a zero when no answer came. What concerns the user goes out through
+/// `errors`.
+class SerialLogic : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SerialLogic(QObject *parent = nullptr);
+    ~SerialLogic() override;
+
+    /// Chooses the road to the instrument: 0 = serial port, 1 = TCP. Any other mode sends nothing.
+    void setLinkMode(const int &mode);
+
+    /// Opens the link: \a name is the port and \a value the baud rate in serial mode, the host and
+    /// the TCP port in TCP mode. False, after `errors`, when that fails.
+    ///
+    /// The new link starts clean: a close that is still pending is carried out first, and nothing
+    /// that the old link left behind (a part of a reply, a wait for a result) reaches the new one.
+    bool openPort(const QString &name, const int &value);
+
+    /// Closes the link one second from now (see `delayClose`).
+    void closePort();
+
+    /// Writes one command line. False when it could not be confirmed that it left; `errors` tells
+    /// why, except for every fourth unconfirmed TCP write of the process, which ends its call
+    /// silently.
+    bool sendCmd(const QByteArray &cmd);
+
+    /// Whether a zeroing or calibration is under way whose result has not come yet.
+    bool awaitsResult() const { return m_asyncReply; }
+
+    /// Replaces the times to wait, for instruments and tests that need others.
+    void setWaits(const LinkWaits &waits) { m_waits = waits; }
+
+public slots:
+    /// Closes both roads at once.
+    void delayClose();
+    /// Does nothing: the pace of the readings belongs to the console.
+    void startRead();
+    /// Stops the link timer.
+    void stopRead();
+
+    void queryIDN();
+    void queryFrequency();
+    /// Sets the frequency by its numeric form; \a value in GHz, sent with two decimals.
+    void setFrequency(double value);
+    /// Sets the frequency as text, \a unit being "GHz", "MHz" or "KHz". An instrument that does not
+    /// confirm it gets the numeric form as well.
+    void setFrequency(QString value, QString unit);
+    void queryOffset();
+    /// Sets the offset; \a value in dB, sent with two decimals.
+    void setOffset(double value);
+    void queryPowerUnit();
+    /// Sets the unit of the displayed power, "dBm" or "W".
+    void setPowerUnit(QString unit);
+    void queryMeasureState();
+    /// Sets relative measurement "ON" or "OFF"; "ON" again takes a new reference.
+    void setMeasureState(QString state);
+    void queryAverageCount();
+    void setAverageCount(int count);
+
+    /// Starts zeroing; the result comes as `updateSetZeroSuccess` or `updateSetZeroFailed`, never
+    /// before this call has returned. Afterwards `awaitsResult` tells whether the command went out.
+    void setZero();
+    /// Starts calibration; as `setZero`, with `updateCalibrationSuccess` and
+    /// `updateCalibrationFailed`.
+    void calibrate();
+    /// Reads the power once and emits `updatePower`.
+    void readMesureData();
+
+signals:
+    /// A message for the user.
+    void errors(QString err);
+    /// A line for the on-screen log.
+    void displayLog(QString log);
+
+    void updateIDN(QString idn);
+    /// \a value in \a unit ("GHz", "MHz", "KHz"); no unit when the answer carried none.
+    void updateFrequency(double value, QString unit = QString());
+    /// \a value in dB.
+    void updateOffset(double value);
+    void updatePowUnit(QString unit);
+    void updateMeasureState(QString state);
+    void updateAverageCount(int count);
+    /// \a dialValue in dBm, \a power as the instrument shows it; 100.0 and an empty text are no
+    /// reading.
+    void updatePower(double dialValue, QString power);
+    void updateSetZeroSuccess();
+    void updateSetZeroFailed();
+    void updateCalibrationSuccess();
+    void updateCalibrationFailed();
+
+    // Declared for the console; the link itself never emits these.
+    void updateSetSuccess(QString text);
+    void updateSetFailed(QString text);
+    void updateIP(QString IP);
+    void updateWait(int flag);
+
+private slots:
+    bool readData(QString &str);
+    void readDataSlot();
+
+private:
+    bool openSerial(const QString &name, int baudRate);
+    bool openTcp(const QString &host, int port);
+    bool sendSerial(const QByteArray &cmd);
+    bool sendTcp(const QByteArray &cmd);
+
+    QSerialPort *m_port;
+    QTcpSocket *m_socket;
+    QTimer *m_linkTimer;
+    LineBuffer m_buffer;
+    int m_linkMode = 0;
+    bool m_asyncReply = false;
+    QString m_pollCommand = QStringLiteral("Read?\n"); // of instruments that poll; nothing sends it
+
+    QTimer *m_closeTimer;
+    LinkWaits m_waits;
+};
