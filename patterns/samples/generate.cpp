@@ -1,0 +1,41 @@
+#include "samples.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+
+bool write(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return true;
+    QTextStream(stderr) << path << ": " << file.errorString() << '\n';
+    return false;
+}
+
+bool writeAll(const QDir &folder)
+{
+    const QVector<SampleCurve> curves = sampleCurves();
+    for (const SampleCurve &curve : curves) {
+        if (!write(folder.filePath(curve.fileName), curveFile(curve)))
+            return false;
+    }
+    return write(folder.filePath(QStringLiteral("loss-table.csv")), sampleLossTable());
+}
+
+} // namespace
+
+/// Writes the sample curves and the sample loss table into the folder named on the command line.
+int main(int argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 2) {
+        QTextStream(stderr) << "usage: mz_samples FOLDER\n";
+        return 2;
+    }
+    return writeAll(QDir(arguments.at(1))) ? 0 : 1;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+/// One curve file of the sample set.
+struct SampleCurve
+{
+    QString fileName;        ///< without folder
+    QString title;           ///< the chart title, first line of the file
+    QString name;            ///< the curve's name, second line
+    QVector<QPointF> points; ///< angle in degrees, directivity in dBi with three decimals
+};
+
+/// The sample patterns that ship with the workbench: dipole, patch, horn and array.
+QVector<SampleCurve> sampleCurves();
+
+/// The content of the curve file of \a curve.
+QByteArray curveFile(const SampleCurve &curve);
+
+/// A loss table from 700 MHz to 6000 MHz, so that the horn's 10 GHz lie beyond it.
+QByteArray sampleLossTable();
