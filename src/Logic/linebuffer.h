@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <QTextCodec>
+
+#include <memory>
+
+class QTextDecoder;
 
 /// Collects the pieces in which replies arrive and hands out one line.
 ///
@@ -12,6 +15,9 @@ class LineBuffer
 public:
     /// The most bytes that are collected in wait for the end of a line.
     static constexpr int capacity = 64 * 1024;
+
+    LineBuffer();
+    ~LineBuffer();
 
     /// Adds the bytes of \a piece up to its first NUL, read as UTF-8. A character that is cut by
     /// the end of the piece is completed by the next one.
@@ -27,13 +33,14 @@ public:
     /// empty.
     QString takeLine();
 
+    /// Forgets everything, also a character that is not complete yet.
     void clear();
 
     /// What was collected so far.
     const QString &text() const { return m_text; }
 
 private:
+    std::unique_ptr<QTextDecoder> m_utf8;
     QString m_text;
-    QTextCodec::ConverterState m_utf8;
-    int m_received = 0;
+    qint64 m_received = 0;
 };

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Logic/linebuffer.h"
+
 #include <QObject>
 #include <QString>
 
-#include "Logic/linebuffer.h"
+#include <optional>
 
 class QIODevice;
 class QSerialPort;
@@ -131,8 +133,21 @@ private slots:
 private:
     bool openSerial(const QString &name, int baudRate);
     bool openTcp(const QString &host, int port);
+    void startClean();
+    void closeLostPort();
+
+    QIODevice *openDevice() const;
     bool sendSerial(const QByteArray &cmd);
     bool sendTcp(const QByteArray &cmd);
+    bool waitForNewBytes();
+    QByteArray takeInput();
+    bool dropOverlongLine();
+
+    std::optional<QString> ask(const QByteArray &command);
+    bool confirm(const QByteArray &command);
+    void startTask(const QByteArray &command);
+    void discardInput();
+    void reportTask(const QString &line);
 
     QSerialPort *m_port;
     QTcpSocket *m_socket;
@@ -140,8 +155,10 @@ private:
     LineBuffer m_buffer;
     int m_linkMode = 0;
     bool m_asyncReply = false;
-    QString m_pollCommand = QStringLiteral("Read?\n"); // of instruments that poll; nothing sends it
+    QString m_pollCommand =
+        QStringLiteral("Read?\n"); // for instruments that are polled; not sent yet
 
     QTimer *m_closeTimer;
+    qint64 m_staleBytes = 0; // waited to be read already before the last command was sent
     LinkWaits m_waits;
 };

@@ -1,0 +1,107 @@
+#include "Logic/replyparser.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+QString withoutNewlines(QString line)
+{
+    return line.remove(QLatin1Char('\n'));
+}
+
+/// Takes \a prefix off the start of \a text; false, leaving the text alone, when it is not there.
+bool takePrefix(QString &text, QLatin1String prefix)
+{
+    if (!text.startsWith(prefix))
+        return false;
+    text.remove(0, prefix.size());
+    return true;
+}
+
+/// The text behind \a prefix, or the whole line when it does not start so.
+QString valueText(const QString &line, QLatin1String prefix)
+{
+    QString text = withoutNewlines(line);
+    takePrefix(text, prefix);
+    return text;
+}
+
+} // namespace
+
+namespace ReplyParser {
+
+bool isConfirmed(const QString &line)
+{
+    return line.contains(QLatin1String("OK"));
+}
+
+QString identity(const QString &line)
+{
+    return withoutNewlines(line).remove(QLatin1String("RETURN:IDN "));
+}
+
+Frequency frequency(const QString &line)
+{
+    QString text = withoutNewlines(line);
+    QString unit;
+    if (takePrefix(text, QLatin1String("RETURN:FREQ ")) && text.contains(QLatin1String("Hz"))) {
+        unit = text.right(3);
+        text.remove(unit);
+    }
+    return {text.toDouble(), unit};
+}
+
+double offset(const QString &line)
+{
+    QString text = withoutNewlines(line);
+    if (takePrefix(text, QLatin1String("RETURN:OFFS ")))
+        text.remove(QLatin1String("dB"));
+    return text.toDouble();
+}
+
+QString powerUnit(const QString &line)
+{
+    return valueText(line, QLatin1String("RETURN:UNIT:POW "));
+}
+
+QString measureState(const QString &line)
+{
+    return valueText(line, QLatin1String("RETURN:REL "));
+}
+
+int averageCount(const QString &line)
+{
+    return valueText(line, QLatin1String("RETURN:AVER:COUN ")).toInt();
+}
+
+Power power(const QString &line)
+{
+    QString text = withoutNewlines(line);
+    if (!takePrefix(text, QLatin1String("RETURN:GET ")))
+        return {};
+    QStringList fields = text.split(QLatin1Char(','));
+    if (fields.size() != 2)
+        return {};
+    return {fields.first().remove(QLatin1String("dBm")).toDouble(), fields.last()};
+}
+
+TaskResult taskResult(const QString &line)
+{
+    // In this order: the first that is found decides about a line that holds several.
+    static const std::array<std::pair<QLatin1String, TaskResult>, 4> reports{{
+        {QLatin1String("RETURN:CAL:OK"), TaskResult::CalibrationSucceeded},
+        {QLatin1String("RETURN:CAL:FAIL"), TaskResult::CalibrationFailed},
+        {QLatin1String("RETURN:CAL:ZERO:OK"), TaskResult::ZeroSucceeded},
+        {QLatin1String("RETURN:CAL:ZERO:FAIL"), TaskResult::ZeroFailed},
+    }};
+    const auto found = std::find_if(reports.begin(), reports.end(), [&line](const auto &report) {
+        return line.contains(report.first);
+    });
+    return found == reports.end() ? TaskResult::None : found->second;
+}
+
+} // namespace ReplyParser

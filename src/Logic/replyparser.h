@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QString>
+
+/// Reads values out of the instrument's reply lines.
+///
+/// Nothing is ever refused: a reply without its prefix is converted as it stands, and what cannot
+/// be converted gives 0 or an empty text. An empty line, which stands for a reply that never came,
+/// does the same.
+namespace ReplyParser {
+
+struct Frequency
+{
+    double value = 0.0; ///< in `unit`
+    QString unit;       ///< "GHz", "MHz", "KHz", or empty when the reply carried none
+};
+
+struct Power
+{
+    double dbm = 100.0; ///< 100 dBm is what the gauge takes for "no reading"
+    QString text; ///< as the instrument displays it, in its current unit; empty for no reading
+};
+
+/// The results of the tasks that take the instrument longer than a read waits.
+enum class TaskResult {
+    None,
+    CalibrationSucceeded,
+    CalibrationFailed,
+    ZeroSucceeded,
+    ZeroFailed,
+};
+
+/// Whether the instrument confirmed a setting: "OK" anywhere in \a line.
+bool isConfirmed(const QString &line);
+
+/// What the instrument calls itself.
+QString identity(const QString &line);
+
+/// The unit is the last three characters of a value that contains "Hz"; a value in plain "Hz" thus
+/// loses the digit before it, as it always did. It is looked for behind the prefix only.
+Frequency frequency(const QString &line);
+
+/// The offset in dB.
+double offset(const QString &line);
+
+/// "dBm" or "W" in the instrument's own letters.
+QString powerUnit(const QString &line);
+
+/// "ON" or "OFF" of the relative measurement.
+QString measureState(const QString &line);
+
+int averageCount(const QString &line);
+
+/// A reply that lacks its prefix, or is not made of exactly two fields, is no reading.
+Power power(const QString &line);
+
+/// Which task \a line reports on; the text that tells may stand anywhere in it.
+TaskResult taskResult(const QString &line);
+
+} // namespace ReplyParser
