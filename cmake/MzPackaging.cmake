@@ -1,0 +1,66 @@
+# What is installed, and the two packages that cpack makes of it:
+#   DEB  component "system":   programs under lib/mz6218, launchers on the path, desktop entries, icons
+#   TGZ  component "portable": one folder with everything beside the programs, Qt's libraries included
+set(programs mz6218 mz6218-sim mz6218-patterns)
+set(samples "${CMAKE_SOURCE_DIR}/patterns/samples")
+
+foreach(layout system portable)
+    if(layout STREQUAL system)
+        set(folder lib/mz6218)
+        set(common COMPONENT system)
+    else()
+        set(folder .)
+        set(common COMPONENT portable EXCLUDE_FROM_ALL)
+    endif()
+    install(TARGETS ${programs} RUNTIME DESTINATION ${folder}/bin ${common})
+    install(FILES "${CMAKE_BINARY_DIR}/bin/help.pdf" DESTINATION ${folder}/bin ${common})
+    install(DIRECTORY "${samples}/" DESTINATION ${folder}/samples ${common} FILES_MATCHING PATTERN "*.csv")
+    install(FILES LICENSE docs/licences.md DESTINATION ${folder}/licences ${common})
+    install(FILES README.md DESTINATION ${folder} ${common})
+endforeach()
+
+if(UNIX)
+    set(MZ_INSTALLED "/usr/lib/mz6218")
+    foreach(launcher mz6218 mz6218-patterns)
+        configure_file(packaging/linux/${launcher}.in "${CMAKE_BINARY_DIR}/packaging/${launcher}" @ONLY)
+        install(PROGRAMS "${CMAKE_BINARY_DIR}/packaging/${launcher}" DESTINATION bin COMPONENT system)
+    endforeach()
+    install(CODE [[
+        set(link "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/mz6218-sim")
+        file(MAKE_DIRECTORY "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
+        file(CREATE_LINK ../lib/mz6218/bin/mz6218-sim "${link}" SYMBOLIC)]] COMPONENT system)
+    install(FILES packaging/linux/mz6218.desktop packaging/linux/mz6218-patterns.desktop
+            DESTINATION share/applications COMPONENT system)
+    install(DIRECTORY packaging/icons/hicolor DESTINATION share/icons COMPONENT system)
+
+    # DT_RPATH, not RUNPATH: only that is looked at for the libraries of libraries and of plugins too.
+    set_target_properties(${programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+    foreach(program ${programs})
+        target_link_options(${program} PRIVATE -Wl,--disable-new-dtags)
+    endforeach()
+    get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+    execute_process(COMMAND "${qmake}" -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE MZ_QT_PLUGINS
+                    OUTPUT_STRIP_TRAILING_WHITESPACE)
+    configure_file(packaging/linux/bundle.cmake.in "${CMAKE_BINARY_DIR}/packaging/bundle.cmake" @ONLY)
+    install(SCRIPT "${CMAKE_BINARY_DIR}/packaging/bundle.cmake" COMPONENT portable EXCLUDE_FROM_ALL)
+endif()
+
+set(CPACK_PACKAGE_NAME mz6218)
+set(CPACK_PACKAGE_VENDOR "MZ6218 developers")
+set(CPACK_PACKAGE_CONTACT "MZ6218 developers <mz6218@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Console, simulator and pattern workbench for the MZ6218 power meter")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Sets, reads, charts and records an MZ6218 RF power meter over a serial port or TCP, simulates one
+ without hardware, and analyses antenna radiation patterns.")
+set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_SOURCE_DIR}/LICENSE")
+set(CPACK_GENERATOR "DEB;TGZ")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qttranslations5-l10n, fonts-wqy-microhei | fonts-noto-cjk")
+set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_SOURCE_DIR}/cmake/MzPackageOptions.cmake")
+include(CPack)
