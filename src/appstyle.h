@@ -1,0 +1,18 @@
+#pragma once
+
+class QFont;
+
+/// The look of the programs.
+namespace AppStyle {
+
+/// Lets Qt scale the windows on dense screens; to be called before the application object exists.
+void enableHighDpi();
+
+/// The font of the programs, 12 pixels high: the family of "./font/Mulinito-Regular.ttf" or,
+/// without that file, the platform's.
+QFont applicationFont();
+
+/// Gives the application the style sheet from the resources and the palette that goes with it.
+void applyStyleSheet();
+
+} // namespace AppStyle

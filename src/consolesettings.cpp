@@ -1,0 +1,47 @@
+#include "consolesettings.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace {
+
+constexpr int longestPeriod = 10;
+
+/// Line \a index without the carriage return that an editor may have put behind it.
+QString lineAt(const QStringList &lines, int index)
+{
+    QString line = lines.value(index);
+    if (line.endsWith(QLatin1Char('\r')))
+        line.chop(1);
+    return line;
+}
+
+int periodIn(QString line)
+{
+    if (!line.contains(QStringLiteral("Period")))
+        return longestPeriod;
+    const int period = line.remove(QStringLiteral("Period:")).toInt();
+    return period >= 0 && period <= longestPeriod ? period : longestPeriod;
+}
+
+} // namespace
+
+ConsoleSettings ConsoleSettings::parse(const QByteArray &text)
+{
+    const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
+    ConsoleSettings settings;
+    settings.language = lineAt(lines, 0).contains(QStringLiteral("en")) ? QStringLiteral("en")
+                                                                        : QStringLiteral("cn");
+    settings.ipAddress = lineAt(lines, 1).remove(QStringLiteral("IP:"));
+    settings.recordFolder = lineAt(lines, 2).remove(QStringLiteral("Path:"));
+    settings.interval = lineAt(lines, 3).remove(QStringLiteral("Interval:")).toInt();
+    settings.period = periodIn(lineAt(lines, 4));
+    return settings;
+}
+
+QByteArray ConsoleSettings::toText() const
+{
+    return QStringLiteral("language:%1\nIP:%2\nPath:%3\nInterval:%4\nPeriod:%5\n")
+        .arg(language, ipAddress, recordFolder, QString::number(interval), QString::number(period))
+        .toUtf8();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+class QByteArray;
+
+/// The five settings of the console that survive a restart, and their file: five lines in UTF-8,
+/// always in the same order.
+struct ConsoleSettings
+{
+    QString language;     ///< "en" or "cn"
+    QString ipAddress;    ///< of the last LAN connection
+    QString recordFolder; ///< as written; whether it exists is the reader's to see
+    int interval = 0;     ///< of the records, in minutes; not yet clamped
+    int period = 10;      ///< of the time chart, in minutes, 0 to 10
+
+    /// Reads the text of the file. Nothing is refused: a missing line reads as an empty one, a
+    /// language line without "en" is Chinese, an interval that is no number is 0, and a period that
+    /// is none from 0 to 10 is 10.
+    static ConsoleSettings parse(const QByteArray &text);
+
+    /// The text of the file.
+    QByteArray toText() const;
+};

@@ -1,0 +1,98 @@
+#include "startoptions.h"
+
+#include <QCommandLineParser>
+
+#include <optional>
+
+// The texts stay English: the command line is read before there is a language to show them in.
+
+namespace {
+
+/// The options that the console knows.
+struct Known
+{
+    QCommandLineOption lan{QStringLiteral("lan"),
+                           QStringLiteral("Connect to the instrument at HOST."),
+                           QStringLiteral("HOST")};
+    QCommandLineOption serial{
+        QStringLiteral("serial"),
+        QStringLiteral("Open the serial port PORT, at 115200 baud when no BAUD is given."),
+        QStringLiteral("PORT[:BAUD]")};
+    QCommandLineOption language{QStringLiteral("language"),
+                                QStringLiteral("Language of the program: en or cn."),
+                                QStringLiteral("en|cn")};
+};
+
+/// Takes PORT[:BAUD] apart; what is wrong with it, or nothing. Names of ports hold colons as well
+/// (/dev/serial/by-path), so only a number behind the last one is a baud rate.
+std::optional<QString> readSerial(const QString &value, StartOptions &options)
+{
+    options.serialPort = value;
+    const int colon = value.lastIndexOf(QLatin1Char(':'));
+    bool isNumber = false;
+    const int baudRate = value.mid(colon + 1).toInt(&isNumber);
+    if (colon >= 0 && isNumber) {
+        if (baudRate <= 0)
+            return QStringLiteral("%1 is no baud rate.").arg(baudRate);
+        options.serialPort = value.left(colon);
+        options.baudRate = baudRate;
+    }
+    if (options.serialPort.isEmpty())
+        return QStringLiteral("--serial needs the name of a port.");
+    return std::nullopt;
+}
+
+/// What is wrong with what was asked for, or nothing.
+std::optional<QString> readValues(const QCommandLineParser &parser, const Known &known,
+                                  StartOptions &options)
+{
+    if (!parser.positionalArguments().isEmpty())
+        return QStringLiteral("Unexpected argument '%1'.")
+            .arg(parser.positionalArguments().constFirst());
+    if (parser.isSet(known.lan) && parser.isSet(known.serial))
+        return QStringLiteral("--lan and --serial exclude each other.");
+    if (parser.isSet(known.lan)) {
+        options.lanHost = parser.value(known.lan);
+        if (options.lanHost.isEmpty())
+            return QStringLiteral("--lan needs the address of the instrument.");
+    }
+    if (parser.isSet(known.serial)) {
+        if (const auto wrong = readSerial(parser.value(known.serial), options))
+            return wrong;
+    }
+    if (parser.isSet(known.language)) {
+        options.language = parser.value(known.language);
+        if (options.language != QStringLiteral("en") && options.language != QStringLiteral("cn"))
+            return QStringLiteral("Unknown language '%1': en and cn are known.")
+                .arg(options.language);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+StartOptions StartOptions::read(const QStringList &arguments)
+{
+    const Known known;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Console of the MZ6218 RF power meter"));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addOptions({known.lan, known.serial, known.language});
+
+    StartOptions options;
+    if (!parser.parse(arguments)) {
+        options.wish = Wish::Refuse;
+        options.text = parser.errorText() + QStringLiteral("\n\n") + parser.helpText();
+    } else if (parser.isSet(help)) {
+        options.wish = Wish::Print;
+        options.text = parser.helpText();
+    } else if (parser.isSet(version)) {
+        options.wish = Wish::Print;
+        options.text = QStringLiteral("mz6218 " MZ_VERSION "\n");
+    } else if (const auto wrong = readValues(parser, known, options)) {
+        options.wish = Wish::Refuse;
+        options.text = *wrong + QStringLiteral("\n\n") + parser.helpText();
+    }
+    return options;
+}
