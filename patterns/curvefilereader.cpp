@@ -1,0 +1,122 @@
+#include "patterns/curvefilereader.h"
+
+#include "2d/curvetext.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr qint64 chunk = 1 << 20;
+/// Reading takes about as long as parsing.
+constexpr double readingShare = 0.5;
+
+QString firstLine(const QByteArray &bytes)
+{
+    QByteArray line = bytes.left(bytes.indexOf('\n'));
+    if (line.startsWith("\xef\xbb\xbf"))
+        line.remove(0, 3);
+    return QString::fromUtf8(line).trimmed();
+}
+
+} // namespace
+
+bool CurveFileReader::read(const QStringList &files, const Progress &progress)
+{
+    clear();
+    const double count = files.size();
+    for (int i = 0; i < files.size(); ++i) {
+        const QString &file = files.at(i);
+        const auto step = [&](double share) {
+            return !progress || progress(file, int(1000.0 * (i + share) / count));
+        };
+        if (!step(0.0) || readOne(file, step) == Step::GiveUp) {
+            clear();
+            return false;
+        }
+    }
+    return true;
+}
+
+CurveFileReader::Step CurveFileReader::readOne(const QString &file,
+                                               const std::function<bool(double)> &progress)
+{
+    const QString shown = QFileInfo(file).fileName();
+    QByteArray bytes;
+    QString problem;
+    if (!readBytes(file, progress, bytes, problem)) {
+        if (problem.isEmpty())
+            return Step::GiveUp;
+        m_failures.append(QStringLiteral("%1: %2").arg(shown, problem));
+        return Step::Go;
+    }
+    const CurveText::Curve curve = CurveText::fromFile(bytes, [&](qint64 done, qint64 total) {
+        const double share = total > 0 ? double(done) / double(total) : 1.0;
+        return progress(readingShare + (1.0 - readingShare) * share);
+    });
+    if (curve.status == CurveText::Status::Cancelled)
+        return Step::GiveUp;
+    if (curve.status != CurveText::Status::Complete) {
+        const QString reason = bytes.isEmpty() ? tr("The file is empty.")
+                                               : tr("The third line is not \"Angle,Power\".");
+        m_failures.append(tr("%1: Incorrect file format. %2").arg(shown, reason));
+        return Step::Go;
+    }
+    m_curves.append(
+        {QFileInfo(file).absoluteFilePath(), firstLine(bytes), curve.name, curve.points});
+    remark(shown, checkCurveRows(bytes), curve.points.isEmpty());
+    return Step::Go;
+}
+
+/// False with an empty \a problem when the progress function gave up.
+bool CurveFileReader::readBytes(const QString &path, const std::function<bool(double)> &progress,
+                                QByteArray &bytes, QString &problem)
+{
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        problem = tr("This is a folder.");
+        return false;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        problem = tr("The file cannot be opened: %1").arg(file.errorString());
+        return false;
+    }
+    const double size = double(qMax(qint64(1), file.size()));
+    while (true) {
+        const QByteArray part = file.read(chunk);
+        if (part.isEmpty())
+            break;
+        bytes += part;
+        if (!progress(readingShare * qMin(1.0, double(bytes.size()) / size)))
+            return false;
+    }
+    if (file.error() != QFileDevice::NoError) {
+        problem = tr("The file cannot be read: %1").arg(file.errorString());
+        return false;
+    }
+    return true;
+}
+
+void CurveFileReader::remark(const QString &file, const CurveRowCheck &check, bool empty)
+{
+    const auto tell = [&](qint64 rows, const QString &text) {
+        if (rows > 0)
+            m_remarks.append(QStringLiteral("%1: %2").arg(file, text.arg(rows)));
+    };
+    if (empty)
+        m_remarks.append(tr("%1: The file holds no point.").arg(file));
+    tell(check.moreFields,
+         tr("rows with more than two fields, of which the first two were read: %1. "
+            "Decimal commas are not understood, write decimal points."));
+    tell(check.noNumbers, tr("rows with a field that is no number and was read as 0: %1."));
+    tell(check.notFinite, tr("rows left out because a value is not finite: %1."));
+    tell(check.tooShort, tr("rows left out because they have fewer than two fields: %1."));
+}
+
+void CurveFileReader::clear()
+{
+    m_curves.clear();
+    m_failures.clear();
+    m_remarks.clear();
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "patterns/curverowcheck.h"
+
+#include <QCoreApplication>
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+/// A curve as read from a file.
+struct ReadCurve
+{
+    QString file;  ///< absolute path
+    QString title; ///< first line of the file, the title of the chart it was exported from
+    QString name;  ///< second line
+    QVector<QPointF> points;
+};
+
+/// Reads curve files one after the other and collects what has to be told about them. A file that
+/// cannot be read keeps none of the others from being read.
+class CurveFileReader
+{
+    Q_DECLARE_TR_FUNCTIONS(CurveFileReader)
+
+public:
+    /// Told which file is read and how much of all of it, 0 to 1000; returns false to give up.
+    using Progress = std::function<bool(const QString &file, int perMille)>;
+
+    /// Reads \a files. Returns false when the progress function gave up; nothing is kept then.
+    bool read(const QStringList &files, const Progress &progress = {});
+
+    const QVector<ReadCurve> &curves() const { return m_curves; }
+    /// One sentence a file that was not read, with the reason.
+    const QStringList &failures() const { return m_failures; }
+    /// One sentence a thing in a file that was read but perhaps not as its author meant it.
+    const QStringList &remarks() const { return m_remarks; }
+
+private:
+    enum class Step { Go, GiveUp };
+
+    Step readOne(const QString &file, const std::function<bool(double)> &progress);
+    bool readBytes(const QString &file, const std::function<bool(double)> &progress,
+                   QByteArray &bytes, QString &problem);
+    void remark(const QString &file, const CurveRowCheck &check, bool empty);
+    void clear();
+
+    QVector<ReadCurve> m_curves;
+    QStringList m_failures;
+    QStringList m_remarks;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDateTime>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// One curve in a report.
+struct ReportCurve
+{
+    QString name;
+    QString color;     ///< "#rrggbb", that of the curve in the picture
+    QString file;      ///< where it came from; empty for a pasted or dropped curve
+    QString frequency; ///< MHz
+    QString material;
+    int points = 0;
+    double firstAngle = 0.0;   ///< degrees
+    double lastAngle = 0.0;    ///< degrees
+    QString correction;        ///< what was added to its levels; empty for a curve as measured
+    QStringList figures;       ///< cells under Report::figureHeadings; empty: no points
+    QStringList supplementary; ///< cells under Report::supplementaryHeadings
+};
+
+/// A page about the curves of one window.
+struct Report
+{
+    QString title;
+    QDateTime created;
+    QString picture;   ///< address of the picture: a resource of the document or a data URL
+    QSize pictureSize; ///< in which it is shown, pixels
+    QStringList figureHeadings;
+    QStringList supplementaryHeadings;
+    QVector<ReportCurve> curves;
+};
+
+/// The report as one HTML page that browsers and QTextDocument both show.
+QString reportHtml(const Report &report);
