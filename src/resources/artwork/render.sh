@@ -25,20 +25,23 @@ render() {
 
 # icon SOURCE-NAME PROGRAM ICO: up to 32 pixels the simplified drawing, above it the full one.
 icon() {
-    files=
     for size in 16 20 24 32 40 48 64 128 256 512; do
         source=$here/$1.svg
         [ "$size" -gt 32 ] || source=$here/$1-small.svg
         render "$source" "$size" "$work/$2-$size.png"
-        [ "$size" -eq 512 ] || files="$files $work/$2-$size.png"
+        case $size in
+            512) ;;
+            # The largest one is stored as PNG inside, which keeps the file small.
+            256) set -- "$@" "--raw=$work/$2-$size.png" ;;
+            *) set -- "$@" "$work/$2-$size.png" ;;
+        esac
         case $size in 20 | 40) continue ;; esac
         mkdir -p "$icons/${size}x$size/apps"
         cp "$work/$2-$size.png" "$icons/${size}x$size/apps/$2.png"
     done
-    # The largest one is stored as PNG inside, which keeps the file small.
-    # shellcheck disable=SC2086
-    icotool --create --output "$3" \
-        $(for f in $files; do case $f in *-256.png) printf ' --raw=%s' "$f" ;; *) printf ' %s' "$f" ;; esac; done)
+    ico=$3
+    shift 3
+    icotool --create --output "$ico" "$@"
 }
 
 # animation SIZE TARGET: one turn in a second. A GIF knows no half transparency, so the soft edges are
