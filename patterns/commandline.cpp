@@ -1,28 +1,20 @@
 #include "patterns/commandline.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 
-namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
-};
-
-} // namespace
+// The texts stay English: the command line is read before there is a language to show them in.
 
 CommandLine readCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(Text::tr("Antenna pattern workbench"));
+    parser.setApplicationDescription(QStringLiteral("Antenna pattern workbench of the MZ6218."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption language(QStringLiteral("language"),
-                                      Text::tr("Language of the program: en or cn."),
+                                      QStringLiteral("Language of the program: en or cn."),
                                       QStringLiteral("en|cn"));
     parser.addOption(language);
-    parser.addPositionalArgument(QStringLiteral("files"), Text::tr("Curve files to open."),
+    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Curve files to open."),
                                  QStringLiteral("[files...]"));
 
     CommandLine line;
@@ -38,10 +30,10 @@ CommandLine readCommandLine(const QStringList &arguments)
     } else if (parser.isSet(version)) {
         line.wish = CommandLine::Wish::Print;
         line.text = QStringLiteral("mz6218-patterns " MZ_VERSION);
-    } else if (parser.isSet(language) && line.language != QStringLiteral("en") &&
-               line.language != QStringLiteral("cn")) {
+    } else if (parser.isSet(language) && line.language != QStringLiteral("en")
+               && line.language != QStringLiteral("cn")) {
         line.wish = CommandLine::Wish::Refuse;
-        line.text = Text::tr("Unknown language '%1': en and cn are known.").arg(line.language);
+        line.text = QStringLiteral("Unknown language \"%1\": en and cn are known.").arg(line.language);
     }
     return line;
 }

@@ -1,4 +1,4 @@
-#include "antennaformulas.h"
+#include "patterns/samples/antennaformulas.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "samples.h"
+#include "patterns/samples/samples.h"
 
 #include <QCoreApplication>
 #include <QDir>

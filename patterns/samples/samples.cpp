@@ -1,8 +1,7 @@
-#include "samples.h"
+#include "patterns/samples/samples.h"
 
-#include "antennaformulas.h"
-
-#include <QLocale>
+#include "2d/curvetext.h"
+#include "patterns/samples/antennaformulas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -61,13 +60,7 @@ QVector<SampleCurve> sampleCurves()
 
 QByteArray curveFile(const SampleCurve &curve)
 {
-    const auto number = [](double value) {
-        return QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
-    };
-    QByteArray text = curve.title.toUtf8() + '\n' + curve.name.toUtf8() + "\nAngle,Power\n";
-    for (const QPointF &point : curve.points)
-        text += number(point.x()) + ',' + number(point.y()) + '\n';
-    return text;
+    return CurveText::toFile(curve.title, curve.name, curve.points);
 }
 
 QByteArray sampleLossTable()

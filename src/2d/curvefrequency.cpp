@@ -24,7 +24,7 @@ QString megahertz(const QString &number, const QString &unit)
 QString frequencyInName(const QString &name)
 {
     static const QRegularExpression withUnit(
-        QStringLiteral("(?<![\\w.])(\\d+(?:\\.\\d+)?)\\s*([gmk]?hz)\\b"),
+        QStringLiteral("(?<![\\w.,])(\\d+(?:\\.\\d+)?)\\s*([gmk]?hz)\\b"),
         QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = withUnit.match(name);
     if (match.hasMatch())
