@@ -1,0 +1,108 @@
+#include "instrument.h"
+
+#include "powertext.h"
+
+#include <cmath>
+
+namespace sim {
+
+namespace {
+
+struct UnitInfo
+{
+    double factor; // kHz
+    int decimals;  // down to 1 kHz
+    const char *text;
+};
+
+UnitInfo info(FrequencyUnit unit)
+{
+    switch (unit) {
+    case FrequencyUnit::KHz:
+        return {1.0, 0, "KHz"};
+    case FrequencyUnit::MHz:
+        return {1e3, 3, "MHz"};
+    case FrequencyUnit::GHz:
+        break;
+    }
+    return {1e6, 6, "GHz"};
+}
+
+} // namespace
+
+Instrument::Instrument(const PowerSource &source, quint32 serialNumber, bool microSign)
+    : m_source(source)
+    , m_serialNumber(serialNumber)
+    , m_microSign(microSign)
+{}
+
+QByteArray Instrument::identity() const
+{
+    return "MZ6218,SIM" + QByteArray::number(m_serialNumber).rightJustified(6, '0') +
+           "," MZ_VERSION;
+}
+
+bool Instrument::setFrequency(double value, FrequencyUnit unit)
+{
+    constexpr double maximum = 40e6;
+    const double kHz = std::round(value * info(unit).factor);
+    if (!(kHz >= 1.0 && kHz <= maximum))
+        return false;
+    m_frequency = static_cast<qint64>(kHz);
+    m_frequencyUnit = unit;
+    return true;
+}
+
+QByteArray Instrument::frequencyText() const
+{
+    const UnitInfo unit = info(m_frequencyUnit);
+    QByteArray text = QByteArray::number(double(m_frequency) / unit.factor, 'f', unit.decimals);
+    if (text.contains('.')) {
+        while (text.endsWith('0'))
+            text.chop(1);
+        if (text.endsWith('.'))
+            text.chop(1);
+    }
+    return text + unit.text;
+}
+
+bool Instrument::setOffset(double dB)
+{
+    if (!(std::abs(dB) <= 100.0))
+        return false;
+    m_offset = dB;
+    return true;
+}
+
+bool Instrument::setAverageCount(int count)
+{
+    if (count < 1 || count > 1024)
+        return false;
+    m_averageCount = count;
+    return true;
+}
+
+void Instrument::setRelative(bool on)
+{
+    m_relative = on;
+    if (on)
+        m_reference = absolutePower();
+}
+
+QByteArray Instrument::measure()
+{
+    const double power = absolutePower();
+    if (m_relative) {
+        const QByteArray text = twoDecimals(power - m_reference);
+        return text + "dBm," + text + "dB";
+    }
+    const QByteArray dBm = twoDecimals(power) + "dBm";
+    return dBm + ',' + (m_powerUnit == PowerUnit::DBm ? dBm : wattText(power, m_microSign));
+}
+
+double Instrument::absolutePower()
+{
+    return m_source.read(m_averageCount) + m_offset;
+}
+
+} // namespace sim
