@@ -88,6 +88,9 @@ signals:
     void clearParaInfoToTable();
     /// The chart's size less 60 in width, plus 10 in height.
     void updataSize(QSizeF size);
+    /// A curve came, went, or looks, is shown or is called otherwise: for forms that show the same
+    /// curves elsewhere too.
+    void curvesChanged();
 
 public slots:
     void tooltip(QPointF point, bool state);
