@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Logic/seriallogic.h"
+#include "fakeinstrument.h"
+
+#include <QIODevice>
+#include <QStringList>
+
+/// A link and the fake instrument at its other end, with a record of everything the link tells.
+class LinkBench
+{
+public:
+    /// \a linkMode is 0 for serial, 1 for TCP.
+    explicit LinkBench(int linkMode, const QList<Answer> &answers = {});
+
+    /// Opens the link to the instrument.
+    bool open();
+    /// Lets reads give up after a moment, for answers that never come.
+    void shortenReading();
+    /// The port or socket that the link uses.
+    QIODevice *device() const;
+    /// Whether the device at this end of the line is up.
+    bool isUp() const;
+    /// Lets the further pieces of an answer follow, each when the one before it has arrived.
+    void letPiecesFollow();
+
+    const int mode;
+    LinkWaits waits;
+    FakeInstrument instrument;
+    SerialLogic link;
+
+    QStringList values;    ///< the update signals in order, as "frequency 2.45 'GHz'"
+    QStringList errors;    ///< the messages for the user
+    QStringList displayed; ///< the lines for the on-screen log
+
+private:
+    void record();
+};
