@@ -302,7 +302,8 @@ Curve fromFile(const QByteArray &bytes, const Progress &progress)
     Lines lines(text);
     std::string_view line;
     Curve curve;
-    lines.next(line); // the chart's title is of no use here
+    if (lines.next(line))
+        curve.title = decoded(line);
     if (lines.next(line))
         curve.name = decoded(line);
     if (!lines.next(line) || !isHeader(line)) {

@@ -28,6 +28,7 @@ enum class Status {
 struct Curve
 {
     Status status = Status::Complete;
+    QString title; ///< of the chart the file was written from; empty for a plain text
     QString name;
     QVector<QPointF> points; ///< in the order of the rows, finite throughout
 };

@@ -184,15 +184,9 @@ PatternAnalysis analyseAscending(const Points &points, const Points &inOrder)
     return result;
 }
 
-bool isInside(const QPointF &point, const ViewRange &axes)
-{
-    return point.x() >= axes.xMin && point.x() <= axes.xMax && point.y() >= axes.yMin &&
-           point.y() <= axes.yMax;
-}
-
 std::optional<QLineF> rise(const std::optional<QPointF> &tip, const ViewRange &axes)
 {
-    if (!tip || !isInside(*tip, axes))
+    if (!tip || !axes.contains(*tip))
         return std::nullopt;
     return QLineF(QPointF(tip->x(), axes.yMin), *tip);
 }
@@ -200,7 +194,7 @@ std::optional<QLineF> rise(const std::optional<QPointF> &tip, const ViewRange &a
 std::optional<QLineF> span(const std::optional<QPointF> &left, const std::optional<QPointF> &right,
                            const ViewRange &axes)
 {
-    if (!left || !right || !isInside(*left, axes) || !isInside(*right, axes))
+    if (!left || !right || !axes.contains(*left) || !axes.contains(*right))
         return std::nullopt;
     return QLineF(*left, *right);
 }

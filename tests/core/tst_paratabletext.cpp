@@ -1,0 +1,107 @@
+#include "2d/paratabletext.h"
+#include "testmain.h"
+
+class TestParaTableText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fillsTheFloatingTable();
+    void fillsTheFrequencyTable();
+    void marksCrossPolarData_data();
+    void marksCrossPolarData();
+    void printsUndefinedRatios_data();
+    void printsUndefinedRatios();
+};
+
+namespace {
+
+QStringList texts(std::initializer_list<const char *> cells)
+{
+    QStringList list;
+    for (const char *cell : cells)
+        list.append(QString::fromLatin1(cell));
+    return list;
+}
+
+ParaInfo sampleInfo()
+{
+    ParaInfo info;
+    info.gain = {1.005, 20.0};
+    info.halfPowerLeft = {10.25, 17.0};
+    info.halfPowerRight = {-9.5, 17.0};
+    info.firstNullLeft = {-20.0, -14.126};
+    info.firstNullRight = {10000.0, 10000.0};
+    info.firstSideLobeLeft = {-100.0, -100.0};
+    info.firstSideLobeRight = {31.0, 6.66666};
+    info.backLobe = {-178.995, 2.0};
+    info.axialRatio = {0.0, 34.126};
+    info.crossPolarRatio = {0.0, 0.0};
+    return info;
+}
+
+} // namespace
+
+void TestParaTableText::fillsTheFloatingTable()
+{
+    const QStringList expected =
+        texts({"1.00|20.00", "10.25|17.00", "-9.50|17.00", "-19.75|17.00", "-20.00|-14.13",
+               "10000.00|10000.00", "-100.00|-100.00", "31.00|6.67", "|1.00", "|34.13", "|0.00"});
+    QStringList actual;
+    for (const FloatingTableRow &row : floatingTableCells(sampleInfo()))
+        actual.append(row.angle + QLatin1Char('|') + row.level);
+    QCOMPARE(actual, expected);
+}
+
+void TestParaTableText::fillsTheFrequencyTable()
+{
+    const QStringList expected = texts(
+        {"2450 up", "20.0000", "19.7500", "-100.0000", "6.6667", "25.1055", "34.1260", "0.0000"});
+    QCOMPARE(frequencyTableCells(sampleInfo(), QStringLiteral("2450 up")), expected);
+    QCOMPARE(amplitudeCell(sampleInfo()), QStringLiteral("10.0000"));
+}
+
+void TestParaTableText::marksCrossPolarData_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QString>("cell");
+    QTest::newRow("no data") << 255.0 << QStringLiteral("nan");
+    QTest::newRow("just within") << 255.0000009 << QStringLiteral("nan");
+    QTest::newRow("just outside") << 254.9999 << QStringLiteral("254.9999");
+    QTest::newRow("a ratio") << -25.5 << QStringLiteral("-25.5000");
+}
+
+void TestParaTableText::marksCrossPolarData()
+{
+    QFETCH(const double, ratio);
+    ParaInfo info;
+    info.crossPolarRatio.second = ratio;
+    QTEST(frequencyTableCells(info, {}).last(), "cell");
+}
+
+void TestParaTableText::printsUndefinedRatios_data()
+{
+    QTest::addColumn<double>("gain");
+    QTest::addColumn<double>("back");
+    QTest::addColumn<QString>("floating");
+    QTest::addColumn<QString>("frequency");
+    const QString nan = QStringLiteral("nan");
+    QTest::newRow("equal levels") << 5.0 << 5.0 << QStringLiteral("inf") << QStringLiteral("-inf");
+    QTest::newRow("gain below the back lobe") << -5.0 << 5.0 << nan << nan;
+    QTest::newRow("back lobe at 0")
+        << 10.0 << 0.0 << QStringLiteral("0.00") << QStringLiteral("20.0000");
+}
+
+void TestParaTableText::printsUndefinedRatios()
+{
+    QFETCH(const double, gain);
+    QFETCH(const double, back);
+    ParaInfo info;
+    info.gain.second = gain;
+    info.backLobe.second = back;
+    QTEST(floatingTableCells(info)[8].level, "floating");
+    QTEST(frequencyTableCells(info, {})[5], "frequency");
+}
+
+MZ_TEST_GUILESS_MAIN(TestParaTableText)
+#include "tst_paratabletext.moc"
