@@ -191,6 +191,10 @@ run_on_virtual_screen() {
     rm -f "$folder/mz6218"
     echo "What it left is in $folder:"
     (cd "$folder" && find . -type f | sort)
+    local kind
+    for kind in console.png 'DataRecord/*.csv' 'Log/*/*.txt'; do
+        compgen -G "$folder/$kind" >/dev/null || { echo "There is no $kind among it." >&2 && exit 1; }
+    done
 }
 
 read_options "$@"

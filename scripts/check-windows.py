@@ -1,0 +1,67 @@
+#!/usr/bin/env python3
+"""Lets the Windows compiler read every source of ours, as far as the syntax goes.
+
+check-windows.py [BUILD-FOLDER] [PART-OF-A-PATH]
+
+mingw-w64 reads them with Windows' own headers and with the Qt headers of this machine, which take
+their Windows branches by the compiler's macros. It needs a finished build, whose flags and generated
+headers it uses.
+"""
+
+import json
+import os
+import shlex
+import subprocess
+import sys
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+COMPILER = "x86_64-w64-mingw32-g++-posix"
+# CMake adds these for Unix alone.
+UNIX_ONLY = {"ptylink.cpp"}
+WARNINGS = ["-Wall", "-Wextra", "-Werror"]
+
+
+def settings_of(command):
+    """What of a compilation's command decides on what the compiler sees."""
+    words = iter(shlex.split(command))
+    for word in words:
+        if word.startswith(("-D", "-I")):
+            yield word
+        elif word == "-isystem":
+            yield from (word, next(words))
+
+
+def compilations(build, part):
+    """The settings of each source of ours, one compilation a source."""
+    database = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    found = {}
+    for entry in database:
+        source = Path(entry["file"])
+        ours = source.is_relative_to(ROOT) and not source.is_relative_to(build)
+        if ours and source.name not in UNIX_ONLY and part in str(source):
+            found[source] = list(settings_of(entry["command"]))
+    return found
+
+
+def compiles(source, settings):
+    result = subprocess.run([COMPILER, "-std=c++17", "-fsyntax-only", *WARNINGS, *settings, str(source)],
+                            capture_output=True, text=True, check=False)
+    if result.returncode != 0:
+        print(f"Windows refuses {source.relative_to(ROOT)}:\n{result.stderr}", file=sys.stderr, flush=True)
+    return result.returncode == 0
+
+
+def main(build="build", part=""):
+    found = compilations(Path(build).resolve(), part)
+    if not found:
+        sys.exit(f"There is nothing to check in {build}.")
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        results = list(pool.map(compiles, found.keys(), found.values()))
+    print(f"{results.count(True)} of {len(results)} sources compile for Windows.")
+    return 0 if all(results) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:3]))
