@@ -161,9 +161,11 @@ void SerialLogic::delayClose()
 
 void SerialLogic::closeLostPort()
 {
-    // The notifier of an adapter that was unplugged would fire without end. The next command tells
-    // the operator.
-    if (m_port->error() == QSerialPort::ResourceError && m_port->isOpen())
+    // An adapter that was unplugged reads as a hung-up line, which is a read error on Linux. Its
+    // notifier would fire without end; the next command tells the operator.
+    const QSerialPort::SerialPortError error = m_port->error();
+    const bool isLost = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
+    if (isLost && m_port->isOpen())
         m_port->close();
 }
 
