@@ -7,10 +7,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
-#include <QPointer>
 #include <QSignalBlocker>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include <cmath>
 
@@ -120,11 +117,10 @@ void LineEdit::mousePressEvent(QMouseEvent *)
 void LineEdit::keyPressEvent(QKeyEvent *event)
 {
     // Keys that the open editor has no use for come by here too, and must not start it again.
-    if (m_editor->isVisibleTo(this)) {
-        QFrame::keyPressEvent(event);
-    } else if (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Space) {
+    const bool atRest = !m_editor->isVisibleTo(this);
+    if (atRest && (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Space)) {
         startEditing();
-    } else if (beginsNumber(event->text())) {
+    } else if (atRest && beginsNumber(event->text())) {
         startEditing();
         // The whole text is selected, so that the key begins a new number.
         QCoreApplication::sendEvent(m_editor, event);
@@ -138,10 +134,10 @@ void LineEdit::paintEvent(QPaintEvent *event)
     QFrame::paintEvent(event);
     if (!hasFocus())
         return;
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
+    // Not the style's focus frame: the application's style sheet turns that off.
     QPainter painter(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void LineEdit::changeEvent(QEvent *event)
@@ -198,16 +194,16 @@ void LineEdit::showLabel()
 /// widget: once that is done, the focus follows him there.
 void LineEdit::passFocusOn(Qt::FocusReason reason)
 {
-    const QPointer<QWidget> target = QApplication::focusWidget();
+    QWidget *target = QApplication::focusWidget();
     if (!target || target == m_editor)
         return;
-    const auto moveOn = [this, target, reason] {
-        if (target == this && reason == Qt::BacktabFocusReason)
-            focusNextPrevChild(false);
-        else if (target)
-            target->setFocus(reason);
-    };
-    QMetaObject::invokeMethod(this, moveOn, Qt::QueuedConnection);
+    if (target == this && reason == Qt::BacktabFocusReason) {
+        const auto stepBack = [this] { focusNextPrevChild(false); };
+        QMetaObject::invokeMethod(this, stepBack, Qt::QueuedConnection);
+        return;
+    }
+    const auto moveOn = [target, reason] { target->setFocus(reason); };
+    QMetaObject::invokeMethod(target, moveOn, Qt::QueuedConnection);
 }
 
 void LineEdit::showRange()
