@@ -3,6 +3,7 @@
 #include "2d/curvetext.h"
 
 #include <QChartView>
+#include <QGraphicsLayout>
 #include <QLineSeries>
 #include <QMimeData>
 #include <QPolarChart>
@@ -45,8 +46,9 @@ std::unique_ptr<QChart> bareChart(int kind)
     else
         chart = std::make_unique<QChart>();
     chart->legend()->hide();
-    chart->setMargins(QMargins(4, 4, 4, 4));
+    chart->setMargins(QMargins(8, 8, 8, 8));
     chart->setBackgroundRoundness(0.0);
+    chart->layout()->setContentsMargins(0.0, 0.0, 0.0, 0.0);
     return chart;
 }
 
@@ -92,7 +94,7 @@ QPixmap curveDragPixmap(int kind, const QColor &color, const QVector<QPointF> &p
 
     QChartView view(chart);
     view.setRenderHint(QPainter::Antialiasing);
-    view.setFrameShape(QFrame::Box);
+    view.setFrameStyle(QFrame::Box | QFrame::Plain);
     view.resize(pictureSize);
     return view.grab();
 }

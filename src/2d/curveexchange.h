@@ -38,10 +38,12 @@ public:
 
 private:
     PathInfo *curveToExport();
+    QString askFileToWrite(const QString &filter);
     void addFromText(const QString &text);
     std::optional<QString> freeName(const QString &name);
     void rememberFolder(const QString &fileName);
     void tell(const QString &text, int kind);
+    void tellFailure(const QString &text, const QString &reason);
 
     GraphicsBase &m_view;
 };

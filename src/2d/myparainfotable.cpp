@@ -27,6 +27,9 @@ MyParaInfoTable::MyParaInfoTable(QWidget *parent)
     setStyleSheet(QStringLiteral("QTableView::item {height: 20px;}"));
     setFixedSize(tableWidth, floatingTableRows * heightOfRow);
     setFrameShape(NoFrame);
+    QFont small = font();
+    small.setPixelSize(10); // the longest name just fits its third of the width
+    setFont(small);
     setAccessibleName(tr("Pattern parameters"));
     setVisible(false);
 }

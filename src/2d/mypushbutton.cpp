@@ -1,6 +1,14 @@
 #include "2d/mypushbutton.h"
 
 #include <QColorDialog>
+#include <QPainter>
+
+namespace {
+
+constexpr QColor accent(0x0A, 0x86, 0xD6);
+constexpr QColor edge(0x8D, 0x98, 0xA3);
+
+} // namespace
 
 MyPushButton::MyPushButton(int index, QWidget *parent)
     : QPushButton(parent)
@@ -16,10 +24,22 @@ void MyPushButton::setBackgroundColor(QColor color)
     setPalette(colors);
     setAutoFillBackground(true);
     setFlat(true);
-    // The application's style sheet paints buttons in its own colours, over any palette.
-    setStyleSheet(QStringLiteral("QPushButton { background-color: %1; border: 1px solid #8D98A3;"
-                                 " border-radius: 3px; }")
-                      .arg(color.name()));
+    m_color = color;
+    update();
+}
+
+void MyPushButton::paintEvent(QPaintEvent *event)
+{
+    QPushButton::paintEvent(event);
+    if (!m_color.isValid())
+        return;
+    // Painted here, for the application's style sheet paints buttons in its own colours over any
+    // palette.
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(hasFocus() ? accent : edge, hasFocus() ? 2.0 : 1.0));
+    painter.setBrush(m_color);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0), 3.0, 3.0);
 }
 
 void MyPushButton::clickedSlot()

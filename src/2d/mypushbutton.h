@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QPushButton>
 
 /// A button that shows a colour and knows which column of a table it stands in.
@@ -21,6 +22,10 @@ public slots:
     /// Asks for a colour.
     void clickedSlot();
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     int m_index;
+    QColor m_color;
 };
