@@ -12,4 +12,22 @@ target_sources(mz_widgets PRIVATE
     appinit.cpp appinit.h
     appstyle.cpp appstyle.h
     language.cpp language.h
+    widgets/loadingdialog.cpp widgets/loadingdialog.h widgets/loadingdialog.ui
 )
+
+add_library(mz_console STATIC
+    connectdialog.cpp connectdialog.h connectdialog.ui
+    consolepanel.cpp consolepanel.h
+    linkmode.h
+    linksession.cpp linksession.h
+    mainwindow.cpp mainwindow.h mainwindow.ui
+    portlist.cpp portlist.h
+    powerdisplay.cpp powerdisplay.h
+    statuslabels.cpp statuslabels.h
+    timechart.cpp timechart.h
+)
+target_link_libraries(mz_console PUBLIC mz_chart mz_link PRIVATE mz_flags)
+
+if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/2d/graphicsbase.cpp")
+    mz_add_program(mz6218 SOURCES main.cpp LIBRARIES mz_console mz_resources)
+endif()

@@ -1,11 +1,15 @@
 #include "consolesettings.h"
 
 #include <QByteArray>
+#include <QDebug>
+#include <QFile>
+#include <QSaveFile>
 #include <QStringList>
 
 namespace {
 
 constexpr int longestPeriod = 10;
+constexpr qint64 sizeLimit = 65536; // what is longer is no settings file
 
 /// Line \a index without the carriage return that an editor may have put behind it.
 QString lineAt(const QStringList &lines, int index)
@@ -44,4 +48,24 @@ QByteArray ConsoleSettings::toText() const
     return QStringLiteral("language:%1\nIP:%2\nPath:%3\nInterval:%4\nPeriod:%5\n")
         .arg(language, ipAddress, recordFolder, QString::number(interval), QString::number(period))
         .toUtf8();
+}
+
+std::optional<ConsoleSettings> ConsoleSettings::load(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return parse(file.read(sizeLimit));
+}
+
+void ConsoleSettings::save(const QString &path) const
+{
+    // A full disk must not leave an empty file behind, which would read as Chinese and one minute.
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(toText());
+        if (!file.commit())
+            qWarning().noquote() << "Settings not written to" << path << ":" << file.errorString();
+    }
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class QByteArray;
 
 /// The five settings of the console that survive a restart, and their file: five lines in UTF-8,
@@ -21,4 +23,10 @@ struct ConsoleSettings
 
     /// The text of the file.
     QByteArray toText() const;
+
+    /// Reads the file at \a path; nothing when it cannot be opened.
+    static std::optional<ConsoleSettings> load(const QString &path);
+
+    /// Replaces the file at \a path; where it cannot be written the old one stays.
+    void save(const QString &path) const;
 };

@@ -1,0 +1,77 @@
+#include "connectdialog.h"
+
+#include "linkmode.h"
+#include "ui_connectdialog.h"
+
+#include <QDebug>
+#include <QSerialPortInfo>
+
+ConnectDialog::ConnectDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ConnectDialog>())
+{
+    m_ui->setupUi(this);
+    fillBaudRates();
+    on_btnUpdate_clicked();
+    setLinkMode(serialLink);
+    setWindowTitle(tr("Connection"));
+    setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
+}
+
+ConnectDialog::~ConnectDialog() = default;
+
+void ConnectDialog::setLinkMode(const int &mode)
+{
+    if (mode != serialLink && mode != lanLink)
+        return;
+    m_mode = mode;
+    const bool serial = mode == serialLink;
+    m_ui->frameSerial->setVisible(serial);
+    m_ui->btnUpdate->setVisible(serial);
+    m_ui->frameLAN->setVisible(!serial);
+    setFixedSize(280, serial ? 250 : 180);
+}
+
+void ConnectDialog::retranslate()
+{
+    const QString chosenBaudRate = m_ui->baudRate->currentText();
+    m_ui->retranslateUi(this);
+    fillBaudRates();
+    m_ui->baudRate->setCurrentText(chosenBaudRate);
+    setWindowTitle(tr("Connection"));
+}
+
+void ConnectDialog::setIP(QString ip)
+{
+    qDebug() << "setIP: " << ip;
+    m_ui->lineEdit->setText(ip);
+}
+
+void ConnectDialog::on_accept_clicked()
+{
+    if (m_mode == lanLink)
+        emit openPort(m_ui->lineEdit->text(), instrumentTcpPort);
+    else
+        emit openPort(m_ui->port->currentText(), m_ui->baudRate->currentText().toInt());
+    accept();
+}
+
+void ConnectDialog::on_cancel_clicked()
+{
+    reject();
+}
+
+void ConnectDialog::on_btnUpdate_clicked()
+{
+    // The list grows with every refresh: what the user has chosen so far must not vanish from it.
+    const auto ports = QSerialPortInfo::availablePorts();
+    for (const QSerialPortInfo &port : ports)
+        m_ui->port->addItem(port.portName());
+}
+
+void ConnectDialog::fillBaudRates()
+{
+    m_ui->baudRate->clear();
+    m_ui->baudRate->addItems({tr("1200"), tr("2400"), tr("4800"), tr("9600"), tr("14400"),
+                              tr("19200"), tr("38400"), tr("57600"), tr("115200")});
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class ConnectDialog;
+}
+
+/// The dialog in which the user picks how to reach the instrument: a serial port and its baud rate,
+/// or an IP address. It opens nothing itself.
+class ConnectDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ConnectDialog(QWidget *parent = nullptr);
+    ~ConnectDialog() override;
+
+    /// Asks for a port and a baud rate (0 = serial) or for an IP address (1 = LAN); any other mode
+    /// changes nothing.
+    void setLinkMode(const int &mode);
+
+    /// Shows all texts in the current language; the chosen baud rate stays.
+    void retranslate();
+
+public slots:
+    /// Proposes \a ip as the address.
+    void setIP(QString ip);
+
+signals:
+    /// The user's choice: serial port and baud rate, or IP address and TCP port.
+    void openPort(QString port, int baudRate);
+
+private slots:
+    void on_accept_clicked();
+    void on_cancel_clicked();
+    void on_btnUpdate_clicked();
+
+private:
+    void fillBaudRates();
+
+    std::unique_ptr<Ui::ConnectDialog> m_ui;
+    int m_mode = 0;
+};

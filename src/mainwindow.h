@@ -1,0 +1,135 @@
+#pragma once
+
+#include "consolepanel.h"
+#include "language.h"
+#include "linkmode.h"
+#include "portlist.h"
+#include "statuslabels.h"
+#include "timechart.h"
+
+#include <QMainWindow>
+#include <QString>
+
+#include <memory>
+
+class ConnectDialog;
+class LinkSession;
+class LoadingDialog;
+class QTimer;
+class SerialLogic;
+struct StartOptions;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The console of the power meter: it drives the instrument over the link, shows, charts and
+/// records the readings, and keeps the settings in "config.ini" beside the program.
+///
+/// The window is wiring. What the link reports comes in through the update slots, what the user
+/// wishes through the slots bound to the widgets; the link's life is LinkSession's, the look of the
+/// form ConsolePanel's.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Does what the command line asks for, by the same roads as the operator's clicks.
+    void begin(const StartOptions &options);
+
+    /// Sends the value of a number box when Enter is pressed in it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public slots:
+    /// Opens the link and reads back what the instrument is set to: \a port and \a baudRate are the
+    /// serial port and its baud rate, or the host and its TCP port. False when that failed; the
+    /// user has been told.
+    bool openPort(const QString &port, const int &baudRate);
+
+    void updateIDN(QString idn);
+    void updateFrequency(double freq, QString unit);
+    void updateOffset(double offset);
+    void updateAverageCount(int count);
+    void updatePowerUnit(QString unit);
+    void updateRelState(QString state);
+    /// Shows a reading: \a dialValue in dBm and the instrument's own text of it.
+    void updatePower(double dialValue, QString showText);
+    void updateSetZeroSuccess();
+    void updateSetZeroFailed();
+    void updateCalibrationSuccess();
+    void updateCalibrationFailed();
+
+    /// Tells of an error, every one of which counts as a lost link.
+    void errorMessageBox(QString error);
+    void infoMessageBox(QString info);
+
+    void timerOut();
+    void readValue();
+    void loadingTimerOut();
+    void saveValue();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private slots:
+    void on_actionOpen_triggered();
+    void on_actionClose_triggered();
+    void on_actionConnect_triggered();
+    void on_actionDisconnect_triggered();
+    void on_actionCommunication_by_Serial_triggered(bool checked);
+    void on_actionCommunication_by_LAN_triggered(bool checked);
+    void on_actionExit_triggered();
+    void on_actionHelp_triggered();
+    void on_actionCN_triggered(bool checked);
+    void on_actionEN_triggered(bool checked);
+
+    void on_btnOpen_clicked();
+    void on_btnClose_clicked();
+    void on_btnSetFreq_clicked();
+    void on_comboBoxUnit_currentIndexChanged(const QString &arg1);
+    void on_btnSetOffset_clicked();
+    void on_btnSetAverageCount_clicked();
+    void on_radioButtonRelativeON_clicked();
+    void on_radioButtonRelativeON_toggled(bool checked);
+    void on_radioButtonRelativeOFF_toggled(bool checked);
+    void on_radioButtondBm_toggled(bool checked);
+    void on_radioButtonW_toggled(bool checked);
+    void on_btnSetZero_clicked();
+    void on_btnCalibration_clicked();
+    void on_btnSetChartPeriod_clicked();
+    void on_btnResetChart_clicked();
+    void on_btnReset_clicked();
+    void on_btnPath_clicked();
+
+private:
+    void connectLink();
+    QTimer *createTimer(const char *name, void (MainWindow::*slot)());
+    void setLinkMode(LinkMode mode);
+
+    void startTask(void (SerialLogic::*task)(), const QString &name);
+    void endWait();
+    void warn(const QString &text);
+
+    void readSettings();
+    void writeSettings() const;
+    void setLanguage(const QString &code);
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    Language m_language;
+    ConsolePanel m_panel;
+    StatusLabels m_status;
+    PortList m_ports;
+    TimeChart m_chart;
+    SerialLogic *m_link;
+    LinkSession *m_session;
+    ConnectDialog *m_connectDialog;
+    LoadingDialog *m_loadingDialog;
+    QTimer *m_clockTimer;
+    QTimer *m_loadingTimer;
+    int m_waitCountdown; // seconds left for zeroing or calibration
+    bool m_errorBoxOpen = false;
+};

@@ -1,0 +1,54 @@
+#include "widgets/loadingdialog.h"
+
+#include "ui_loadingdialog.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMovie>
+
+LoadingDialog::LoadingDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::LoadingDialog>())
+    , m_movie(new QMovie(this))
+{
+    m_ui->setupUi(this);
+    setWindowFlags(Qt::SplashScreen);
+    setAttribute(Qt::WA_TranslucentBackground);
+    m_movie->setFileName(QStringLiteral(":/image/loading.gif"));
+    m_ui->labelMovie->setMovie(m_movie);
+    m_ui->labelText->setStyleSheet(
+        QStringLiteral("QLabel {font-size: 30px; font-weight: bold; color: #FF0000;}"));
+    m_movie->start();
+}
+
+LoadingDialog::~LoadingDialog() = default;
+
+void LoadingDialog::setTaskLabelText(const QString &text)
+{
+    m_task = text;
+}
+
+QString LoadingDialog::taskLabelText() const
+{
+    return m_task;
+}
+
+void LoadingDialog::setLabelText(const int &seconds)
+{
+    m_ui->labelText->setText(tr("%1,waiting...%2 s").arg(m_task, QString::number(seconds)));
+}
+
+void LoadingDialog::keyPressEvent(QKeyEvent *event)
+{
+    // The instrument goes on with its task whatever the user presses: Escape must not let him think
+    // that it stopped.
+    event->accept();
+}
+
+void LoadingDialog::closeEvent(QCloseEvent *event)
+{
+    if (event->spontaneous())
+        event->ignore();
+    else
+        QDialog::closeEvent(event);
+}

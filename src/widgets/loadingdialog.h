@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+#include <memory>
+
+class QMovie;
+
+namespace Ui {
+class LoadingDialog;
+}
+
+/// The wait box for an operation that the instrument needs seconds for: an animation and one large
+/// line with the task and the seconds left. It has no buttons and no clock of its own; whoever
+/// shows it counts and closes it, and the user cannot dismiss it.
+class LoadingDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit LoadingDialog(QWidget *parent = nullptr);
+    ~LoadingDialog() override;
+
+    /// Names the running task, as the user reads it.
+    void setTaskLabelText(const QString &text);
+    /// The name of the running task.
+    QString taskLabelText() const;
+
+    /// Shows the \a seconds left for the task.
+    void setLabelText(const int &seconds);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    std::unique_ptr<Ui::LoadingDialog> m_ui;
+    QMovie *m_movie;
+    QString m_task;
+};
