@@ -147,7 +147,8 @@ console_ends() {
 }
 
 run_on_screen() {
-    "$programs/mz6218" "${console_options[@]}" &
+    # The console's files lie beside it, also those that it writes before its window is there.
+    (cd "$programs" && exec ./mz6218 "${console_options[@]}") &
     console_pid=$!
     console_ends
 }
@@ -173,7 +174,7 @@ run_on_virtual_screen() {
     cp "$programs/mz6218" "$folder/"
     start_virtual_screen
     echo "There is no display: running for $virtual_seconds seconds on a virtual screen."
-    QT_QPA_PLATFORM=xcb "$folder/mz6218" "${console_options[@]}" 2>"$folder/console.txt" &
+    (cd "$folder" && QT_QPA_PLATFORM=xcb exec ./mz6218 "${console_options[@]}") 2>"$folder/console.txt" &
     console_pid=$!
     local deadline=$((SECONDS + virtual_seconds))
     while [[ $SECONDS -lt $deadline ]]; do
