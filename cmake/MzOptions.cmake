@@ -4,6 +4,7 @@ include(CTest)
 option(MZ_WERROR "Treat every compiler warning as an error" OFF)
 option(MZ_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(MZ_BUILD_BENCH "Build the benchmarks" OFF)
+option(MZ_BUILD_FUZZ "Build the fuzzers and everything that they feed for them; needs clang" OFF)
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)

@@ -22,6 +22,11 @@ if(MZ_SANITIZE)
                                               -fno-sanitize-recover=all)
     target_link_options(mz_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(MZ_BUILD_FUZZ)
+    target_compile_options(mz_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                              -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(mz_flags INTERFACE -fsanitize=address,undefined)
+endif()
 
 # mz_add_program(NAME SOURCES ... LIBRARIES ...): a program in build/bin with the shared resources.
 function(mz_add_program name)

@@ -1,0 +1,22 @@
+/// The command lines of the three programs: arguments parted by line feeds.
+
+#include "patterns/commandline.h"
+#include "simulator/options.h"
+#include "startoptions.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray text(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    const QStringList arguments =
+        QStringList(QStringLiteral("program")) + QString::fromUtf8(text).split(QLatin1Char('\n'));
+    StartOptions::read(arguments);
+    readCommandLine(arguments);
+    sim::parseCommandLine(arguments);
+    return 0;
+}
