@@ -44,11 +44,13 @@ QByteArray Instrument::identity() const
 
 bool Instrument::setFrequency(double value, FrequencyUnit unit)
 {
-    constexpr double maximum = 40e6;
-    const double kHz = std::round(value * info(unit).factor);
-    if (!(kHz >= 1.0 && kHz <= maximum))
+    // The margin is for the last binary digit of a number at the very end of the range.
+    constexpr double minimum = 1.0 - 1e-6;
+    constexpr double maximum = 40e6 + 1e-6;
+    const double kHz = value * info(unit).factor;
+    if (!(kHz > minimum && kHz < maximum))
         return false;
-    m_frequency = static_cast<qint64>(kHz);
+    m_frequency = std::llround(kHz);
     m_frequencyUnit = unit;
     return true;
 }

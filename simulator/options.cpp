@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 #include <cmath>
 #include <limits>
@@ -53,19 +54,22 @@ private:
                                 ? QHostAddress(QHostAddress::LocalHost)
                                 : QHostAddress(address);
         if (m_options.address.isNull())
-            m_error = tr("Not an address: %1").arg(address);
-        m_options.port = static_cast<quint16>(number(m_port, 0, 65535));
+            fail(tr("Not an address: %1").arg(address));
+        m_options.port = static_cast<quint16>(wholeNumber(m_port, 0, 65535));
         m_options.serial = m_parser.isSet(m_serial);
         m_options.level = number(m_level, -200, 200);
         m_options.noise = number(m_noise, 0, 100);
         m_options.seed =
-            static_cast<quint32>(number(m_seed, 0, std::numeric_limits<quint32>::max()));
+            static_cast<quint32>(wholeNumber(m_seed, 0, std::numeric_limits<quint32>::max()));
         m_options.microSign = m_parser.isSet(m_micro);
         m_options.operationTime = static_cast<int>(1000 * number(m_calibrationTime, 0, 3600));
         m_options.trace = m_parser.isSet(m_trace);
         for (const QString &text : m_parser.values(m_fault)) {
-            if (const auto fault = parseFault(text, &m_error))
+            QString error;
+            if (const auto fault = parseFault(text, &error))
                 m_options.faults.append(*fault);
+            else
+                fail(error);
         }
     }
 
@@ -76,12 +80,26 @@ private:
         const double value = text.toDouble(&isNumber);
         if (isNumber && value >= minimum && value <= maximum)
             return value;
-        m_error = tr("--%1 takes a number from %2 to %3, not \"%4\"")
-                      .arg(option.names().first())
-                      .arg(minimum, 0, 'f', 0)
-                      .arg(maximum, 0, 'f', 0)
-                      .arg(text);
+        fail(tr("--%1 takes a number from %2 to %3, not \"%4\"")
+                 .arg(option.names().first())
+                 .arg(minimum, 0, 'f', 0)
+                 .arg(maximum, 0, 'f', 0)
+                 .arg(text));
         return minimum;
+    }
+
+    double wholeNumber(const QCommandLineOption &option, double minimum, double maximum)
+    {
+        const double value = number(option, minimum, maximum);
+        if (value != std::floor(value))
+            fail(tr("--%1 takes a whole number").arg(option.names().first()));
+        return value;
+    }
+
+    void fail(const QString &error)
+    {
+        if (m_error.isEmpty())
+            m_error = error;
     }
 
     CommandLine failure(const QString &message)

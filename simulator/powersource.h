@@ -18,14 +18,16 @@ public:
     double read(int averageCount);
 
 private:
+    double drift() const;
     /// A normally distributed number with mean 0 and deviation 1. The standard library's
     /// distribution would differ from one compiler to the next.
     double gauss();
 
     double m_level;
     double m_noise;
-    double m_drift = 0.0;
     QRandomGenerator m_random;
+    double m_phase; ///< of the drift, in turns
+    int m_readings = 0;
 };
 
 } // namespace sim

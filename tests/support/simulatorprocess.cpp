@@ -111,6 +111,12 @@ QStringList SimulatorProcess::replies()
     return m_replies;
 }
 
+QStringList SimulatorProcess::notes()
+{
+    readOutput();
+    return m_notes;
+}
+
 bool SimulatorProcess::waitForCommand(const QString &command, int count, int timeout)
 {
     return QTest::qWaitFor([&] { return commands().count(command) >= count; }, timeout);
@@ -131,6 +137,7 @@ bool SimulatorProcess::launch(const QStringList &arguments)
     m_serialPath.clear();
     m_commands.clear();
     m_replies.clear();
+    m_notes.clear();
     m_process = std::make_unique<BoundProcess>();
     m_process->setStandardOutputFile(m_folder.filePath(QStringLiteral("out.txt")));
     m_process->setStandardErrorFile(m_folder.filePath(QStringLiteral("err.txt")));
@@ -153,6 +160,7 @@ void SimulatorProcess::readOutput()
     const QString serial = QStringLiteral("Serial port: ");
     const QString received = QStringLiteral(" recv ");
     const QString sent = QStringLiteral(" send ");
+    const QString note = QStringLiteral(" note ");
     constexpr int timeWidth = 23;
     for (;;) {
         const QByteArray bytes = file.readLine();
@@ -169,6 +177,8 @@ void SimulatorProcess::readOutput()
             m_commands.append(line.mid(timeWidth + received.size()));
         } else if (line.mid(timeWidth).startsWith(sent)) {
             m_replies.append(line.mid(timeWidth + sent.size()));
+        } else if (line.mid(timeWidth).startsWith(note)) {
+            m_notes.append(line.mid(timeWidth + note.size()));
         }
     }
 }

@@ -35,6 +35,8 @@ public:
     QStringList commands();
     /// Every piece of a reply so far, as it went out, with "\n" and "\xNN" for unprintable bytes.
     QStringList replies();
+    /// Every remark so far on clients that come, wait, go or are dropped.
+    QStringList notes();
     /// Waits until \a command has come \a count times since the start, while events are processed.
     bool waitForCommand(const QString &command, int count = 1, int timeout = 5000);
     /// What it wrote on its error output.
@@ -52,4 +54,5 @@ private:
     QString m_serialPath;
     QStringList m_commands;
     QStringList m_replies;
+    QStringList m_notes;
 };

@@ -1,0 +1,286 @@
+#include "faultinjector.h"
+#include "options.h"
+#include "testmain.h"
+
+using namespace sim;
+
+namespace {
+
+QList<Fault> faultsFrom(const QStringList &texts)
+{
+    QList<Fault> faults;
+    QString error;
+    for (const QString &text : texts) {
+        const auto fault = parseFault(text, &error);
+        if (!fault)
+            qFatal("%s", qPrintable(error));
+        faults.append(*fault);
+    }
+    return faults;
+}
+
+QByteArray joined(const QList<Step> &steps)
+{
+    QByteArray bytes;
+    for (const Step &step : steps)
+        bytes += step.bytes;
+    return bytes;
+}
+
+CommandLine commandLine(const QStringList &arguments)
+{
+    return parseCommandLine(QStringList{QStringLiteral("mz6218-sim")} + arguments);
+}
+
+} // namespace
+
+class TestFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void befalling_data();
+    void befalling();
+    void probability();
+    void countedEachForItself();
+    void delivery_data();
+    void delivery();
+    void garbageHidesNothing();
+    void piecesCutCharacters();
+    void repeatsForASeed();
+    void badOptions_data();
+    void badOptions();
+    void goodOptions();
+};
+
+void TestFaults::befalling_data()
+{
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<QList<int>>("positions");
+
+    const auto row = [](const char *name, const char *fault, const QList<int> &positions) {
+        QTest::newRow(name) << QString::fromLatin1(fault) << positions;
+    };
+    // The talk is: 0 *IDN?, 1 FREQ 1GHz, 2 FREQ?, 3 GET?, 4 FREQ 2, 5 GET?, 6 CAL, 7 GET?, 8
+    // CAL:ZERO, 9 GET?, 10 UNIT:POW W, 11 GET?
+    row("every command", "no-reply", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
+    row("each third", "no-reply,every=3", {2, 5, 8, 11});
+    row("after five", "late:5,after=5", {5, 6, 7, 8, 9, 10, 11});
+    row("one command alone", "no-reply,only=GET?", {3, 5, 7, 9, 11});
+    row("a setting and not its query", "no-reply,only=FREQ", {1, 4});
+    row("a query and not its setting", "no-reply,only=freq?", {2});
+    row("the fourth reading, once", "drop-inside,only=GET?,after=3,times=1", {9});
+    row("every other reading, twice at most", "garbage,every=2,times=2,only=GET?", {5, 9});
+    row("refusals count settings alone", "refuse,every=2", {4});
+    row("every setting refused", "refuse", {1, 4, 10});
+    row("a number in GHz is always known", "numeric-frequency", {1});
+    row("calibration and zeroing fail", "cal-fail", {6, 8});
+    row("zeroing alone is silent", "cal-silent,only=CAL:ZERO", {8});
+    row("never", "no-reply,p=0", {});
+    row("always", "no-reply,p=1,only=CAL", {6});
+}
+
+void TestFaults::befalling()
+{
+    QFETCH(QString, fault);
+    const QList<QByteArray> talk{"*IDN?", "FREQ 1GHz", "FREQ?",    "GET?", "FREQ 2",     "GET?",
+                                 "CAL",   "GET?",      "CAL:ZERO", "GET?", "UNIT:POW W", "GET?"};
+    FaultInjector injector(faultsFrom({fault}), 1);
+    QList<int> positions;
+    for (int i = 0; i < talk.size(); ++i) {
+        if (!injector.befalling(talk.at(i)).isEmpty())
+            positions.append(i);
+    }
+    QTEST(positions, "positions");
+}
+
+void TestFaults::probability()
+{
+    FaultInjector injector(faultsFrom({QStringLiteral("no-reply,p=0.25")}), 3);
+    int count = 0;
+    for (int i = 0; i < 4000; ++i)
+        count += injector.befalling("GET?").size();
+    QVERIFY2(count > 900 && count < 1100, QByteArray::number(count).constData());
+}
+
+void TestFaults::countedEachForItself()
+{
+    FaultInjector injector(
+        faultsFrom({QStringLiteral("late:10,every=2"), QStringLiteral("garbage,every=3"),
+                    QStringLiteral("late:5,only=GET?")}),
+        1);
+    QList<int> counts;
+    for (int i = 0; i < 6; ++i)
+        counts.append(injector.befalling("GET?").size());
+    QCOMPARE(counts, QList<int>({1, 2, 2, 2, 1, 3}));
+}
+
+void TestFaults::delivery_data()
+{
+    QTest::addColumn<QStringList>("faults");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("dropped");
+    QTest::addColumn<int>("delay");
+
+    const auto row = [](const char *name, const QStringList &faults, const QByteArray &bytes,
+                        bool dropped,
+                        int delay) { QTest::newRow(name) << faults << bytes << dropped << delay; };
+    const auto one = [](const char *text) { return QStringList{QString::fromLatin1(text)}; };
+    row("no fault", {}, "RETURN:OK\n", false, 0);
+    row("no reply", one("no-reply"), "", false, 0);
+    row("late", one("late:800"), "RETURN:OK\n", false, 800);
+    row("two lines", one("two-lines"), "RETURN:OK\nRETURN:OK\n", false, 0);
+    row("no newline", one("no-newline"), "RETURN:OK", false, 0);
+    row("dropped before", one("drop-before"), "", true, 0);
+    row("dropped inside", one("drop-inside"), "RETUR", true, 0);
+    row("dropped after", one("drop-after"), "RETURN:OK\n", true, 0);
+    row("refusals change the reply elsewhere", one("refuse"), "RETURN:OK\n", false, 0);
+    row("delays add up",
+        {QStringLiteral("late:800"), QStringLiteral("late:50"), QStringLiteral("no-newline")},
+        "RETURN:OK", false, 850);
+    row("two lines without the last newline",
+        {QStringLiteral("two-lines"), QStringLiteral("no-newline")}, "RETURN:OK\nRETURN:OK", false,
+        0);
+    row("a late drop without a reply",
+        {QStringLiteral("drop-after"), QStringLiteral("no-reply"), QStringLiteral("late:7")}, "",
+        true, 7);
+}
+
+void TestFaults::delivery()
+{
+    QFETCH(QStringList, faults);
+    QFETCH(bool, dropped);
+    FaultInjector injector({}, 1);
+    const QList<Step> steps = injector.delivery("RETURN:OK", faultsFrom(faults));
+    QTEST(joined(steps), "bytes");
+    QCOMPARE(!steps.isEmpty() && steps.last().drop, dropped);
+    QTEST(steps.isEmpty() ? 0 : steps.first().delay, "delay");
+}
+
+void TestFaults::garbageHidesNothing()
+{
+    FaultInjector injector({}, 1);
+    const QByteArray reply = "RETURN:GET -20.00dBm,10.00uW";
+    const QList<Fault> faults = faultsFrom({QStringLiteral("garbage:20")});
+    for (int i = 0; i < 500; ++i) {
+        const QByteArray bytes = joined(injector.delivery(reply, faults));
+        QCOMPARE(bytes.size(), reply.size() + 21);
+        QVERIFY(bytes.contains('\0'));
+        QCOMPARE(bytes.count('\n'), 1);
+        int found = 0;
+        for (const char byte : bytes)
+            found += found < reply.size() && byte == reply.at(found) ? 1 : 0;
+        QCOMPARE(found, reply.size());
+    }
+}
+
+void TestFaults::piecesCutCharacters()
+{
+    FaultInjector injector({}, 1);
+    const QByteArray reply = "RETURN:GET -20.00dBm,10.00\xc2\xb5W";
+    const QList<Fault> faults = faultsFrom({QStringLiteral("pieces:30"), QStringLiteral("late:9")});
+    for (int i = 0; i < 500; ++i) {
+        const QList<Step> steps = injector.delivery(reply, faults);
+        QCOMPARE(joined(steps), reply + '\n');
+        QVERIFY(steps.size() >= 2 && steps.size() <= 5);
+        bool cutInside = false;
+        for (int j = 0; j < steps.size(); ++j) {
+            QVERIFY(!steps.at(j).bytes.isEmpty());
+            QCOMPARE(steps.at(j).delay, j == 0 ? 9 : 30);
+            cutInside = cutInside || steps.at(j).bytes.startsWith('\xb5');
+        }
+        QVERIFY(cutInside);
+    }
+}
+
+void TestFaults::repeatsForASeed()
+{
+    const auto mishaps = [](quint32 seed) {
+        FaultInjector injector(
+            faultsFrom({QStringLiteral("garbage:4,p=0.5"), QStringLiteral("pieces,p=0.3"),
+                        QStringLiteral("no-reply,p=0.1")}),
+            seed);
+        QList<QByteArray> list;
+        for (int i = 0; i < 200; ++i) {
+            for (const Step &step : injector.delivery("RETURN:OK", injector.befalling("GET?")))
+                list.append(step.bytes);
+        }
+        return list;
+    };
+    QCOMPARE(mishaps(9), mishaps(9));
+    QVERIFY(mishaps(9) != mishaps(10));
+}
+
+void TestFaults::badOptions_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    const auto row = [](const char *line) {
+        QTest::newRow(line) << QString::fromLatin1(line).split(QLatin1Char(' '));
+    };
+    for (const char *line :
+         {"--nonsense", "stray", "--port", "--port -1", "--port 65536", "--port http",
+          "--level loud", "--level nan", "--noise -1", "--seed 1.5", "--seed -1",
+          "--seed 4294967296", "--port 80.5", "--listen nowhere", "--calibration-time -1",
+          "--calibration-time soon", "--trace=yes"})
+        row(line);
+    for (const char *line : {"--fault",
+                             "--fault ",
+                             "--fault nonsense",
+                             "--fault late",
+                             "--fault late:",
+                             "--fault late:-5",
+                             "--fault late:soon",
+                             "--fault late:99999999999",
+                             "--fault no-reply:5",
+                             "--fault pieces:0",
+                             "--fault no-reply,",
+                             "--fault no-reply,every=0",
+                             "--fault no-reply,times=0",
+                             "--fault no-reply,after=-1",
+                             "--fault no-reply,p=1.5",
+                             "--fault no-reply,p=nan",
+                             "--fault no-reply,only=GETT?",
+                             "--fault no-reply,only",
+                             "--fault no-reply,sometimes=3",
+                             "--fault no-reply --fault nonsense --fault refuse"})
+        row(line);
+}
+
+void TestFaults::badOptions()
+{
+    QFETCH(QStringList, arguments);
+    const CommandLine line = commandLine(arguments);
+    QVERIFY(line.action == CommandLine::Action::PrintAndFail);
+    QVERIFY(!line.text.startsWith(QLatin1Char('\n')));
+    QVERIFY(line.text.contains(QLatin1String("Usage: ")));
+    QVERIFY(line.text.contains(QLatin1String("drop-inside")));
+}
+
+void TestFaults::goodOptions()
+{
+    const CommandLine line = commandLine(
+        {QStringLiteral("--listen"), QStringLiteral("::1"), QStringLiteral("--port"),
+         QStringLiteral("0"), QStringLiteral("--serial"), QStringLiteral("--level"),
+         QStringLiteral("-33.5"), QStringLiteral("--noise=0"), QStringLiteral("--seed"),
+         QStringLiteral("4294967295"), QStringLiteral("--calibration-time"), QStringLiteral("0.25"),
+         QStringLiteral("--fault"), QStringLiteral("pieces,only=AVER:COUN?,p=0.5"),
+         QStringLiteral("--fault"), QStringLiteral("late:800,after=2")});
+    QVERIFY2(line.action == CommandLine::Action::Run, qPrintable(line.text));
+    const Options &options = line.options;
+    QCOMPARE(options.address, QHostAddress(QHostAddress::LocalHostIPv6));
+    QCOMPARE(options.port, quint16(0));
+    QVERIFY(options.serial && !options.trace);
+    QCOMPARE(options.level, -33.5);
+    QCOMPARE(options.noise, 0.0);
+    QCOMPARE(options.seed, 4294967295U);
+    QCOMPARE(options.operationTime, 250);
+    QCOMPARE(options.faults.size(), 2);
+    QCOMPARE(options.faults.first().amount, 20);
+    QCOMPARE(options.faults.first().only, QByteArray("AVER:COUN?"));
+    QCOMPARE(options.faults.last().amount, 800);
+    QCOMPARE(options.faults.last().after, 2);
+    QCOMPARE(commandLine({}).options.port, quint16(5001));
+}
+
+MZ_TEST_GUILESS_MAIN(TestFaults)
+#include "tst_faults.moc"

@@ -1,0 +1,154 @@
+#include "simulatorprocess.h"
+#include "testmain.h"
+
+#include <QSerialPort>
+#include <QTcpSocket>
+
+namespace {
+
+constexpr int patience = 10000; // ms, for what is bound to happen
+
+/// The next line on \a device without its newline; "(nothing)" when patience ends.
+QByteArray line(QIODevice &device)
+{
+    while (!device.canReadLine()) {
+        if (!device.waitForReadyRead(patience))
+            return "(nothing)";
+    }
+    return device.readLine().chopped(1);
+}
+
+QByteArray ask(QIODevice &device, const QByteArray &command)
+{
+    device.write(command + '\n');
+    device.waitForBytesWritten(patience);
+    return line(device);
+}
+
+bool open(QSerialPort &port, const QString &path)
+{
+    port.setPortName(path);
+    return port.open(QIODevice::ReadWrite) && port.setBaudRate(QSerialPort::Baud115200);
+}
+
+const QByteArray reading("RETURN:GET -20.00dBm,-20.00dBm");
+
+} // namespace
+
+class TestSimulatorSerial : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void talk();
+    void nothingIsLeftForTheNextClient();
+    void sharesTheInstrumentWithTcp();
+    void dropTakesThePortAway_data();
+    void dropTakesThePortAway();
+
+private:
+    bool start(const QStringList &options = {})
+    {
+        return m_simulator.start(options +
+                                 QStringList{QStringLiteral("--serial"), QStringLiteral("--noise"),
+                                             QStringLiteral("0"), QStringLiteral("--micro-sign")});
+    }
+
+    std::unique_ptr<QSerialPort> m_port;
+    SimulatorProcess m_simulator;
+};
+
+void TestSimulatorSerial::init()
+{
+    m_port = std::make_unique<QSerialPort>();
+}
+
+void TestSimulatorSerial::cleanup()
+{
+    m_port.reset();
+    QCOMPARE(m_simulator.stop(), 0);
+    QCOMPARE(m_simulator.errorText(), QString());
+}
+
+void TestSimulatorSerial::talk()
+{
+    QVERIFY(start());
+    QVERIFY(open(*m_port, m_simulator.serialPath()));
+    QCOMPARE(ask(*m_port, "GET?"), reading);
+    QCOMPARE(ask(*m_port, "UNIT:POW W"), QByteArray("RETURN:OK"));
+    QCOMPARE(ask(*m_port, "GET?\r"), QByteArray("RETURN:GET -20.00dBm,10.00\xc2\xb5W"));
+    // Nothing is echoed, nothing translated: control characters pass like others.
+    QCOMPARE(ask(*m_port, "\x03\x04\x11\x1a\x7f"), QByteArray("RETURN:ERR -113,Undefined header"));
+    QCOMPARE(m_simulator.commands(),
+             QStringList({QStringLiteral("GET?"), QStringLiteral("UNIT:POW W"),
+                          QStringLiteral("GET?\\r"), QStringLiteral("\\x03\\x04\\x11\\x1a\\x7f")}));
+}
+
+void TestSimulatorSerial::nothingIsLeftForTheNextClient()
+{
+    QVERIFY(start({QStringLiteral("--calibration-time"), QStringLiteral("0"),
+                   QStringLiteral("--fault"), QStringLiteral("late:100,only=REL?")}));
+    for (int i = 1; i <= 3; ++i) {
+        QSerialPort first;
+        QVERIFY(open(first, m_simulator.serialPath()));
+        QCOMPARE(ask(first, "GET?"), reading);
+        first.write("OFFS?\nCAL\nREL?\nGE");
+        QVERIFY(first.waitForBytesWritten(patience));
+        QVERIFY(m_simulator.waitForCommand(QStringLiteral("REL?"), i));
+        first.close();
+        QTRY_COMPARE_WITH_TIMEOUT(m_simulator.notes().size(), 2 * i - 1, patience);
+
+        QSerialPort second;
+        QVERIFY(open(second, m_simulator.serialPath()));
+        QCOMPARE(ask(second, "FREQ?"), QByteArray("RETURN:FREQ 50MHz"));
+        second.close();
+        QTRY_COMPARE_WITH_TIMEOUT(m_simulator.notes().size(), 2 * i, patience);
+    }
+}
+
+void TestSimulatorSerial::sharesTheInstrumentWithTcp()
+{
+    QVERIFY(start({QStringLiteral("--calibration-time"), QStringLiteral("0.1")}));
+    QVERIFY(open(*m_port, m_simulator.serialPath()));
+    QTcpSocket socket;
+    socket.connectToHost(m_simulator.address(), m_simulator.port());
+    QVERIFY(socket.waitForConnected(patience));
+    QCOMPARE(ask(socket, "OFFS 20"), QByteArray("RETURN:OK"));
+    m_port->write("CAL\n");
+    QVERIFY(m_port->waitForBytesWritten(patience));
+    QCOMPARE(ask(socket, "GET?"), QByteArray("RETURN:GET 0.00dBm,0.00dBm"));
+    QCOMPARE(line(*m_port), QByteArray("RETURN:CAL:OK"));
+    QCOMPARE(ask(*m_port, "OFFS?"), QByteArray("RETURN:OFFS 20.00dB"));
+}
+
+void TestSimulatorSerial::dropTakesThePortAway_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("before") << "drop-before" << QByteArray();
+    QTest::newRow("inside") << "drop-inside" << reading.left(15);
+    QTest::newRow("after") << "drop-after" << reading + '\n';
+}
+
+void TestSimulatorSerial::dropTakesThePortAway()
+{
+    QFETCH(QString, kind);
+    QVERIFY(start({QStringLiteral("--fault"), kind + QStringLiteral(",only=GET?,times=1")}));
+    const QString path = m_simulator.serialPath();
+    QVERIFY(open(*m_port, path));
+    QCOMPARE(ask(*m_port, "AVER:COUN 4"), QByteArray("RETURN:OK"));
+    m_port->write("GET?\nAVER:COUN 8\n");
+    QTRY_VERIFY_WITH_TIMEOUT(m_port->error() != QSerialPort::NoError, patience);
+    QTEST(m_port->readAll(), "bytes");
+    m_port->close();
+
+    // Another port leads to the same instrument.
+    QTRY_VERIFY_WITH_TIMEOUT(m_simulator.serialPath() != path, patience);
+    QVERIFY(open(*m_port, m_simulator.serialPath()));
+    QCOMPARE(ask(*m_port, "AVER:COUN?"), QByteArray("RETURN:AVER:COUN 4"));
+}
+
+MZ_TEST_GUILESS_MAIN(TestSimulatorSerial)
+#include "tst_simulatorserial.moc"
