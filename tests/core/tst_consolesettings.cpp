@@ -1,0 +1,148 @@
+#include "consolesettings.h"
+#include "testmain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+/// "config.ini": what the console still knows after a restart, whatever was done to the file.
+class TestConsoleSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anyFileIsRead_data();
+    void anyFileIsRead();
+    void whatIsWrittenIsReadBack_data();
+    void whatIsWrittenIsReadBack();
+    void fileIsReplacedWhole();
+    void unwritableFileStays_data();
+    void unwritableFileStays();
+};
+
+void TestConsoleSettings::anyFileIsRead_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<int>("interval");
+    QTest::addColumn<int>("period");
+
+    const QString none;
+    QTest::newRow("English") << QByteArray(
+                                    "language:en\nIP:10.0.0.2\nPath:/data\nInterval:5\nPeriod:3\n")
+                             << "en"
+                             << "10.0.0.2"
+                             << "/data" << 5 << 3;
+    QTest::newRow("Chinese, folder with blanks")
+        << QByteArray("language:cn\nIP:\nPath:/\xE6\xB5\x8B\xE9\x87\x8F \xE6\x95\xB0/ x "
+                      "\nInterval:30\nPeriod:10\n")
+        << "cn" << none << QString::fromUtf8("/测量 数/ x ") << 30 << 10;
+    QTest::newRow("saved by a Windows editor")
+        << QByteArray("\xEF\xBB\xBFlanguage:en\r\nIP:10.0.0.2\r\nPath:C:/"
+                      "data\r\nInterval:5\r\nPeriod:3\r\n")
+        << "en"
+        << "10.0.0.2"
+        << "C:/data" << 5 << 3;
+    QTest::newRow("empty file") << QByteArray() << "cn" << none << none << 0 << 10;
+    QTest::newRow("one line only") << QByteArray("language:en") << "en" << none << none << 0 << 10;
+    QTest::newRow("en anywhere in the first line")
+        << QByteArray("a sentence\n\n\n\n\n") << "en" << none << none << 0 << 10;
+    QTest::newRow("numbers that are none")
+        << QByteArray("language:cn\nIP:x\nPath:y\nInterval:soon\nPeriod:long\n") << "cn"
+        << "x"
+        << "y" << 0 << 0;
+    QTest::newRow("bare interval counts, bare period does not")
+        << QByteArray("language:en\n\n\n7\n7\n") << "en" << none << none << 7 << 10;
+    QTest::newRow("period beyond the chart")
+        << QByteArray("language:en\n\n\nInterval:99\nPeriod:15\n") << "en" << none << none << 99
+        << 10;
+    QTest::newRow("period below the chart")
+        << QByteArray("language:en\n\n\nInterval:-4\nPeriod:-1\n") << "en" << none << none << -4
+        << 10;
+    QTest::newRow("period of nothing")
+        << QByteArray("language:en\n\n\nInterval:1\nPeriod:0\n") << "en" << none << none << 1 << 0;
+    QTest::newRow("number beyond any range")
+        << QByteArray("language:en\n\n\nInterval:99999999999\nPeriod:99999999999\n") << "en" << none
+        << none << 0 << 0;
+    QTest::newRow("garbage") << QByteArray("\xFF\xFE\x80\x01", 4) + QByteArray(5000, '\n') << "cn"
+                             << none << none << 0 << 10;
+}
+
+void TestConsoleSettings::anyFileIsRead()
+{
+    QFETCH(QByteArray, text);
+    const ConsoleSettings settings = ConsoleSettings::parse(text);
+    QTEST(settings.language, "language");
+    QTEST(settings.ipAddress, "address");
+    QTEST(settings.recordFolder, "folder");
+    QTEST(settings.interval, "interval");
+    QTEST(settings.period, "period");
+}
+
+void TestConsoleSettings::whatIsWrittenIsReadBack_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("folder");
+
+    QTest::newRow("never connected") << "en"
+                                     << ""
+                                     << "/opt/meter/DataRecord";
+    QTest::newRow("Chinese folder") << "cn"
+                                    << "192.168.1.20" << QString::fromUtf8("/测量 数据");
+    QTest::newRow("place markers") << "en"
+                                   << "%3"
+                                   << "/%1/%5";
+}
+
+void TestConsoleSettings::whatIsWrittenIsReadBack()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, address);
+    QFETCH(QString, folder);
+    const QTemporaryDir place;
+    const QString path = place.filePath(QStringLiteral("config.ini"));
+    const ConsoleSettings written{language, address, folder, 12, 4};
+    written.save(path);
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()),
+             QStringLiteral("language:") + language + QStringLiteral("\nIP:") + address +
+                 QStringLiteral("\nPath:") + folder + QStringLiteral("\nInterval:12\nPeriod:4\n"));
+    const auto read = ConsoleSettings::load(path);
+    QVERIFY(read);
+    QCOMPARE(read->toText(), written.toText());
+}
+
+void TestConsoleSettings::fileIsReplacedWhole()
+{
+    const QTemporaryDir place;
+    const QString path = place.filePath(QStringLiteral("config.ini"));
+    ConsoleSettings{QStringLiteral("en"), QString(400, QLatin1Char('x')), {}, 1, 1}.save(path);
+    const ConsoleSettings shorter{QStringLiteral("cn"), {}, {}, 1, 1};
+    shorter.save(path);
+    QCOMPARE(ConsoleSettings::load(path)->toText(), shorter.toText());
+}
+
+void TestConsoleSettings::unwritableFileStays_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("folder is gone") << "gone/config.ini";
+    QTest::newRow("a folder of that name") << "taken";
+}
+
+void TestConsoleSettings::unwritableFileStays()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir place;
+    QVERIFY(QDir(place.path()).mkdir(QStringLiteral("taken")));
+    ConsoleSettings{QStringLiteral("en"), {}, {}, 1, 1}.save(place.filePath(name));
+    QVERIFY(!ConsoleSettings::load(place.filePath(name)));
+}
+
+MZ_TEST_GUILESS_MAIN(TestConsoleSettings)
+#include "tst_consolesettings.moc"
