@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QVector>
+#include <QWidget>
+
+#include <functional>
+
+/// Answers modal windows in the order in which they come up, one step a window. A window that no
+/// step is left for is closed and counted, so that a test fails instead of waiting for an operator.
+class ModalScript
+{
+public:
+    using Step = std::function<void(QWidget *window)>;
+
+    explicit ModalScript(QVector<Step> steps);
+
+    /// Whether every step was taken and no further window came up.
+    bool isDone() const { return m_steps.isEmpty() && m_unexpected == 0; }
+
+private:
+    void look();
+
+    QVector<Step> m_steps;
+    QPointer<QWidget> m_answered;
+    QTimer m_timer;
+    int m_unexpected = 0;
+};
