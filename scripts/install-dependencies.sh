@@ -12,7 +12,7 @@ declare -A sets=(
     [run]="libqt5svg5 qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
     [virtual]="xvfb xauth imagemagick"
     [test]="xvfb xauth"
-    [ci]="clang clang-format clang-tidy clang-tools g++-mingw-w64-x86-64-posix shellcheck"
+    [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix git libclang-rt-dev llvm shellcheck"
     [bench]="libqwt-qt5-dev libqcustomplot-dev"
 )
 
