@@ -241,7 +241,10 @@ char *writeNumber(char *out, double value)
     }
     if (value < 0.0)
         *out++ = '-';
-    const Decimal decimal = shortestDecimal(std::abs(value));
+    const double magnitude = std::abs(value);
+    if (magnitude >= 1e-4 && magnitude < 1e5) // both styles agree here
+        return std::to_chars(out, out + numberSize, magnitude, std::chars_format::fixed).ptr;
+    const Decimal decimal = shortestDecimal(magnitude);
     return takesExponent(decimal) ? writeWithExponent(out, decimal) : writePlain(out, decimal);
 }
 
@@ -255,15 +258,24 @@ QString oneLine(QString text)
 void appendRows(QByteArray &text, const QVector<QPointF> &points)
 {
     constexpr int usualRowSize = 24;
+    constexpr std::size_t greatestRow = 2 * numberSize + 2;
     text.reserve(text.size() + points.size() * usualRowSize);
-    std::array<char, 2 * numberSize + 2> row{};
+    std::array<char, 1 << 14> block{};
+    const char *full = block.data() + block.size() - greatestRow;
+    char *end = block.data();
+    const auto flush = [&] {
+        text.append(block.data(), static_cast<int>(end - block.data()));
+        end = block.data();
+    };
     for (const QPointF &point : points) {
-        char *end = writeNumber(row.data(), point.x());
+        end = writeNumber(end, point.x());
         *end++ = ',';
         end = writeNumber(end, point.y());
         *end++ = '\n';
-        text.append(row.data(), static_cast<int>(end - row.data()));
+        if (end > full)
+            flush();
     }
+    flush();
 }
 
 QByteArray curveBytes(const QString &heading, const QVector<QPointF> &points)

@@ -17,14 +17,9 @@ QPair<double, double> toPair(const QPointF &point)
     return {point.x(), point.y()};
 }
 
-bool lowerAngle(const QPointF &a, const QPointF &b)
-{
-    return a.x() < b.x();
-}
-bool lowerLevel(const QPointF &a, const QPointF &b)
-{
-    return a.y() < b.y();
-}
+// Function objects, for the library's algorithms would call plain functions through a pointer.
+constexpr auto lowerAngle = [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); };
+constexpr auto lowerLevel = [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); };
 
 /// The angle at which the straight line from a to b reaches \a level; \a plateau when it never or
 /// always does. Levels and angles are compared exactly: QPointF's own comparison is a fuzzy one.
@@ -129,17 +124,18 @@ int sideLobeRight(const Points &points, double nullLevel, double peakAngle)
 QPointF backLobe(const Points &points, double peakAngle)
 {
     const double back = peakAngle > 0.0 ? peakAngle - 180.0 : peakAngle + 180.0;
-    for (int i = 0; i + 1 < points.size(); ++i) {
-        const QPointF &a = points[i];
-        const QPointF &b = points[i + 1];
-        if (back < std::min(a.x(), b.x()) || back > std::max(a.x(), b.x()))
-            continue;
-        if (a.x() == b.x())
-            return {back, (b.y() + b.y()) * 0.5};
-        const double slope = (b.y() - a.y()) / (b.x() - a.x());
-        return {back, a.y() - a.x() * slope + slope * back};
-    }
-    return missingOnTheLeft;
+    const auto pair = std::adjacent_find(
+        points.begin(), points.end(), [back](const QPointF &a, const QPointF &b) {
+            return (a.x() <= back && back <= b.x()) || (b.x() <= back && back <= a.x());
+        });
+    if (pair == points.end())
+        return missingOnTheLeft;
+    const QPointF &a = *pair;
+    const QPointF &b = *(pair + 1);
+    if (a.x() == b.x())
+        return {back, (b.y() + b.y()) * 0.5};
+    const double slope = (b.y() - a.y()) / (b.x() - a.x());
+    return {back, a.y() - a.x() * slope + slope * back};
 }
 
 void setHalfPower(ParaInfo &figures, const PatternLineValues &lines)
