@@ -134,8 +134,9 @@ void ConsolePanel::showReading(double power, const QString &text)
 
 void ConsolePanel::fitReading()
 {
-    fitPowerDisplay(m_window->size(), m_ui->labelCurrentPower, m_ui->labelPowerUnit,
-                    m_ui->labelShowText);
+    constexpr int margins = 120; // around and between the labels
+    fitPowerDisplay(m_window->size() - QSize(m_ui->panel->minimumWidth() + margins, 0),
+                    m_ui->labelCurrentPower, m_ui->labelPowerUnit, m_ui->labelShowText);
 }
 
 int ConsolePanel::recordInterval() const
