@@ -8,14 +8,10 @@
 
 #include <memory>
 
-class ChartMenu;
-class ChartStage;
-class CurveExchange;
-class MarkSet;
-class MyCustomProxy;
+class ChartViewState;
 class MyMarkItem;
 class PathInfo;
-struct ChartMenuState;
+struct ChartSituation;
 
 QT_BEGIN_NAMESPACE
 namespace QtCharts {
@@ -25,12 +21,12 @@ QT_END_NAMESPACE
 
 /// The chart widget: a cartesian chart (kind 0) or a polar one (kind 1) with curves and markers.
 ///
-/// Ownership: the view deletes its scene, its curves and its markers. While it lives, the scene owns
-/// the chart and all items, the chart owns its axes and the series that are added to it; a series that
-/// is removed from the chart comes back to its PathInfo, which deletes it.
+/// Ownership: the view deletes its scene, its curves and its markers. While it lives, the scene
+/// owns the chart and all items, the chart owns its axes and the series that are added to it; a
+/// series that is removed from the chart comes back to its PathInfo, which deletes it.
 ///
-/// Public functions take chart values unless they say "scene"; the scene's coordinates are the pixels
-/// of the view. Curves are known by their path id, markers by their number, both from 1.
+/// Public functions take chart values unless they say "scene"; the scene's coordinates are the
+/// pixels of the view. Curves are known by their path id, markers by their number, both from 1.
 class GraphicsBase : public QGraphicsView
 {
     Q_OBJECT
@@ -91,6 +87,8 @@ signals:
     /// A curve came, went, or looks, is shown or is called otherwise: for forms that show the same
     /// curves elsewhere too.
     void curvesChanged();
+    /// Another curve, or none, is selected now.
+    void selectionChanged();
 
 public slots:
     void tooltip(QPointF point, bool state);
@@ -162,8 +160,14 @@ private slots:
     void updataResize();
 
 private:
-    struct State;
+    bool needsXRange(const char *operation) const;
+    void deselect();
+    void pressCurves(const QPoint &position);
+    void zoomAbout(const QPointF &centre, double factor);
+    void showRange(const ViewRange &range);
+    ChartSituation situation() const;
+    void showMenu(const QPoint &position);
 
     std::unique_ptr<QGraphicsScene> m_scene;
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<ChartViewState> m_state;
 };

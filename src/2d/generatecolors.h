@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+
+/// A source of curve colours, empty: the curves take theirs from curveColor().
+class GenerateColors : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    static QList<QColor> colors;
+};
+
+/// The colour of a new curve: the first seven differ in brightness too, so that they stay apart for
+/// eyes that mix up red and green; from the eighth on they come again, darker.
+QColor curveColor(int pathId);

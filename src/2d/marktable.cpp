@@ -1,0 +1,119 @@
+#include "2d/marktable.h"
+
+#include "2d/mymarkitem.h"
+
+#include <QEvent>
+#include <QGraphicsSceneMouseEvent>
+#include <QHeaderView>
+
+namespace {
+
+constexpr qreal aboveTheCurves = 10.0;
+constexpr int heightOfRow = 20;
+constexpr int tableWidth = 210;
+constexpr int rowsWithoutScrolling = 16;
+
+enum Column { NumberColumn, XColumn, YColumn, ColumnCount };
+
+QTableWidgetItem *cell(const QString &text, Qt::Alignment alignment)
+{
+    auto *item = new QTableWidgetItem(text);
+    item->setTextAlignment(static_cast<int>(alignment));
+    return item;
+}
+
+QTableWidgetItem *numberCell(double value)
+{
+    constexpr int decimals = 2;
+    return cell(QString::number(value, 'f', decimals), Qt::AlignRight | Qt::AlignVCenter);
+}
+
+} // namespace
+
+MarkTable::MarkTable(QWidget *parent)
+    : QTableWidget(0, ColumnCount, parent)
+{
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(StyledPanel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalHeader()->setVisible(false);
+    verticalHeader()->setMinimumSectionSize(heightOfRow);
+    verticalHeader()->setDefaultSectionSize(heightOfRow);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    horizontalHeader()->setFixedHeight(heightOfRow + 4);
+    writeHeaders();
+    fitToRows();
+}
+
+void MarkTable::writeHeaders()
+{
+    setAccessibleName(tr("Markers"));
+    setHorizontalHeaderLabels(
+        {m_curveName.isEmpty() ? tr("Marker") : m_curveName, tr("X"), tr("Y")});
+    horizontalHeaderItem(NumberColumn)->setToolTip(m_curveName);
+}
+
+void MarkTable::setCurveName(const QString &name)
+{
+    m_curveName = name;
+    writeHeaders();
+}
+
+void MarkTable::setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks)
+{
+    setRowCount(0);
+    for (const int number : numbers) {
+        const MyMarkItem *mark = marks.value(number);
+        if (!mark)
+            continue;
+        const int row = rowCount();
+        insertRow(row);
+        setItem(row, NumberColumn, cell(QStringLiteral("M%1").arg(number), Qt::AlignCenter));
+        setItem(row, XColumn, numberCell(mark->valuePoint().x()));
+        setItem(row, YColumn, numberCell(mark->valuePoint().y()));
+    }
+    fitToRows();
+}
+
+void MarkTable::fitToRows()
+{
+    const int shown = qMin(rowCount(), rowsWithoutScrolling);
+    setFixedSize(tableWidth, horizontalHeader()->height() + shown * heightOfRow + 2 * frameWidth());
+}
+
+void MarkTable::changeEvent(QEvent *event)
+{
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        writeHeaders();
+}
+
+MarkTablePanel::MarkTablePanel(QGraphicsItem *parent)
+    : QGraphicsProxyWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+    , m_table(new MarkTable)
+{
+    m_table->setVisible(false);
+    setWidget(m_table);
+    setFlag(ItemIsMovable);
+    setZValue(aboveTheCurves);
+}
+
+// The table reacts to no mouse; were it handed the events, it would swallow what moves the panel.
+void MarkTablePanel::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    QGraphicsItem::mousePressEvent(event);
+}
+
+void MarkTablePanel::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    QGraphicsItem::mouseMoveEvent(event);
+}
+
+void MarkTablePanel::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    QGraphicsItem::mouseReleaseEvent(event);
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QGraphicsProxyWidget>
+#include <QMap>
+#include <QTableWidget>
+
+class MyMarkItem;
+
+/// The small table of one curve's markers: number, x, y. It has rows while the curve has markers.
+class MarkTable : public QTableWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MarkTable(QWidget *parent = nullptr);
+
+    /// Shows the markers of \a numbers that are in \a marks.
+    void setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks);
+    void setCurveName(const QString &name);
+    bool hasData() const { return rowCount() > 0; }
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void writeHeaders();
+    void fitToRows();
+
+    QString m_curveName;
+};
+
+/// The panel on the scene that hosts a MarkTable; it is moved with the mouse.
+class MarkTablePanel : public QGraphicsProxyWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MarkTablePanel(QGraphicsItem *parent = nullptr);
+
+    MarkTable *table() const { return m_table; }
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+
+private:
+    MarkTable *m_table = nullptr;
+};
