@@ -2,6 +2,18 @@
 
 #include <QSerialPort>
 #include <QTcpSocket>
+#include <QtTest>
+
+Answer says(const char *line)
+{
+    return Answer{{QByteArray(line) + '\n'}};
+}
+
+QTestData &newRow(int linkMode, const char *name)
+{
+    return QTest::addRow("%s%s%s", linkMode == 0 ? "serial" : "TCP", *name ? ": " : "", name)
+           << linkMode;
+}
 
 LinkBench::LinkBench(int linkMode, const QList<Answer> &answers)
     : mode(linkMode)

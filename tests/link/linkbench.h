@@ -6,6 +6,20 @@
 #include <QIODevice>
 #include <QStringList>
 
+class QTestData;
+
+/// The answer that is \a line and a newline.
+Answer says(const char *line);
+
+/// A row of a test that runs over both roads; its first column is \a linkMode.
+QTestData &newRow(int linkMode, const char *name = "");
+
+/// The text of a literal in UTF-8.
+inline QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
 /// A link and the fake instrument at its other end, with a record of everything the link tells.
 class LinkBench
 {

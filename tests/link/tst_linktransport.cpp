@@ -16,29 +16,12 @@
 namespace {
 
 using Action = std::function<void(SerialLogic &)>;
-using Answers = QList<Answer>;
-using Pieces = QList<QByteArray>;
 
 constexpr int serial = 0;
 constexpr int tcp = 1;
 
 const QString connectFirst = QStringLiteral("Please connect first.");
 const QString openFirst = QStringLiteral("Please open the serial port first.");
-
-Answer says(const char *line)
-{
-    return Answer{{QByteArray(line) + '\n'}};
-}
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-QTestData &newRow(int mode, const char *name)
-{
-    return QTest::addRow("%s: %s", mode == serial ? "serial" : "TCP", name) << mode;
-}
 
 /// Collects what is logged for as long as it lives, as "level|text".
 class LoggedLines
@@ -113,14 +96,6 @@ private slots:
     void openWhileOpenMovesToTheNewInstrument();
     void serialSettings();
 
-    void pieces_data();
-    void pieces();
-    void unfinishedReplyIsContinued_data();
-    void unfinishedReplyIsContinued();
-    void lateReplyIsLeftBehind_data();
-    void lateReplyIsLeftBehind();
-    void endlessLineIsDropped();
-
     void lostLine_data();
     void lostLine();
     void unconfirmedWrites();
@@ -194,8 +169,8 @@ void TestLinkTransport::unknownModeDoesNothing()
 void TestLinkTransport::closeIsDeferred_data()
 {
     QTest::addColumn<int>("mode");
-    newRow(serial, "");
-    newRow(tcp, "");
+    newRow(serial);
+    newRow(tcp);
 }
 
 void TestLinkTransport::closeIsDeferred()
@@ -253,8 +228,8 @@ void TestLinkTransport::pendingCloseSparesTheNewLink()
 void TestLinkTransport::openWhileOpenMovesToTheNewInstrument_data()
 {
     QTest::addColumn<int>("mode");
-    newRow(serial, "");
-    newRow(tcp, "");
+    newRow(serial);
+    newRow(tcp);
 }
 
 void TestLinkTransport::openWhileOpenMovesToTheNewInstrument()
@@ -285,100 +260,6 @@ void TestLinkTransport::serialSettings()
     QCOMPARE(port->dataBits(), QSerialPort::Data8);
     QCOMPARE(port->stopBits(), QSerialPort::OneStop);
     QCOMPARE(port->flowControl(), QSerialPort::NoFlowControl);
-}
-
-void TestLinkTransport::pieces_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<Pieces>("pieces");
-    QTest::addColumn<QString>("value");
-
-    Pieces dribble;
-    for (const char byte : QByteArray("RETURN:UNIT:POW \xC2\xB5W\n"))
-        dribble.append(QByteArray(1, byte));
-    for (const int mode : {serial, tcp}) {
-        newRow(mode, "newline late") << Pieces{"RETURN:UNIT:POW W", "\n"} << text("unit 'W'");
-        newRow(mode, "byte by byte") << dribble << text("unit 'µW'");
-        newRow(mode, "NUL") << Pieces{QByteArray("RETURN:UNIT:\0\xFF\n", 15), "POW W\n"}
-                            << text("unit 'W'");
-        newRow(mode, "second line lost")
-            << Pieces{"RETURN:UNIT:POW W\nRETURN:UNIT:POW dBm\n"} << text("unit 'W'");
-    }
-}
-
-void TestLinkTransport::pieces()
-{
-    QFETCH(int, mode);
-    QFETCH(Pieces, pieces);
-    QFETCH(QString, value);
-    LinkBench bench(mode, {Answer{pieces}, says("RETURN:REL ON")});
-    QVERIFY(bench.open());
-    bench.letPiecesFollow();
-    bench.link.queryPowerUnit();
-    bench.link.queryMeasureState();
-    QCOMPARE(bench.values, (QStringList{value, text("state 'ON'")}));
-}
-
-void TestLinkTransport::unfinishedReplyIsContinued_data()
-{
-    QTest::addColumn<int>("mode");
-    newRow(serial, "");
-    newRow(tcp, "");
-}
-
-void TestLinkTransport::unfinishedReplyIsContinued()
-{
-    QFETCH(int, mode);
-    LinkBench bench(mode, {Answer{{"RETURN:OFFS 1"}}, says(".5dB")});
-    QVERIFY(bench.open());
-    const LinkWaits patient = bench.waits;
-    // The first piece is waited for in full, the second never comes.
-    const auto shortened = connect(bench.device(), &QIODevice::readyRead, &bench.link,
-                                   [&] { bench.shortenReading(); });
-    bench.link.queryOffset();
-    disconnect(shortened);
-    bench.link.setWaits(patient);
-    QCOMPARE(bench.values, QStringList{text("offset 0")});
-    bench.link.queryOffset();
-    QCOMPARE(bench.values.last(), text("offset 1.5"));
-}
-
-void TestLinkTransport::lateReplyIsLeftBehind_data()
-{
-    QTest::addColumn<int>("mode");
-    newRow(serial, "");
-    newRow(tcp, "");
-}
-
-void TestLinkTransport::lateReplyIsLeftBehind()
-{
-    QFETCH(int, mode);
-    LinkBench bench(mode, {{}, says("RETURN:UNIT:POW W"), says("RETURN:UNIT:POW W")});
-    QVERIFY(bench.open());
-    const LinkWaits patient = bench.waits;
-    bench.shortenReading();
-    bench.link.queryMeasureState();
-    bench.link.setWaits(patient);
-    bench.instrument.say("RETURN:REL ON\n");
-    QTRY_VERIFY(bench.device()->bytesAvailable() > 0);
-
-    // It spoils one answer, and no more than one.
-    bench.link.queryPowerUnit();
-    bench.link.queryPowerUnit();
-    QCOMPARE(bench.values,
-             (QStringList{text("state ''"), text("unit 'RETURN:REL ON'"), text("unit 'W'")}));
-}
-
-void TestLinkTransport::endlessLineIsDropped()
-{
-    const QByteArray endless(70 * 1024, 'x');
-    LinkBench bench(tcp, {Answer{{endless}}, says("RETURN:REL ON")});
-    QVERIFY(bench.open());
-    QLoggingCategory::setFilterRules(text("default.debug=false"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("no end of line, dropped \\d+")));
-    bench.link.queryOffset();
-    QLoggingCategory::setFilterRules(QString());
-    QCOMPARE(bench.values, QStringList{text("offset 0")});
 }
 
 void TestLinkTransport::lostLine_data()
@@ -472,8 +353,8 @@ void TestLinkTransport::unconfirmedWrites()
 void TestLinkTransport::logAndDisplay_data()
 {
     QTest::addColumn<int>("mode");
-    newRow(serial, "");
-    newRow(tcp, "");
+    newRow(serial);
+    newRow(tcp);
 }
 
 void TestLinkTransport::logAndDisplay()
