@@ -28,6 +28,4 @@ add_library(mz_console STATIC
 )
 target_link_libraries(mz_console PUBLIC mz_chart mz_link PRIVATE mz_flags)
 
-if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/2d/graphicsbase.cpp")
-    mz_add_program(mz6218 SOURCES main.cpp LIBRARIES mz_console mz_resources)
-endif()
+mz_add_program(mz6218 SOURCES main.cpp LIBRARIES mz_console mz_resources)
