@@ -19,6 +19,11 @@ QList<Fault> faultsFrom(const QStringList &texts)
     return faults;
 }
 
+QStringList words(const char *line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
+}
+
 QByteArray joined(const QList<Step> &steps)
 {
     QByteArray bytes;
@@ -29,7 +34,7 @@ QByteArray joined(const QList<Step> &steps)
 
 CommandLine commandLine(const QStringList &arguments)
 {
-    return parseCommandLine(QStringList{QStringLiteral("mz6218-sim")} + arguments);
+    return parseCommandLine(words("mz6218-sim") + arguments);
 }
 
 } // namespace
@@ -96,7 +101,7 @@ void TestFaults::befalling()
 
 void TestFaults::probability()
 {
-    FaultInjector injector(faultsFrom({QStringLiteral("no-reply,p=0.25")}), 3);
+    FaultInjector injector(faultsFrom(words("no-reply,p=0.25")), 3);
     int count = 0;
     for (int i = 0; i < 4000; ++i)
         count += injector.befalling("GET?").size();
@@ -105,10 +110,8 @@ void TestFaults::probability()
 
 void TestFaults::countedEachForItself()
 {
-    FaultInjector injector(
-        faultsFrom({QStringLiteral("late:10,every=2"), QStringLiteral("garbage,every=3"),
-                    QStringLiteral("late:5,only=GET?")}),
-        1);
+    FaultInjector injector(faultsFrom(words("late:10,every=2 garbage,every=3 late:5,only=GET?")),
+                           1);
     QList<int> counts;
     for (int i = 0; i < 6; ++i)
         counts.append(injector.befalling("GET?").size());
@@ -135,15 +138,10 @@ void TestFaults::delivery_data()
     row("dropped inside", one("drop-inside"), "RETUR", true, 0);
     row("dropped after", one("drop-after"), "RETURN:OK\n", true, 0);
     row("refusals change the reply elsewhere", one("refuse"), "RETURN:OK\n", false, 0);
-    row("delays add up",
-        {QStringLiteral("late:800"), QStringLiteral("late:50"), QStringLiteral("no-newline")},
-        "RETURN:OK", false, 850);
-    row("two lines without the last newline",
-        {QStringLiteral("two-lines"), QStringLiteral("no-newline")}, "RETURN:OK\nRETURN:OK", false,
-        0);
-    row("a late drop without a reply",
-        {QStringLiteral("drop-after"), QStringLiteral("no-reply"), QStringLiteral("late:7")}, "",
-        true, 7);
+    row("delays add up", words("late:800 late:50 no-newline"), "RETURN:OK", false, 850);
+    row("two lines without the last newline", words("two-lines no-newline"), "RETURN:OK\nRETURN:OK",
+        false, 0);
+    row("a late drop without a reply", words("drop-after no-reply late:7"), "", true, 7);
 }
 
 void TestFaults::delivery()
@@ -161,7 +159,7 @@ void TestFaults::garbageHidesNothing()
 {
     FaultInjector injector({}, 1);
     const QByteArray reply = "RETURN:GET -20.00dBm,10.00uW";
-    const QList<Fault> faults = faultsFrom({QStringLiteral("garbage:20")});
+    const QList<Fault> faults = faultsFrom(words("garbage:20"));
     for (int i = 0; i < 500; ++i) {
         const QByteArray bytes = joined(injector.delivery(reply, faults));
         QCOMPARE(bytes.size(), reply.size() + 21);
@@ -178,7 +176,7 @@ void TestFaults::piecesCutCharacters()
 {
     FaultInjector injector({}, 1);
     const QByteArray reply = "RETURN:GET -20.00dBm,10.00\xc2\xb5W";
-    const QList<Fault> faults = faultsFrom({QStringLiteral("pieces:30"), QStringLiteral("late:9")});
+    const QList<Fault> faults = faultsFrom(words("pieces:30 late:9"));
     for (int i = 0; i < 500; ++i) {
         const QList<Step> steps = injector.delivery(reply, faults);
         QCOMPARE(joined(steps), reply + '\n');
@@ -196,10 +194,8 @@ void TestFaults::piecesCutCharacters()
 void TestFaults::repeatsForASeed()
 {
     const auto mishaps = [](quint32 seed) {
-        FaultInjector injector(
-            faultsFrom({QStringLiteral("garbage:4,p=0.5"), QStringLiteral("pieces,p=0.3"),
-                        QStringLiteral("no-reply,p=0.1")}),
-            seed);
+        FaultInjector injector(faultsFrom(words("garbage:4,p=0.5 pieces,p=0.3 no-reply,p=0.1")),
+                               seed);
         QList<QByteArray> list;
         for (int i = 0; i < 200; ++i) {
             for (const Step &step : injector.delivery("RETURN:OK", injector.befalling("GET?")))
@@ -214,9 +210,7 @@ void TestFaults::repeatsForASeed()
 void TestFaults::badOptions_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    const auto row = [](const char *line) {
-        QTest::newRow(line) << QString::fromLatin1(line).split(QLatin1Char(' '));
-    };
+    const auto row = [](const char *line) { QTest::newRow(line) << words(line); };
     for (const char *line :
          {"--nonsense", "stray", "--port", "--port -1", "--port 65536", "--port http",
           "--level loud", "--level nan", "--noise -1", "--seed 1.5", "--seed -1",
@@ -258,13 +252,9 @@ void TestFaults::badOptions()
 
 void TestFaults::goodOptions()
 {
-    const CommandLine line = commandLine(
-        {QStringLiteral("--listen"), QStringLiteral("::1"), QStringLiteral("--port"),
-         QStringLiteral("0"), QStringLiteral("--serial"), QStringLiteral("--level"),
-         QStringLiteral("-33.5"), QStringLiteral("--noise=0"), QStringLiteral("--seed"),
-         QStringLiteral("4294967295"), QStringLiteral("--calibration-time"), QStringLiteral("0.25"),
-         QStringLiteral("--fault"), QStringLiteral("pieces,only=AVER:COUN?,p=0.5"),
-         QStringLiteral("--fault"), QStringLiteral("late:800,after=2")});
+    const CommandLine line = commandLine(words(
+        "--listen ::1 --port 0 --serial --level -33.5 --noise=0 --seed 4294967295 "
+        "--calibration-time 0.25 --fault pieces,only=AVER:COUN?,p=0.5 --fault late:800,after=2"));
     QVERIFY2(line.action == CommandLine::Action::Run, qPrintable(line.text));
     const Options &options = line.options;
     QCOMPARE(options.address, QHostAddress(QHostAddress::LocalHostIPv6));

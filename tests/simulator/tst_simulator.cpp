@@ -84,13 +84,18 @@ Run runToEnd(const QStringList &arguments)
             QString::fromUtf8(process.readAllStandardError())};
 }
 
+QStringList words(const char *line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
+}
+
 QStringList fault(const char *text)
 {
     return {QStringLiteral("--fault"), QString::fromLatin1(text)};
 }
 
-const QStringList steady{QStringLiteral("--noise"), QStringLiteral("0")};
-const QStringList quick{QStringLiteral("--calibration-time"), QStringLiteral("0")};
+const QStringList steady = words("--noise 0");
+const QStringList quick = words("--calibration-time 0");
 const QByteArray reading("RETURN:GET -20.00dBm,-20.00dBm");
 
 } // namespace
@@ -141,9 +146,9 @@ void TestSimulator::cleanup()
 
 void TestSimulator::talkAndTrace()
 {
-    QVERIFY2(m_simulator.start(steady + QStringList{QStringLiteral("--micro-sign")}),
+    QVERIFY2(m_simulator.start(steady + words("--micro-sign")),
              qPrintable(m_simulator.errorText()));
-    QCOMPARE(m_simulator.address(), QStringLiteral("127.0.0.1"));
+    QCOMPARE(m_simulator.address(), QLatin1String("127.0.0.1"));
     QCOMPARE(m_simulator.serialPath(), QString());
     Client client(m_simulator);
     QCOMPARE(client.ask("FREQ 2.45GHz"), QByteArray("RETURN:OK"));
@@ -151,13 +156,12 @@ void TestSimulator::talkAndTrace()
     QCOMPARE(client.ask("UNIT:POW W"), QByteArray("RETURN:OK"));
     QCOMPARE(client.ask("GET? \r"), QByteArray("RETURN:GET -20.00dBm,10.00\xc2\xb5W"));
 
-    QVERIFY(m_simulator.waitForCommand(QStringLiteral("GET? \\r")));
-    QVERIFY(!m_simulator.waitForCommand(QStringLiteral("FREQ?"), 2, 0));
-    QCOMPARE(m_simulator.commands(),
-             QStringList({QStringLiteral("FREQ 2.45GHz"), QStringLiteral("FREQ?"),
-                          QStringLiteral("UNIT:POW W"), QStringLiteral("GET? \\r")}));
+    QVERIFY(m_simulator.waitForCommand(QLatin1String("GET? \\r")));
+    QVERIFY(!m_simulator.waitForCommand(QLatin1String("FREQ?"), 2, 0));
+    QCOMPARE(m_simulator.commands().join(QLatin1Char('|')),
+             QLatin1String("FREQ 2.45GHz|FREQ?|UNIT:POW W|GET? \\r"));
     QCOMPARE(m_simulator.replies().last(),
-             QStringLiteral("RETURN:GET -20.00dBm,10.00\\xc2\\xb5W\\n"));
+             QLatin1String("RETURN:GET -20.00dBm,10.00\\xc2\\xb5W\\n"));
 }
 
 void TestSimulator::sameSeedSameReadings()
@@ -183,21 +187,20 @@ void TestSimulator::clientsTakeTurns()
     Client impatient(m_simulator);
     impatient.send("OFFS 9\n");
     impatient.leave();
-    QTRY_COMPARE_WITH_TIMEOUT(m_simulator.notes().size(), 2, patience);
+    QVERIFY(QTest::qWaitFor([this] { return m_simulator.notes().size() == 2; }, patience));
     QCOMPARE(first.ask("REL?"), QByteArray("RETURN:REL OFF"));
     Client second(m_simulator);
     QVERIFY(second.isConnected());
     second.send("OFFS?\n");
     QCOMPARE(first.ask("GET?"), QByteArray("RETURN:GET -15.00dBm,-15.00dBm"));
-    QVERIFY(!m_simulator.commands().contains(QStringLiteral("OFFS?")));
+    QVERIFY(!m_simulator.commands().contains(QLatin1String("OFFS?")));
     first.leave();
     QCOMPARE(second.line(), QByteArray("RETURN:OFFS 5.00dB"));
 }
 
 void TestSimulator::resultsComeLate()
 {
-    QVERIFY(m_simulator.start(
-        steady + QStringList{QStringLiteral("--calibration-time"), QStringLiteral("0.4")}));
+    QVERIFY(m_simulator.start(steady + words("--calibration-time 0.4")));
     Client client(m_simulator);
     QElapsedTimer timer;
     timer.start();
@@ -234,17 +237,16 @@ void TestSimulator::silentResults()
 
 void TestSimulator::resultsStayWithTheirClient()
 {
-    QVERIFY(m_simulator.start(
-        steady + QStringList{QStringLiteral("--calibration-time"), QStringLiteral("0.2")} +
-        fault("late:500,only=OFFS?")));
+    QVERIFY(
+        m_simulator.start(steady + words("--calibration-time 0.2") + fault("late:500,only=OFFS?")));
     Client first(m_simulator);
     first.send("OFFS?\nCAL\nGE");
-    QVERIFY(m_simulator.waitForCommand(QStringLiteral("CAL")));
+    QVERIFY(m_simulator.waitForCommand(QLatin1String("CAL")));
     first.leave();
     Client second(m_simulator);
     QCOMPARE(second.ask("GET?"), reading);
     QCOMPARE(second.ask("OFFS?"), QByteArray("RETURN:OFFS 0.00dB"));
-    QVERIFY(!m_simulator.replies().contains(QStringLiteral("RETURN:CAL:OK\\n")));
+    QVERIFY(!m_simulator.replies().contains(QLatin1String("RETURN:CAL:OK\\n")));
 }
 
 void TestSimulator::lateRepliesKeepTheirOrder()
@@ -263,21 +265,20 @@ void TestSimulator::lateRepliesKeepTheirOrder()
 
 void TestSimulator::pieces()
 {
-    QVERIFY(m_simulator.start(steady + QStringList{QStringLiteral("--micro-sign")} +
-                              fault("pieces:5,only=GET?") + fault("two-lines,only=AVER:COUN?") +
-                              fault("garbage:3,only=OFFS?")));
+    QVERIFY(m_simulator.start(steady + words("--micro-sign") + fault("pieces:5,only=GET?") +
+                              fault("two-lines,only=AVER:COUN?") + fault("garbage:3,only=OFFS?")));
     Client client(m_simulator);
     QCOMPARE(client.ask("UNIT:POW W"), QByteArray("RETURN:OK"));
     QCOMPARE(client.ask("GET?"), QByteArray("RETURN:GET -20.00dBm,10.00\xc2\xb5W"));
     const QStringList sent = m_simulator.replies().mid(1);
     QVERIFY(sent.size() >= 2);
-    QCOMPARE(sent.join(QString()), QStringLiteral("RETURN:GET -20.00dBm,10.00\\xc2\\xb5W\\n"));
+    QCOMPARE(sent.join(QString()), QLatin1String("RETURN:GET -20.00dBm,10.00\\xc2\\xb5W\\n"));
     QVERIFY(!sent.filter(QRegularExpression(QStringLiteral("\\\\xc2$"))).isEmpty());
 
     QCOMPARE(client.ask("AVER:COUN?"), QByteArray("RETURN:AVER:COUN 1"));
     QCOMPARE(client.line(), QByteArray("RETURN:AVER:COUN 1"));
     QCOMPARE(m_simulator.replies().last(),
-             QStringLiteral("RETURN:AVER:COUN 1\\nRETURN:AVER:COUN 1\\n"));
+             QLatin1String("RETURN:AVER:COUN 1\\nRETURN:AVER:COUN 1\\n"));
     const QByteArray garbled = client.ask("OFFS?");
     QCOMPARE(garbled.size(), 21);
     QVERIFY(garbled.contains('\0'));
@@ -294,7 +295,7 @@ void TestSimulator::swallowedReply()
     QCOMPARE(client.ask("FREQ 2GHz"), QByteArray("RETURN:ERR -104,Data type error"));
     QCOMPARE(client.ask("FREQ 2.00"), QByteArray("RETURN:OK"));
     QCOMPARE(client.ask("GET?"), reading);
-    QCOMPARE(m_simulator.commands().count(QStringLiteral("GET?")), 2);
+    QCOMPARE(m_simulator.commands().count(QLatin1String("GET?")), 2);
     client.send("REL?\n");
     QCOMPARE(client.ask("OFFS?"), QByteArray("RETURN:REL OFFRETURN:OFFS 0.00dB"));
 }
@@ -380,12 +381,10 @@ void TestSimulator::badCommandLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("message");
-    QTest::newRow("unknown option") << QStringList{QStringLiteral("--nonsense")} << "nonsense";
-    QTest::newRow("bad number") << QStringList{QStringLiteral("--level"), QStringLiteral("loud")}
-                                << "loud";
+    QTest::newRow("unknown option") << words("--nonsense") << "nonsense";
+    QTest::newRow("bad number") << words("--level loud") << "loud";
     QTest::newRow("bad fault") << fault("explode") << "explode";
-    QTest::newRow("first of two mistakes")
-        << QStringList{QStringLiteral("--port=x"), QStringLiteral("--noise=y")} << "--port";
+    QTest::newRow("first of two mistakes") << words("--port=x --noise=y") << "--port";
 }
 
 void TestSimulator::badCommandLine()
@@ -401,12 +400,12 @@ void TestSimulator::badCommandLine()
 
 void TestSimulator::helpAndVersion()
 {
-    const Run help = runToEnd({QStringLiteral("--help")});
+    const Run help = runToEnd(words("--help"));
     QCOMPARE(help.exitCode, 0);
     for (const char *word : {"--listen", "--calibration-time", "no-reply", "cal-silent",
                              "numeric-frequency", "every=N"})
         QVERIFY2(help.out.contains(QLatin1String(word)), word);
-    const Run version = runToEnd({QStringLiteral("--version")});
+    const Run version = runToEnd(words("--version"));
     QCOMPARE(version.exitCode, 0);
     QCOMPARE(version.out, QStringLiteral("mz6218-sim " MZ_VERSION "\n"));
 }
@@ -416,8 +415,7 @@ void TestSimulator::stopSignals()
 #ifdef Q_OS_UNIX
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         QProcess process;
-        process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"),
-                      {QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--serial")});
+        process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), words("--port 0 --serial"));
         QByteArray out;
         while (!out.contains("Listening") && process.waitForReadyRead(patience))
             out += process.readAllStandardOutput();

@@ -8,6 +8,11 @@ namespace {
 
 constexpr int patience = 10000; // ms, for what is bound to happen
 
+QStringList words(const char *line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
+}
+
 /// The next line on \a device without its newline; "(nothing)" when patience ends.
 QByteArray line(QIODevice &device)
 {
@@ -51,9 +56,7 @@ private slots:
 private:
     bool start(const QStringList &options = {})
     {
-        return m_simulator.start(options +
-                                 QStringList{QStringLiteral("--serial"), QStringLiteral("--noise"),
-                                             QStringLiteral("0"), QStringLiteral("--micro-sign")});
+        return m_simulator.start(options + words("--serial --noise 0 --micro-sign"));
     }
 
     std::unique_ptr<QSerialPort> m_port;
@@ -81,36 +84,34 @@ void TestSimulatorSerial::talk()
     QCOMPARE(ask(*m_port, "GET?\r"), QByteArray("RETURN:GET -20.00dBm,10.00\xc2\xb5W"));
     // Nothing is echoed, nothing translated: control characters pass like others.
     QCOMPARE(ask(*m_port, "\x03\x04\x11\x1a\x7f"), QByteArray("RETURN:ERR -113,Undefined header"));
-    QCOMPARE(m_simulator.commands(),
-             QStringList({QStringLiteral("GET?"), QStringLiteral("UNIT:POW W"),
-                          QStringLiteral("GET?\\r"), QStringLiteral("\\x03\\x04\\x11\\x1a\\x7f")}));
+    QCOMPARE(m_simulator.commands().join(QLatin1Char('|')),
+             QLatin1String("GET?|UNIT:POW W|GET?\\r|\\x03\\x04\\x11\\x1a\\x7f"));
 }
 
 void TestSimulatorSerial::nothingIsLeftForTheNextClient()
 {
-    QVERIFY(start({QStringLiteral("--calibration-time"), QStringLiteral("0"),
-                   QStringLiteral("--fault"), QStringLiteral("late:100,only=REL?")}));
+    QVERIFY(start(words("--calibration-time 0 --fault late:100,only=REL?")));
     for (int i = 1; i <= 3; ++i) {
         QSerialPort first;
         QVERIFY(open(first, m_simulator.serialPath()));
         QCOMPARE(ask(first, "GET?"), reading);
         first.write("OFFS?\nCAL\nREL?\nGE");
         QVERIFY(first.waitForBytesWritten(patience));
-        QVERIFY(m_simulator.waitForCommand(QStringLiteral("REL?"), i));
+        QVERIFY(m_simulator.waitForCommand(QLatin1String("REL?"), i));
         first.close();
-        QTRY_COMPARE_WITH_TIMEOUT(m_simulator.notes().size(), 2 * i - 1, patience);
+        QVERIFY(QTest::qWaitFor([&] { return m_simulator.notes().size() == 2 * i - 1; }, patience));
 
         QSerialPort second;
         QVERIFY(open(second, m_simulator.serialPath()));
         QCOMPARE(ask(second, "FREQ?"), QByteArray("RETURN:FREQ 50MHz"));
         second.close();
-        QTRY_COMPARE_WITH_TIMEOUT(m_simulator.notes().size(), 2 * i, patience);
+        QVERIFY(QTest::qWaitFor([&] { return m_simulator.notes().size() == 2 * i; }, patience));
     }
 }
 
 void TestSimulatorSerial::sharesTheInstrumentWithTcp()
 {
-    QVERIFY(start({QStringLiteral("--calibration-time"), QStringLiteral("0.1")}));
+    QVERIFY(start(words("--calibration-time 0.1")));
     QVERIFY(open(*m_port, m_simulator.serialPath()));
     QTcpSocket socket;
     socket.connectToHost(m_simulator.address(), m_simulator.port());
@@ -140,12 +141,12 @@ void TestSimulatorSerial::dropTakesThePortAway()
     QVERIFY(open(*m_port, path));
     QCOMPARE(ask(*m_port, "AVER:COUN 4"), QByteArray("RETURN:OK"));
     m_port->write("GET?\nAVER:COUN 8\n");
-    QTRY_VERIFY_WITH_TIMEOUT(m_port->error() != QSerialPort::NoError, patience);
+    QVERIFY(QTest::qWaitFor([&] { return m_port->error() != QSerialPort::NoError; }, patience));
     QTEST(m_port->readAll(), "bytes");
     m_port->close();
 
     // Another port leads to the same instrument.
-    QTRY_VERIFY_WITH_TIMEOUT(m_simulator.serialPath() != path, patience);
+    QVERIFY(QTest::qWaitFor([&] { return m_simulator.serialPath() != path; }, patience));
     QVERIFY(open(*m_port, m_simulator.serialPath()));
     QCOMPARE(ask(*m_port, "AVER:COUN?"), QByteArray("RETURN:AVER:COUN 4"));
 }
