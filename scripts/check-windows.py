@@ -19,7 +19,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 COMPILER = "x86_64-w64-mingw32-g++-posix"
 # CMake adds these for Unix alone.
-UNIX_ONLY = {"ptylink.cpp"}
+UNIX_ONLY = {"ptylink.cpp", "fakeinstrument.cpp"}
 WARNINGS = ["-Wall", "-Wextra", "-Werror"]
 
 

@@ -2,13 +2,13 @@
 
 #include <QFile>
 #include <QSocketNotifier>
-#include <QTcpServer>
 #include <QTcpSocket>
 
 #include <array>
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <sys/socket.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -215,4 +215,12 @@ template<typename Work>
 void FakeInstrument::runInThread(Work work) const
 {
     QMetaObject::invokeMethod(m_wire, work, Qt::BlockingQueuedConnection);
+}
+
+DeafHost::DeafHost()
+{
+    m_server.listen(QHostAddress::LocalHost);
+    // Little room, so that it is soon full; connections inherit it.
+    const int room = 4096;
+    setsockopt(int(m_server.socketDescriptor()), SOL_SOCKET, SO_RCVBUF, &room, sizeof room);
 }

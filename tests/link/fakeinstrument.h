@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QTcpServer>
 #include <QThread>
 
 /// What the instrument does about one command line.
@@ -46,4 +47,15 @@ private:
 
     QThread m_thread;
     FakeWire *m_wire; // goes with the thread
+};
+
+/// A host that takes connections and never reads a byte.
+class DeafHost
+{
+public:
+    DeafHost();
+    int port() const { return m_server.serverPort(); }
+
+private:
+    QTcpServer m_server;
 };

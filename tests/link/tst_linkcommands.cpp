@@ -54,6 +54,92 @@ private slots:
     void unsentTaskIsNotAwaited();
 };
 
+namespace {
+
+const Answer gigahertz = says("RETURN:FREQ 2.45GHz");
+
+void addQueries(int mode)
+{
+    newRow(mode, "identity") << Action(&SerialLogic::queryIDN)
+                             << Answers{says("RETURN:IDN MZ6218,SN001,V1.0")} << Lines{"*IDN?\n"}
+                             << QStringList{text("identity 'MZ6218,SN001,V1.0'")};
+    newRow(mode, "frequency") << Action(&SerialLogic::queryFrequency) << Answers{gigahertz}
+                              << Lines{"FREQ?\n"} << QStringList{text("frequency 2.45 'GHz'")};
+    newRow(mode, "offset") << Action(&SerialLogic::queryOffset)
+                           << Answers{says("RETURN:OFFS -1.50dB")} << Lines{"OFFS?\n"}
+                           << QStringList{text("offset -1.5")};
+    newRow(mode, "power unit") << Action(&SerialLogic::queryPowerUnit)
+                               << Answers{says("RETURN:UNIT:POW DBM\r")} << Lines{"UNIT:POW?\n"}
+                               << QStringList{text("unit 'DBM'")};
+    newRow(mode, "relative state")
+        << Action(&SerialLogic::queryMeasureState) << Answers{says("RETURN:REL ON")}
+        << Lines{"REL?\n"} << QStringList{text("state 'ON'")};
+    newRow(mode, "averaging") << Action(&SerialLogic::queryAverageCount)
+                              << Answers{says("RETURN:AVER:COUN 1024")} << Lines{"AVER:COUN?\n"}
+                              << QStringList{text("count 1024")};
+    newRow(mode, "reading") << Action(&SerialLogic::readMesureData)
+                            << Answers{says("RETURN:GET -20.00dBm,10.00µW")} << Lines{"GET?\n"}
+                            << QStringList{text("power -20 '10.00µW'")};
+    newRow(mode, "reading of one field")
+        << Action(&SerialLogic::readMesureData) << Answers{says("RETURN:GET -20.00dBm")}
+        << Lines{"GET?\n"} << QStringList{text("power 100 ''")};
+}
+
+void addSettings(int mode)
+{
+    newRow(mode, "set offset") << Action([](SerialLogic &link) { link.setOffset(-1.5); })
+                               << Answers{ok, says("RETURN:OFFS -1.50dB")}
+                               << Lines{"OFFS -1.50\n", "OFFS?\n"}
+                               << QStringList{text("offset -1.5")};
+    newRow(mode, "set power unit")
+        << Action([](SerialLogic &link) { link.setPowerUnit(text("W")); })
+        << Answers{ok, says("RETURN:UNIT:POW W")} << Lines{"UNIT:POW W\n", "UNIT:POW?\n"}
+        << QStringList{text("unit 'W'")};
+    newRow(mode, "set relative state")
+        << Action([](SerialLogic &link) { link.setMeasureState(text("OFF")); })
+        << Answers{ok, says("RETURN:REL OFF")} << Lines{"REL OFF\n", "REL?\n"}
+        << QStringList{text("state 'OFF'")};
+    newRow(mode, "set averaging") << Action([](SerialLogic &link) { link.setAverageCount(16); })
+                                  << Answers{says("OK, AS YOU WISH"), says("RETURN:AVER:COUN 16")}
+                                  << Lines{"AVER:COUN 16\n", "AVER:COUN?\n"}
+                                  << QStringList{text("count 16")};
+    newRow(mode, "refused setting") << Action([](SerialLogic &link) { link.setAverageCount(0); })
+                                    << Answers{refused} << Lines{"AVER:COUN 0\n"} << QStringList();
+}
+
+void addFrequencySettings(int mode)
+{
+    const auto setFrequency = [](const char *value, const char *unit) -> Action {
+        return [=](SerialLogic &link) { link.setFrequency(text(value), text(unit)); };
+    };
+    newRow(mode, "set frequency as text")
+        << setFrequency("2.45", "GHz") << Answers{ok, gigahertz}
+        << Lines{"FREQ 2.45GHz\n", "FREQ?\n"} << QStringList{text("frequency 2.45 'GHz'")};
+    newRow(mode, "set frequency as number")
+        << Action([](SerialLogic &link) { link.setFrequency(2.45); }) << Answers{ok, gigahertz}
+        << Lines{"FREQ 2.45\n", "FREQ?\n"} << QStringList{text("frequency 2.45 'GHz'")};
+    newRow(mode, "instrument that knows numbers only, GHz")
+        << setFrequency("2.45", "GHz") << Answers{refused, ok, gigahertz}
+        << Lines{"FREQ 2.45GHz\n", "FREQ 2.45\n", "FREQ?\n"}
+        << QStringList{text("frequency 2.45 'GHz'")};
+    newRow(mode, "instrument that knows numbers only, MHz")
+        << setFrequency("2450", "MHz") << Answers{refused, ok, gigahertz}
+        << Lines{"FREQ 2450MHz\n", "FREQ 2.45\n", "FREQ?\n"}
+        << QStringList{text("frequency 2.45 'GHz'")};
+    newRow(mode, "instrument that knows numbers only, KHz")
+        << setFrequency("2450000", "KHz") << Answers{refused, ok, gigahertz}
+        << Lines{"FREQ 2450000KHz\n", "FREQ 2.45\n", "FREQ?\n"}
+        << QStringList{text("frequency 2.45 'GHz'")};
+    newRow(mode, "frequency refused in both forms")
+        << setFrequency("2450", "MHz") << Answers{refused, refused}
+        << Lines{"FREQ 2450MHz\n", "FREQ 2.45\n"} << QStringList();
+    newRow(mode, "no numeric form of another unit")
+        << setFrequency("2450000000", "Hz") << Answers{refused} << Lines{"FREQ 2450000000Hz\n"}
+        << QStringList();
+}
+
+} // namespace
+
 void TestLinkCommands::operations_data()
 {
     QTest::addColumn<int>("mode");
@@ -62,80 +148,10 @@ void TestLinkCommands::operations_data()
     QTest::addColumn<Lines>("wire");
     QTest::addColumn<QStringList>("values");
 
-    const auto setFrequency = [](const char *value, const char *unit) -> Action {
-        return [=](SerialLogic &link) { link.setFrequency(text(value), text(unit)); };
-    };
-    const Answer gigahertz = says("RETURN:FREQ 2.45GHz");
     for (const int mode : {0, 1}) {
-        newRow(mode, "identity") << Action(&SerialLogic::queryIDN)
-                                 << Answers{says("RETURN:IDN MZ6218,SN001,V1.0")}
-                                 << Lines{"*IDN?\n"}
-                                 << QStringList{text("identity 'MZ6218,SN001,V1.0'")};
-        newRow(mode, "frequency") << Action(&SerialLogic::queryFrequency) << Answers{gigahertz}
-                                  << Lines{"FREQ?\n"} << QStringList{text("frequency 2.45 'GHz'")};
-        newRow(mode, "offset") << Action(&SerialLogic::queryOffset)
-                               << Answers{says("RETURN:OFFS -1.50dB")} << Lines{"OFFS?\n"}
-                               << QStringList{text("offset -1.5")};
-        newRow(mode, "power unit")
-            << Action(&SerialLogic::queryPowerUnit) << Answers{says("RETURN:UNIT:POW DBM\r")}
-            << Lines{"UNIT:POW?\n"} << QStringList{text("unit 'DBM'")};
-        newRow(mode, "relative state")
-            << Action(&SerialLogic::queryMeasureState) << Answers{says("RETURN:REL ON")}
-            << Lines{"REL?\n"} << QStringList{text("state 'ON'")};
-        newRow(mode, "averaging") << Action(&SerialLogic::queryAverageCount)
-                                  << Answers{says("RETURN:AVER:COUN 1024")} << Lines{"AVER:COUN?\n"}
-                                  << QStringList{text("count 1024")};
-        newRow(mode, "reading") << Action(&SerialLogic::readMesureData)
-                                << Answers{says("RETURN:GET -20.00dBm,10.00µW")} << Lines{"GET?\n"}
-                                << QStringList{text("power -20 '10.00µW'")};
-        newRow(mode, "reading of one field")
-            << Action(&SerialLogic::readMesureData) << Answers{says("RETURN:GET -20.00dBm")}
-            << Lines{"GET?\n"} << QStringList{text("power 100 ''")};
-
-        newRow(mode, "set offset")
-            << Action([](SerialLogic &link) { link.setOffset(-1.5); })
-            << Answers{ok, says("RETURN:OFFS -1.50dB")} << Lines{"OFFS -1.50\n", "OFFS?\n"}
-            << QStringList{text("offset -1.5")};
-        newRow(mode, "set power unit")
-            << Action([](SerialLogic &link) { link.setPowerUnit(text("W")); })
-            << Answers{ok, says("RETURN:UNIT:POW W")} << Lines{"UNIT:POW W\n", "UNIT:POW?\n"}
-            << QStringList{text("unit 'W'")};
-        newRow(mode, "set relative state")
-            << Action([](SerialLogic &link) { link.setMeasureState(text("OFF")); })
-            << Answers{ok, says("RETURN:REL OFF")} << Lines{"REL OFF\n", "REL?\n"}
-            << QStringList{text("state 'OFF'")};
-        newRow(mode, "set averaging")
-            << Action([](SerialLogic &link) { link.setAverageCount(16); })
-            << Answers{says("OK, AS YOU WISH"), says("RETURN:AVER:COUN 16")}
-            << Lines{"AVER:COUN 16\n", "AVER:COUN?\n"} << QStringList{text("count 16")};
-        newRow(mode, "refused setting")
-            << Action([](SerialLogic &link) { link.setAverageCount(0); }) << Answers{refused}
-            << Lines{"AVER:COUN 0\n"} << QStringList();
-
-        newRow(mode, "set frequency as text")
-            << setFrequency("2.45", "GHz") << Answers{ok, gigahertz}
-            << Lines{"FREQ 2.45GHz\n", "FREQ?\n"} << QStringList{text("frequency 2.45 'GHz'")};
-        newRow(mode, "set frequency as number")
-            << Action([](SerialLogic &link) { link.setFrequency(2.45); }) << Answers{ok, gigahertz}
-            << Lines{"FREQ 2.45\n", "FREQ?\n"} << QStringList{text("frequency 2.45 'GHz'")};
-        newRow(mode, "instrument that knows numbers only, GHz")
-            << setFrequency("2.45", "GHz") << Answers{refused, ok, gigahertz}
-            << Lines{"FREQ 2.45GHz\n", "FREQ 2.45\n", "FREQ?\n"}
-            << QStringList{text("frequency 2.45 'GHz'")};
-        newRow(mode, "instrument that knows numbers only, MHz")
-            << setFrequency("2450", "MHz") << Answers{refused, ok, gigahertz}
-            << Lines{"FREQ 2450MHz\n", "FREQ 2.45\n", "FREQ?\n"}
-            << QStringList{text("frequency 2.45 'GHz'")};
-        newRow(mode, "instrument that knows numbers only, KHz")
-            << setFrequency("2450000", "KHz") << Answers{refused, ok, gigahertz}
-            << Lines{"FREQ 2450000KHz\n", "FREQ 2.45\n", "FREQ?\n"}
-            << QStringList{text("frequency 2.45 'GHz'")};
-        newRow(mode, "frequency refused in both forms")
-            << setFrequency("2450", "MHz") << Answers{refused, refused}
-            << Lines{"FREQ 2450MHz\n", "FREQ 2.45\n"} << QStringList();
-        newRow(mode, "no numeric form of another unit")
-            << setFrequency("2450000000", "Hz") << Answers{refused} << Lines{"FREQ 2450000000Hz\n"}
-            << QStringList();
+        addQueries(mode);
+        addSettings(mode);
+        addFrequencySettings(mode);
     }
 }
 

@@ -11,8 +11,6 @@
 
 #include <functional>
 
-#include <sys/socket.h>
-
 namespace {
 
 using Action = std::function<void(SerialLogic &)>;
@@ -46,23 +44,6 @@ private:
 
     inline static QStringList s_lines;
     QtMessageHandler m_previous;
-};
-
-/// A host that takes connections and never reads a byte.
-class DeafHost
-{
-public:
-    DeafHost()
-    {
-        m_server.listen(QHostAddress::LocalHost);
-        // Little room, so that it is soon full; connections inherit it.
-        const int room = 4096;
-        setsockopt(int(m_server.socketDescriptor()), SOL_SOCKET, SO_RCVBUF, &room, sizeof room);
-    }
-    int port() const { return m_server.serverPort(); }
-
-private:
-    QTcpServer m_server;
 };
 
 /// A TCP port of this machine where nobody listens.
