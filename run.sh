@@ -154,7 +154,7 @@ run_on_screen() {
 }
 
 start_virtual_screen() {
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$state/display" 2>"$state/screen.txt" &
+    Xvfb -displayfd 3 -screen 0 1120x800x24 -dpi 96 -nolisten tcp 3>"$state/display" 2>"$state/screen.txt" &
     screen_pid=$!
     if ! wait_until 20 test -s "$state/display"; then
         echo "The virtual screen did not start:" >&2

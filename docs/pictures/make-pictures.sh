@@ -21,7 +21,7 @@ trap 'exit 130' INT TERM
 
 # start_screen WIDTHxHEIGHT: a screen of its own, as large as the window that is to fill it.
 start_screen() {
-    Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp 3>"$work/display" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 "${1}x24" -dpi 96 -nolisten tcp 3>"$work/display" 2>/dev/null &
     children+=($!)
     until [[ -s $work/display ]]; do sleep 0.1; done
     DISPLAY=:$(<"$work/display")
