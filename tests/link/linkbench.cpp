@@ -15,46 +15,34 @@ QTestData &newRow(int linkMode, const char *name)
            << linkMode;
 }
 
-LinkBench::LinkBench(int linkMode, const QList<Answer> &answers)
+RecordedLink::RecordedLink(int linkMode)
     : mode(linkMode)
-    , instrument(linkMode, answers)
 {
     link.setLinkMode(linkMode);
     record();
 }
 
-bool LinkBench::open()
-{
-    return link.openPort(instrument.name(), instrument.value());
-}
-
-void LinkBench::shortenReading()
-{
-    waits.reading = 50;
-    link.setWaits(waits);
-}
-
-QIODevice *LinkBench::device() const
+QIODevice *RecordedLink::device() const
 {
     if (mode == 0)
         return link.findChild<QSerialPort *>();
     return link.findChild<QTcpSocket *>();
 }
 
-bool LinkBench::isUp() const
+bool RecordedLink::isUp() const
 {
     if (mode == 0)
         return device()->isOpen();
     return link.findChild<QTcpSocket *>()->state() == QAbstractSocket::ConnectedState;
 }
 
-void LinkBench::letPiecesFollow()
+void RecordedLink::shortenReading()
 {
-    QObject::connect(device(), &QIODevice::readyRead, &link,
-                     [this] { instrument.sendNextPiece(); });
+    waits.reading = 50;
+    link.setWaits(waits);
 }
 
-void LinkBench::record()
+void RecordedLink::record()
 {
     const auto put = [this](const char *format, const auto &...arguments) {
         values.append(QString::fromLatin1(format).arg(arguments...));
@@ -89,4 +77,20 @@ void LinkBench::record()
                      [note] { note("calibrated"); });
     QObject::connect(&link, &Link::updateCalibrationFailed, context,
                      [note] { note("not calibrated"); });
+}
+
+LinkBench::LinkBench(int linkMode, const QList<Answer> &answers)
+    : RecordedLink(linkMode)
+    , instrument(linkMode, answers)
+{}
+
+bool LinkBench::open()
+{
+    return link.openPort(instrument.name(), instrument.value());
+}
+
+void LinkBench::letPiecesFollow()
+{
+    QObject::connect(device(), &QIODevice::readyRead, &link,
+                     [this] { instrument.sendNextPiece(); });
 }

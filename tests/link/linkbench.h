@@ -20,27 +20,22 @@ inline QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-/// A link and the fake instrument at its other end, with a record of everything the link tells.
-class LinkBench
+/// A link with a record of everything that it tells.
+class RecordedLink
 {
 public:
     /// \a linkMode is 0 for serial, 1 for TCP.
-    explicit LinkBench(int linkMode, const QList<Answer> &answers = {});
+    explicit RecordedLink(int linkMode);
 
-    /// Opens the link to the instrument.
-    bool open();
-    /// Lets reads give up after a moment, for answers that never come.
-    void shortenReading();
     /// The port or socket that the link uses.
     QIODevice *device() const;
     /// Whether the device at this end of the line is up.
     bool isUp() const;
-    /// Lets the further pieces of an answer follow, each when the one before it has arrived.
-    void letPiecesFollow();
+    /// Lets reads give up after a moment, for answers that never come.
+    void shortenReading();
 
     const int mode;
     LinkWaits waits;
-    FakeInstrument instrument;
     SerialLogic link;
 
     QStringList values;    ///< the update signals in order, as "frequency 2.45 'GHz'"
@@ -49,4 +44,18 @@ public:
 
 private:
     void record();
+};
+
+/// A recorded link and the fake instrument at its other end.
+class LinkBench : public RecordedLink
+{
+public:
+    explicit LinkBench(int linkMode, const QList<Answer> &answers = {});
+
+    /// Opens the link to the instrument.
+    bool open();
+    /// Lets the further pieces of an answer follow, each when the one before it has arrived.
+    void letPiecesFollow();
+
+    FakeInstrument instrument;
 };
