@@ -2,401 +2,1410 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>ChartMenu</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Clear Selection</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation>添加标记</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation>删除标记</translation>
+    </message>
+    <message>
+        <source>Marker Table</source>
+        <translation>标记表</translation>
+    </message>
+    <message>
+        <source>Parameter Table</source>
+        <translation>参数表</translation>
+    </message>
+    <message>
+        <source>Import Graphics</source>
+        <translation>导入曲线</translation>
+    </message>
+    <message>
+        <source>Export Graphics As CSV</source>
+        <translation>导出曲线为 CSV</translation>
+    </message>
+    <message>
+        <source>Export Graphics As Image</source>
+        <translation>导出图表为图像</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Undo Symmetry</source>
+        <translation>撤销镜像</translation>
+    </message>
+    <message>
+        <source>Manager Graphics</source>
+        <translation>曲线管理</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>平移</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>复位</translation>
+    </message>
+</context>
+<context>
     <name>ConnectDialog</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>对话框</translation>
     </message>
     <message>
         <source>Com</source>
-        <translation type="unfinished"></translation>
+        <translation>串口</translation>
     </message>
     <message>
         <source>Serial port of the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation>连接仪器的串口</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>串口</translation>
     </message>
     <message>
         <source>Baud rate</source>
-        <translation type="unfinished"></translation>
+        <translation>波特率</translation>
     </message>
     <message>
         <source>Baud rate that the instrument is set to, 1200 to 115200</source>
-        <translation type="unfinished"></translation>
+        <translation>与仪器设置一致的波特率，1200～115200</translation>
     </message>
     <message>
         <source>IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP 地址</translation>
     </message>
     <message>
         <source>IP address of the instrument; its TCP port is always 5001</source>
-        <translation type="unfinished"></translation>
+        <translation>仪器的 IP 地址；TCP 端口固定为 5001</translation>
     </message>
     <message>
         <source>Look for serial ports once more</source>
-        <translation type="unfinished"></translation>
+        <translation>重新查找串口</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>刷新</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>连接</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>连接</translation>
     </message>
     <message>
         <source>1200</source>
-        <translation type="unfinished"></translation>
+        <translation>1200</translation>
     </message>
     <message>
         <source>2400</source>
-        <translation type="unfinished"></translation>
+        <translation>2400</translation>
     </message>
     <message>
         <source>4800</source>
-        <translation type="unfinished"></translation>
+        <translation>4800</translation>
     </message>
     <message>
         <source>9600</source>
-        <translation type="unfinished"></translation>
+        <translation>9600</translation>
     </message>
     <message>
         <source>14400</source>
-        <translation type="unfinished"></translation>
+        <translation>14400</translation>
     </message>
     <message>
         <source>19200</source>
-        <translation type="unfinished"></translation>
+        <translation>19200</translation>
     </message>
     <message>
         <source>38400</source>
-        <translation type="unfinished"></translation>
+        <translation>38400</translation>
     </message>
     <message>
         <source>57600</source>
-        <translation type="unfinished"></translation>
+        <translation>57600</translation>
     </message>
     <message>
         <source>115200</source>
-        <translation type="unfinished"></translation>
+        <translation>115200</translation>
+    </message>
+</context>
+<context>
+    <name>CurveExchange</name>
+    <message>
+        <source>CSV(*.csv)</source>
+        <translation>CSV(*.csv)</translation>
+    </message>
+    <message>
+        <source>Export csv successfully</source>
+        <translation>CSV 导出成功</translation>
+    </message>
+    <message>
+        <source>Open file failed</source>
+        <translation>打开文件失败</translation>
+    </message>
+    <message>
+        <source>Write file failed</source>
+        <translation>写入文件失败</translation>
+    </message>
+    <message>
+        <source>Images(*.png *jpg)</source>
+        <translation>图像(*.png *jpg)</translation>
+    </message>
+    <message>
+        <source>Export image successfully</source>
+        <translation>图像导出成功</translation>
+    </message>
+    <message>
+        <source>The import file directory is empty</source>
+        <translation>未选择要导入的文件</translation>
+    </message>
+    <message>
+        <source>open file error: %1</source>
+        <translation>打开文件出错：%1</translation>
+    </message>
+    <message>
+        <source>Incorrect file format</source>
+        <translation>文件格式不正确</translation>
+    </message>
+    <message>
+        <source>No selected graphics can be exported</source>
+        <translation>请先选中要导出的曲线</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>The export file directory is empty</source>
+        <translation>未选择导出文件</translation>
+    </message>
+    <message>
+        <source>Pasted curve</source>
+        <translation>粘贴的曲线</translation>
     </message>
 </context>
 <context>
     <name>CurveFileReader</name>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件为空。</translation>
     </message>
     <message>
         <source>The third line is not &quot;Angle,Power&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>第三行不是“Angle,Power”。</translation>
     </message>
     <message>
         <source>%1: Incorrect file format. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：文件格式不正确。%2</translation>
     </message>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>这是一个文件夹。</translation>
     </message>
     <message>
         <source>The file cannot be opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开文件：%1</translation>
     </message>
     <message>
         <source>The file cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取文件：%1</translation>
     </message>
     <message>
         <source>%1: The file holds no point.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：文件中没有数据点。</translation>
     </message>
     <message>
         <source>rows with more than two fields, of which the first two were read: %1. Decimal commas are not understood, write decimal points.</source>
-        <translation type="unfinished"></translation>
+        <translation>字段多于两个、只读取前两个字段的行：%1。不识别小数逗号，请使用小数点。</translation>
     </message>
     <message>
         <source>rows with a field that is no number and was read as 0: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>含非数字字段、按 0 读入的行：%1。</translation>
     </message>
     <message>
         <source>rows left out because a value is not finite: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>数值不是有限数而略去的行：%1。</translation>
     </message>
     <message>
         <source>rows left out because they have fewer than two fields: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>字段少于两个而略去的行：%1。</translation>
+    </message>
+    <message>
+        <source>Opening curves</source>
+        <translation>打开曲线</translation>
+    </message>
+    <message>
+        <source>Reading %1...</source>
+        <translation>正在读取 %1……</translation>
     </message>
 </context>
 <context>
     <name>CurveName</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Existing frequency!
  Please modify the name</source>
-        <translation type="unfinished"></translation>
+        <translation>频率名称已存在！
+ 请修改名称</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
     <name>CurveTableModel</name>
     <message>
         <source>Pasted or dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>粘贴或拖入</translation>
     </message>
     <message>
         <source>The frequency lies outside the loss table: the correction is extrapolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>频率超出损耗表范围：修正值为外推所得。</translation>
     </message>
     <message>
         <source>Curve</source>
-        <translation type="unfinished"></translation>
+        <translation>曲线</translation>
     </message>
     <message>
         <source>Frequency (MHz)</source>
-        <translation type="unfinished"></translation>
+        <translation>频率 (MHz)</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>材料</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>点数</translation>
     </message>
     <message>
         <source>Loss correction</source>
-        <translation type="unfinished"></translation>
+        <translation>损耗修正</translation>
     </message>
     <message>
         <source>There is another curve called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>已有名为“%1”的曲线。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no frequency: write 2450 for 2450 MHz, or 2.45 GHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是频率：2450 MHz 请输入 2450，也可输入 2.45 GHz。</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsBase</name>
+    <message>
+        <source>Last %1 minutes</source>
+        <translation>最近 %1 分钟</translation>
+    </message>
+    <message>
+        <source>Power[dBm]</source>
+        <translation>功率[dBm]</translation>
+    </message>
+    <message>
+        <source>Please select the target graph</source>
+        <translation>请先选中目标曲线</translation>
     </message>
 </context>
 <context>
     <name>LineEdit</name>
     <message>
         <source>Range:%1-%2</source>
-        <translation type="unfinished"></translation>
+        <translation>范围：%1-%2</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>数值</translation>
+    </message>
+</context>
+<context>
+    <name>ListChart</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation>标题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Title of the charts, of exported curves and of the report</source>
+        <translation>图表、导出曲线及报告的标题</translation>
+    </message>
+    <message>
+        <source>Title of the charts</source>
+        <translation>图表标题</translation>
+    </message>
+    <message>
+        <source>Levels from</source>
+        <translation>电平范围</translation>
+    </message>
+    <message>
+        <source>Lowest level shown, dB</source>
+        <translation>显示的最低电平，dB</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>至</translation>
+    </message>
+    <message>
+        <source>Highest level shown, dB</source>
+        <translation>显示的最高电平，dB</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Chooses the ranges of both charts from the curves</source>
+        <translation>按曲线数据设定两个图表的显示范围</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to data</source>
+        <translation>适应数据(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>Points of the curves</source>
+        <translation>曲线数据点</translation>
+    </message>
+    <message>
+        <source>Pattern parameters</source>
+        <translation>方向图参数</translation>
+    </message>
+    <message>
+        <source>Textbook definitions, apart from the pattern parameters</source>
+        <translation>按教科书定义计算，与方向图参数相互独立</translation>
+    </message>
+    <message>
+        <source>Supplementary</source>
+        <translation>补充参数</translation>
+    </message>
+    <message>
+        <source>Supplementary figures by curve</source>
+        <translation>各曲线的补充参数</translation>
+    </message>
+    <message>
+        <source>Polar chart</source>
+        <translation>极坐标图</translation>
+    </message>
+    <message>
+        <source>Cartesian chart</source>
+        <translation>直角坐标图</translation>
+    </message>
+    <message>
+        <source>Unnamed curve</source>
+        <translation>未命名曲线</translation>
+    </message>
+    <message>
+        <source>Radiation patterns</source>
+        <translation>辐射方向图</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>The lowest level has to be below the highest one.</source>
+        <translation>最低电平必须小于最高电平。</translation>
+    </message>
+    <message>
+        <source>Angle [°]</source>
+        <translation>角度 [°]</translation>
+    </message>
+    <message>
+        <source>Level [dB]</source>
+        <translation>电平 [dB]</translation>
     </message>
 </context>
 <context>
     <name>LoadingDialog</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>对话框</translation>
     </message>
     <message>
         <source>%1,waiting...%2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>正在%1，请稍候……%2 s</translation>
     </message>
 </context>
 <context>
     <name>LossCorrection</name>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>这是一个文件夹。</translation>
     </message>
     <message>
         <source>The file cannot be opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开文件：%1</translation>
     </message>
     <message>
         <source>The table has no &quot;upside&quot; and no &quot;downside&quot; row.</source>
-        <translation type="unfinished"></translation>
+        <translation>表中没有“upside”行，也没有“downside”行。</translation>
     </message>
     <message>
         <source>This is no loss table: it has no header row with &quot;category&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是损耗表：缺少含“category”的表头行。</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>MZ6218 Power Meter</source>
+        <translation>MZ6218 功率计</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Serial port of the instrument</source>
+        <translation>连接仪器的串口</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>Open the serial port at 115200 baud</source>
+        <translation>以 115200 波特率打开串口</translation>
+    </message>
+    <message>
+        <source>Open the serial port</source>
+        <translation>打开串口</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Close the serial port</source>
+        <translation>关闭串口</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Frequency(1KHz~40GHz)</source>
+        <translation>频率(1KHz~40GHz)</translation>
+    </message>
+    <message>
+        <source>Measurement frequency, 1 kHz to 40 GHz; Enter sends it</source>
+        <translation>测量频率，1 kHz～40 GHz；按 Enter 键发送</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Unit of the frequency</source>
+        <translation>频率单位</translation>
+    </message>
+    <message>
+        <source>Send the frequency to the instrument</source>
+        <translation>将频率发送到仪器</translation>
+    </message>
+    <message>
+        <source>Set the frequency</source>
+        <translation>设置频率</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Offset(-100~100)</source>
+        <translation>偏置(-100~100)</translation>
+    </message>
+    <message>
+        <source>Offset added to the power, -100 to 100 dB; Enter sends it</source>
+        <translation>叠加到功率上的偏置，-100～100 dB；按 Enter 键发送</translation>
+    </message>
+    <message>
+        <source>Offset in dB</source>
+        <translation>偏置，dB</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Send the offset to the instrument</source>
+        <translation>将偏置发送到仪器</translation>
+    </message>
+    <message>
+        <source>Set the offset</source>
+        <translation>设置偏置</translation>
+    </message>
+    <message>
+        <source>Average count</source>
+        <translation>平均次数</translation>
+    </message>
+    <message>
+        <source>Readings averaged, 1 to 1024; Enter sends the count</source>
+        <translation>参与平均的读数个数，1～1024；按 Enter 键发送</translation>
+    </message>
+    <message>
+        <source>Send the average count to the instrument</source>
+        <translation>将平均次数发送到仪器</translation>
+    </message>
+    <message>
+        <source>Set the average count</source>
+        <translation>设置平均次数</translation>
+    </message>
+    <message>
+        <source>Measurement of relative state</source>
+        <translation>相对测量</translation>
+    </message>
+    <message>
+        <source>Measure relative to the present power; once more takes a new reference</source>
+        <translation>以当前功率为参考进行相对测量；再次点击则更新参考值</translation>
+    </message>
+    <message>
+        <source>ON / Update</source>
+        <translation>开启 / 更新</translation>
+    </message>
+    <message>
+        <source>Measure the power itself</source>
+        <translation>测量绝对功率</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Power unit</source>
+        <translation>功率单位</translation>
+    </message>
+    <message>
+        <source>Show the power in dBm</source>
+        <translation>以 dBm 显示功率</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>Show the power in watts</source>
+        <translation>以瓦特显示功率</translation>
+    </message>
+    <message>
+        <source>Watt</source>
+        <translation>瓦特</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message>
+        <source>Zero the sensor (F7); takes up to 30 seconds</source>
+        <translation>传感器校零 (F7)，最长 30 秒</translation>
+    </message>
+    <message>
+        <source>Set Zero</source>
+        <translation>校零</translation>
+    </message>
+    <message>
+        <source>Calibrate the sensor (F8); takes up to 30 seconds</source>
+        <translation>传感器校准 (F8)，最长 30 秒</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>校准</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>图表</translation>
+    </message>
+    <message>
+        <source>Time that the chart shows, 1 to 10 minutes</source>
+        <translation>图表显示的时间长度，1～10 分钟</translation>
+    </message>
+    <message>
+        <source>Period of the chart in minutes</source>
+        <translation>图表时长，分钟</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>Show that time on the chart</source>
+        <translation>按此时长显示图表</translation>
+    </message>
+    <message>
+        <source>Set the period of the chart</source>
+        <translation>设置图表时长</translation>
+    </message>
+    <message>
+        <source>Empty the chart and start it again (F5)</source>
+        <translation>清空图表并重新绘制 (F5)</translation>
+    </message>
+    <message>
+        <source>Replot</source>
+        <translation>重绘</translation>
+    </message>
+    <message>
+        <source>Data Record</source>
+        <translation>数据记录</translation>
+    </message>
+    <message>
+        <source>Time between two records, 1 to 30 minutes; a new one counts from Reset or the next connection</source>
+        <translation>记录间隔，1～30 分钟；新值自点击“重置”或下次连接起生效</translation>
+    </message>
+    <message>
+        <source>Interval of the records in minutes</source>
+        <translation>记录间隔，分钟</translation>
+    </message>
+    <message>
+        <source>Record now (F6) and count the interval from here</source>
+        <translation>立即记录一次 (F6) 并重新计时</translation>
+    </message>
+    <message>
+        <source>Record now and restart the interval</source>
+        <translation>立即记录并重新计时</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Folder of the records</source>
+        <translation>记录文件夹</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the records</source>
+        <translation>选择记录文件夹</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>功率</translation>
+    </message>
+    <message>
+        <source>Power in dBm</source>
+        <translation>功率，dBm</translation>
+    </message>
+    <message>
+        <source>Power in the instrument&apos;s unit</source>
+        <translation>功率，仪器当前单位</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Communication</source>
+        <translation>通信(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>断开</translation>
+    </message>
+    <message>
+        <source>Communication by Serial</source>
+        <translation>串口通信</translation>
+    </message>
+    <message>
+        <source>Communication by LAN</source>
+        <translation>LAN 通信</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>IP Config</source>
+        <translation>IP 配置</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Set zero</source>
+        <translation>校零</translation>
+    </message>
+    <message>
+        <source>%1 time out!</source>
+        <translation>%1超时！</translation>
+    </message>
+    <message>
+        <source>Set zero success!</source>
+        <translation>校零成功！</translation>
+    </message>
+    <message>
+        <source>Set zero failed!</source>
+        <translation>校零失败！</translation>
+    </message>
+    <message>
+        <source>Calibration success!</source>
+        <translation>校准成功！</translation>
+    </message>
+    <message>
+        <source>Calibration failed!</source>
+        <translation>校准失败！</translation>
+    </message>
+    <message>
+        <source>Last %1 minutes</source>
+        <translation>最近 %1 分钟</translation>
+    </message>
+    <message>
+        <source>Save Dir</source>
+        <translation>选择保存目录</translation>
+    </message>
+    <message>
+        <source>No directory selected.</source>
+        <translation>未选择目录。</translation>
+    </message>
+    <message>
+        <source>%1/%2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>ManagerGraph</name>
+    <message>
+        <source>Manage Graph</source>
+        <translation>曲线管理</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Line Color</source>
+        <translation>线条颜色</translation>
+    </message>
+    <message>
+        <source>Line Width</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>Restore state, colour and width as they were when this window was opened</source>
+        <translation>将状态、颜色和线宽恢复为打开本窗口时的设置</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>恢复默认</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Double-click to edit</source>
+        <translation>双击编辑</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>显示 %1</translation>
+    </message>
+    <message>
+        <source>Choose the line colour</source>
+        <translation>选择线条颜色</translation>
+    </message>
+    <message>
+        <source>Line colour of %1</source>
+        <translation>%1 的线条颜色</translation>
+    </message>
+    <message>
+        <source>Line width of %1</source>
+        <translation>%1 的线宽</translation>
+    </message>
+</context>
+<context>
+    <name>MarkTable</name>
+    <message>
+        <source>Markers</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
     </message>
 </context>
 <context>
     <name>MessageDialog</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>对话框</translation>
     </message>
     <message>
         <source>Main Information</source>
-        <translation type="unfinished"></translation>
+        <translation>主要信息</translation>
     </message>
     <message>
         <source>Other Information</source>
-        <translation type="unfinished"></translation>
+        <translation>其他信息</translation>
     </message>
     <message>
         <source>The present value</source>
-        <translation type="unfinished"></translation>
+        <translation>当前值</translation>
     </message>
     <message>
         <source>Present value</source>
-        <translation type="unfinished"></translation>
+        <translation>当前值</translation>
     </message>
     <message>
         <source>to</source>
-        <translation type="unfinished"></translation>
+        <translation>改为</translation>
     </message>
     <message>
         <source>The new value</source>
-        <translation type="unfinished"></translation>
+        <translation>新值</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>新值</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>消息</translation>
     </message>
 </context>
 <context>
     <name>MessageSimpleDialog</name>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>消息</translation>
     </message>
     <message>
         <source>photo</source>
-        <translation type="unfinished"></translation>
+        <translation>图片</translation>
     </message>
     <message>
         <source>Successful</source>
-        <translation type="unfinished"></translation>
+        <translation>成功</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
 </context>
 <context>
     <name>MyParaInfoTable</name>
     <message>
         <source>Pattern parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>方向图参数</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>增益</translation>
     </message>
     <message>
         <source>3dB (L)</source>
-        <translation type="unfinished"></translation>
+        <translation>3dB 点(左)</translation>
     </message>
     <message>
         <source>3dB (R)</source>
-        <translation type="unfinished"></translation>
+        <translation>3dB 点(右)</translation>
     </message>
     <message>
         <source>3dB Width</source>
-        <translation type="unfinished"></translation>
+        <translation>3dB 宽度</translation>
     </message>
     <message>
         <source>First Null(L)</source>
-        <translation type="unfinished"></translation>
+        <translation>第一零点(左)</translation>
     </message>
     <message>
         <source>First Null(R)</source>
-        <translation type="unfinished"></translation>
+        <translation>第一零点(右)</translation>
     </message>
     <message>
         <source>First Side Lobe(L)</source>
-        <translation type="unfinished"></translation>
+        <translation>第一副瓣(左)</translation>
     </message>
     <message>
         <source>First Side Lobe(R)</source>
-        <translation type="unfinished"></translation>
+        <translation>第一副瓣(右)</translation>
     </message>
     <message>
         <source>Before After Ratio(R)</source>
-        <translation type="unfinished"></translation>
+        <translation>前后比(R)</translation>
     </message>
     <message>
         <source>Axial Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>轴比</translation>
     </message>
     <message>
         <source>CrossPolarRatio</source>
-        <translation type="unfinished"></translation>
+        <translation>交叉极化比</translation>
     </message>
 </context>
 <context>
     <name>ParaInfoTable</name>
     <message>
         <source>Pattern parameters by frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>各频率的方向图参数</translation>
     </message>
     <message>
         <source>Frequency(MHz)</source>
-        <translation type="unfinished"></translation>
+        <translation>频率(MHz)</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>增益</translation>
     </message>
     <message>
         <source>3dB Width</source>
-        <translation type="unfinished"></translation>
+        <translation>3dB 宽度</translation>
     </message>
     <message>
         <source>First Side Lobe(L)</source>
-        <translation type="unfinished"></translation>
+        <translation>第一副瓣(左)</translation>
     </message>
     <message>
         <source>First Side Lobe(R)</source>
-        <translation type="unfinished"></translation>
+        <translation>第一副瓣(右)</translation>
     </message>
     <message>
         <source>Before After Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>前后比</translation>
     </message>
     <message>
         <source>Axial Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>轴比</translation>
     </message>
     <message>
         <source>CrossPolarRatio</source>
-        <translation type="unfinished"></translation>
+        <translation>交叉极化比</translation>
     </message>
     <message>
         <source>Amplitude</source>
-        <translation type="unfinished"></translation>
+        <translation>幅度</translation>
+    </message>
+</context>
+<context>
+    <name>PatternWindow</name>
+    <message>
+        <source>Antenna Pattern Workbench</source>
+        <translation>天线方向图工作台</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近打开的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Loss</source>
+        <translation>损耗(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>新建窗口(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Opens one or more curve files</source>
+        <translation>打开一个或多个曲线文件</translation>
+    </message>
+    <message>
+        <source>Open &amp;Samples</source>
+        <translation>打开示例(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Opens the sample patterns that came with the program</source>
+        <translation>打开随程序提供的方向图示例</translation>
+    </message>
+    <message>
+        <source>Save &amp;Curve As...</source>
+        <translation>曲线另存为(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Writes the selected curve to a curve file</source>
+        <translation>将选中的曲线写入曲线文件</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture As...</source>
+        <translation>图像另存为(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Writes the charts to a picture file</source>
+        <translation>将图表写入图像文件</translation>
+    </message>
+    <message>
+        <source>Save &amp;Report As...</source>
+        <translation>报告另存为(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Writes picture, description and parameters to an HTML or PDF file</source>
+        <translation>将图表、说明和参数写入 HTML 或 PDF 文件</translation>
+    </message>
+    <message>
+        <source>&amp;Print Report...</source>
+        <translation>打印报告(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Close &amp;Window</source>
+        <translation>关闭窗口(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Curve</source>
+        <translation>复制曲线(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Puts the selected curve on the clipboard</source>
+        <translation>将选中的曲线复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Curve</source>
+        <translation>粘贴曲线(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Makes a curve of the text on the clipboard</source>
+        <translation>用剪贴板中的文本生成曲线</translation>
+    </message>
+    <message>
+        <source>Copy Parameter &amp;Table</source>
+        <translation>复制参数表(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Puts the parameters of all shown curves on the clipboard as text</source>
+        <translation>将所有显示曲线的参数以文本形式复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Curve</source>
+        <translation>移除曲线(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Takes the selected curve off both charts</source>
+        <translation>将选中的曲线从两个图表中移除</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to Data</source>
+        <translation>适应数据(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Chooses the ranges of both charts from the curves</source>
+        <translation>按曲线数据设定两个图表的显示范围</translation>
+    </message>
+    <message>
+        <source>&amp;Symmetry</source>
+        <translation>镜像(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Draws every curve mirrored; the values stay</source>
+        <translation>以镜像方式绘制所有曲线，数值不变</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Curves...</source>
+        <translation>曲线管理(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Names, colours, line widths and visibility of all curves</source>
+        <translation>所有曲线的名称、颜色、线宽和显示状态</translation>
+    </message>
+    <message>
+        <source>&amp;Load Loss Table...</source>
+        <translation>载入损耗表(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Correct &amp;Up-link</source>
+        <translation>上行修正(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Adds the up-link loss at the selected curve&apos;s frequency; the result is a new curve</source>
+        <translation>按选中曲线的频率叠加上行损耗，结果为一条新曲线</translation>
+    </message>
+    <message>
+        <source>Correct &amp;Down-link</source>
+        <translation>下行修正(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Adds the down-link loss at the selected curve&apos;s frequency; the result is a new curve</source>
+        <translation>按选中曲线的频率叠加下行损耗，结果为一条新曲线</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>关于 Qt(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>清除列表(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Opening was cancelled; the charts are as they were.</source>
+        <translation>已取消打开，图表保持原样。</translation>
+    </message>
+    <message>
+        <source>Curves opened: %1.</source>
+        <translation>已打开曲线：%1 条。</translation>
+    </message>
+    <message>
+        <source>These files could not be opened:</source>
+        <translation>以下文件无法打开：</translation>
+    </message>
+    <message>
+        <source>The files were opened. Please look at these points:</source>
+        <translation>文件已打开，请注意以下各点：</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
+        <translation>“%1”不是图像格式：请使用 png 或 jpg。</translation>
+    </message>
+    <message>
+        <source>The file could not be written, what was there is unchanged: %1
+%2</source>
+        <translation>文件无法写入，原有内容未改变：%1
+%2</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>已写入：%1</translation>
+    </message>
+    <message>
+        <source>The loss table could not be loaded: %1
+%2</source>
+        <translation>无法载入损耗表：%1
+%2</translation>
+    </message>
+    <message>
+        <source>Loss table loaded: %1</source>
+        <translation>已载入损耗表：%1</translation>
+    </message>
+    <message>
+        <source>Please enter the frequency of &quot;%1&quot; in the list of curves first.</source>
+        <translation>请先在曲线列表中输入“%1”的频率。</translation>
+    </message>
+    <message>
+        <source>The loss table cannot tell the loss at %1 MHz.</source>
+        <translation>损耗表无法给出 %1 MHz 处的损耗。</translation>
+    </message>
+    <message>
+        <source>up-link %1%2 dB</source>
+        <translation>上行 %1%2 dB</translation>
+    </message>
+    <message>
+        <source>down-link %1%2 dB</source>
+        <translation>下行 %1%2 dB</translation>
+    </message>
+    <message>
+        <source>%1, up-link</source>
+        <translation>%1，上行</translation>
+    </message>
+    <message>
+        <source>%1, down-link</source>
+        <translation>%1，下行</translation>
+    </message>
+    <message>
+        <source>%1 (extrapolated)</source>
+        <translation>%1（外推）</translation>
+    </message>
+    <message>
+        <source>Open Curves</source>
+        <translation>打开曲线</translation>
+    </message>
+    <message>
+        <source>Curve files (*.csv);;All files (*)</source>
+        <translation>曲线文件 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The sample patterns are not installed.</source>
+        <translation>未安装方向图示例。</translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>Save Curve</source>
+        <translation>保存曲线</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>patterns</source>
+        <translation>方向图</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg)</source>
+        <translation>图像 (*.png *.jpg)</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>Reports (*.html *.pdf)</source>
+        <translation>报告 (*.html *.pdf)</translation>
+    </message>
+    <message>
+        <source>There is no curve on the clipboard.</source>
+        <translation>剪贴板中没有曲线。</translation>
+    </message>
+    <message>
+        <source>The parameter table is on the clipboard.</source>
+        <translation>参数表已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Load Loss Table</source>
+        <translation>载入损耗表</translation>
+    </message>
+    <message>
+        <source>Loss tables (*.csv);;All files (*)</source>
+        <translation>损耗表 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Antenna Pattern Workbench&lt;/h3&gt;&lt;p&gt;Version %1, with Qt %2&lt;/p&gt;&lt;p&gt;Shows antenna patterns in a polar and a cartesian chart and tells gain, beam width, nulls and side lobes.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;天线方向图工作台&lt;/h3&gt;&lt;p&gt;版本 %1，Qt %2&lt;/p&gt;&lt;p&gt;以极坐标图和直角坐标图显示天线方向图，并给出增益、波束宽度、零点和副瓣。&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -404,121 +1413,142 @@
     <message>
         <source>%1
 Angle [°]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+角度 [°]</translation>
     </message>
     <message>
         <source>%1
 Level [dB]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+电平 [dB]</translation>
     </message>
 </context>
 <context>
     <name>Report</name>
     <message>
         <source>%1° to %2°</source>
-        <translation type="unfinished"></translation>
+        <translation>%1° 至 %2°</translation>
     </message>
     <message>
         <source>Curve</source>
-        <translation type="unfinished"></translation>
+        <translation>曲线</translation>
     </message>
     <message>
         <source>Frequency (MHz)</source>
-        <translation type="unfinished"></translation>
+        <translation>频率 (MHz)</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>材料</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>点数</translation>
     </message>
     <message>
         <source>Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>角度</translation>
     </message>
     <message>
         <source>Loss correction</source>
-        <translation type="unfinished"></translation>
+        <translation>损耗修正</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>曲线</translation>
     </message>
     <message>
         <source>Pattern parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>方向图参数</translation>
     </message>
     <message>
         <source>Supplementary (textbook definitions)</source>
-        <translation type="unfinished"></translation>
+        <translation>补充参数（按教科书定义）</translation>
     </message>
 </context>
 <context>
     <name>SerialLogic</name>
     <message>
         <source>Failed to connect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>连接 %1 失败</translation>
     </message>
     <message>
         <source>Please open the serial port first.</source>
-        <translation type="unfinished"></translation>
+        <translation>请先打开串口。</translation>
     </message>
     <message>
         <source>Failed to send cmd.</source>
-        <translation type="unfinished"></translation>
+        <translation>命令发送失败。</translation>
     </message>
     <message>
         <source>Please connect first.</source>
-        <translation type="unfinished"></translation>
+        <translation>请先连接仪器。</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLabels</name>
+    <message>
+        <source>&lt;font color = red&gt;Close&lt;/font&gt;</source>
+        <translation>&lt;font color = red&gt;已关闭&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color = blue&gt;Open&lt;/font&gt;</source>
+        <translation>&lt;font color = blue&gt;已打开&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color = blue&gt;Connect&lt;/font&gt;</source>
+        <translation>&lt;font color = blue&gt;已连接&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color = red&gt;Disconnect&lt;/font&gt;</source>
+        <translation>&lt;font color = red&gt;已断开&lt;/font&gt;</translation>
     </message>
 </context>
 <context>
     <name>SupplementaryTable</name>
     <message>
         <source>Curve</source>
-        <translation type="unfinished"></translation>
+        <translation>曲线</translation>
     </message>
     <message>
         <source>HPBW [°]</source>
-        <translation type="unfinished"></translation>
+        <translation>HPBW [°]</translation>
     </message>
     <message>
         <source>FNBW [°]</source>
-        <translation type="unfinished"></translation>
+        <translation>FNBW [°]</translation>
     </message>
     <message>
         <source>SLL [dB]</source>
-        <translation type="unfinished"></translation>
+        <translation>SLL [dB]</translation>
     </message>
     <message>
         <source>F/B [dB]</source>
-        <translation type="unfinished"></translation>
+        <translation>F/B [dB]</translation>
     </message>
     <message>
         <source>The curve</source>
-        <translation type="unfinished"></translation>
+        <translation>曲线名称</translation>
     </message>
     <message>
         <source>Half-power beam width, also across the ±180° seam</source>
-        <translation type="unfinished"></translation>
+        <translation>半功率波束宽度，可跨越 ±180° 接缝</translation>
     </message>
     <message>
         <source>First-null beam width</source>
-        <translation type="unfinished"></translation>
+        <translation>第一零点波束宽度</translation>
     </message>
     <message>
         <source>Highest side lobe relative to the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>最高副瓣相对于峰值的电平</translation>
     </message>
     <message>
         <source>Front-to-back ratio: peak level minus the level in the opposite direction</source>
-        <translation type="unfinished"></translation>
+        <translation>前后比：峰值电平减去反方向电平</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ChartMenu</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Clear Selection</source>
+        <translation>Clear Selection</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation>Add Marker</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation>Delete Marker</translation>
+    </message>
+    <message>
+        <source>Marker Table</source>
+        <translation>Marker Table</translation>
+    </message>
+    <message>
+        <source>Parameter Table</source>
+        <translation>Parameter Table</translation>
+    </message>
+    <message>
+        <source>Import Graphics</source>
+        <translation>Import Graphics</translation>
+    </message>
+    <message>
+        <source>Export Graphics As CSV</source>
+        <translation>Export Graphics As CSV</translation>
+    </message>
+    <message>
+        <source>Export Graphics As Image</source>
+        <translation>Export Graphics As Image</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>Symmetry</translation>
+    </message>
+    <message>
+        <source>Undo Symmetry</source>
+        <translation>Undo Symmetry</translation>
+    </message>
+    <message>
+        <source>Manager Graphics</source>
+        <translation>Manager Graphics</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Pan</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+</context>
+<context>
     <name>ConnectDialog</name>
     <message>
         <source>Dialog</source>
@@ -93,6 +160,61 @@
     </message>
 </context>
 <context>
+    <name>CurveExchange</name>
+    <message>
+        <source>CSV(*.csv)</source>
+        <translation>CSV(*.csv)</translation>
+    </message>
+    <message>
+        <source>Export csv successfully</source>
+        <translation>Export csv successfully</translation>
+    </message>
+    <message>
+        <source>Open file failed</source>
+        <translation>Open file failed</translation>
+    </message>
+    <message>
+        <source>Write file failed</source>
+        <translation>Write file failed</translation>
+    </message>
+    <message>
+        <source>Images(*.png *jpg)</source>
+        <translation>Images(*.png *jpg)</translation>
+    </message>
+    <message>
+        <source>Export image successfully</source>
+        <translation>Export image successfully</translation>
+    </message>
+    <message>
+        <source>The import file directory is empty</source>
+        <translation>The import file directory is empty</translation>
+    </message>
+    <message>
+        <source>open file error: %1</source>
+        <translation>open file error: %1</translation>
+    </message>
+    <message>
+        <source>Incorrect file format</source>
+        <translation>Incorrect file format</translation>
+    </message>
+    <message>
+        <source>No selected graphics can be exported</source>
+        <translation>No selected graphics can be exported</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>The export file directory is empty</source>
+        <translation>The export file directory is empty</translation>
+    </message>
+    <message>
+        <source>Pasted curve</source>
+        <translation>Pasted curve</translation>
+    </message>
+</context>
+<context>
     <name>CurveFileReader</name>
     <message>
         <source>The file is empty.</source>
@@ -137,6 +259,14 @@
     <message>
         <source>rows left out because they have fewer than two fields: %1.</source>
         <translation>rows left out because they have fewer than two fields: %1.</translation>
+    </message>
+    <message>
+        <source>Opening curves</source>
+        <translation>Opening curves</translation>
+    </message>
+    <message>
+        <source>Reading %1...</source>
+        <translation>Reading %1...</translation>
     </message>
 </context>
 <context>
@@ -200,6 +330,21 @@
     </message>
 </context>
 <context>
+    <name>GraphicsBase</name>
+    <message>
+        <source>Last %1 minutes</source>
+        <translation>Last %1 minutes</translation>
+    </message>
+    <message>
+        <source>Power[dBm]</source>
+        <translation>Power[dBm]</translation>
+    </message>
+    <message>
+        <source>Please select the target graph</source>
+        <translation>Please select the target graph</translation>
+    </message>
+</context>
+<context>
     <name>LineEdit</name>
     <message>
         <source>Range:%1-%2</source>
@@ -208,6 +353,105 @@
     <message>
         <source>Number</source>
         <translation>Number</translation>
+    </message>
+</context>
+<context>
+    <name>ListChart</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation>&amp;Title</translation>
+    </message>
+    <message>
+        <source>Title of the charts, of exported curves and of the report</source>
+        <translation>Title of the charts, of exported curves and of the report</translation>
+    </message>
+    <message>
+        <source>Title of the charts</source>
+        <translation>Title of the charts</translation>
+    </message>
+    <message>
+        <source>Levels from</source>
+        <translation>Levels from</translation>
+    </message>
+    <message>
+        <source>Lowest level shown, dB</source>
+        <translation>Lowest level shown, dB</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Highest level shown, dB</source>
+        <translation>Highest level shown, dB</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Chooses the ranges of both charts from the curves</source>
+        <translation>Chooses the ranges of both charts from the curves</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to data</source>
+        <translation>&amp;Fit to data</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Curves</translation>
+    </message>
+    <message>
+        <source>Points of the curves</source>
+        <translation>Points of the curves</translation>
+    </message>
+    <message>
+        <source>Pattern parameters</source>
+        <translation>Pattern parameters</translation>
+    </message>
+    <message>
+        <source>Textbook definitions, apart from the pattern parameters</source>
+        <translation>Textbook definitions, apart from the pattern parameters</translation>
+    </message>
+    <message>
+        <source>Supplementary</source>
+        <translation>Supplementary</translation>
+    </message>
+    <message>
+        <source>Supplementary figures by curve</source>
+        <translation>Supplementary figures by curve</translation>
+    </message>
+    <message>
+        <source>Polar chart</source>
+        <translation>Polar chart</translation>
+    </message>
+    <message>
+        <source>Cartesian chart</source>
+        <translation>Cartesian chart</translation>
+    </message>
+    <message>
+        <source>Unnamed curve</source>
+        <translation>Unnamed curve</translation>
+    </message>
+    <message>
+        <source>Radiation patterns</source>
+        <translation>Radiation patterns</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Curve</translation>
+    </message>
+    <message>
+        <source>The lowest level has to be below the highest one.</source>
+        <translation>The lowest level has to be below the highest one.</translation>
+    </message>
+    <message>
+        <source>Angle [°]</source>
+        <translation>Angle [°]</translation>
+    </message>
+    <message>
+        <source>Level [dB]</source>
+        <translation>Level [dB]</translation>
     </message>
 </context>
 <context>
@@ -238,6 +482,451 @@
     <message>
         <source>This is no loss table: it has no header row with &quot;category&quot;.</source>
         <translation>This is no loss table: it has no header row with &quot;category&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>MZ6218 Power Meter</source>
+        <translation>MZ6218 Power Meter</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connection</translation>
+    </message>
+    <message>
+        <source>Serial port of the instrument</source>
+        <translation>Serial port of the instrument</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Serial port</translation>
+    </message>
+    <message>
+        <source>Open the serial port at 115200 baud</source>
+        <translation>Open the serial port at 115200 baud</translation>
+    </message>
+    <message>
+        <source>Open the serial port</source>
+        <translation>Open the serial port</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Close the serial port</source>
+        <translation>Close the serial port</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Frequency(1KHz~40GHz)</source>
+        <translation>Frequency(1KHz~40GHz)</translation>
+    </message>
+    <message>
+        <source>Measurement frequency, 1 kHz to 40 GHz; Enter sends it</source>
+        <translation>Measurement frequency, 1 kHz to 40 GHz; Enter sends it</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Unit of the frequency</source>
+        <translation>Unit of the frequency</translation>
+    </message>
+    <message>
+        <source>Send the frequency to the instrument</source>
+        <translation>Send the frequency to the instrument</translation>
+    </message>
+    <message>
+        <source>Set the frequency</source>
+        <translation>Set the frequency</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>Offset(-100~100)</source>
+        <translation>Offset(-100~100)</translation>
+    </message>
+    <message>
+        <source>Offset added to the power, -100 to 100 dB; Enter sends it</source>
+        <translation>Offset added to the power, -100 to 100 dB; Enter sends it</translation>
+    </message>
+    <message>
+        <source>Offset in dB</source>
+        <translation>Offset in dB</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Send the offset to the instrument</source>
+        <translation>Send the offset to the instrument</translation>
+    </message>
+    <message>
+        <source>Set the offset</source>
+        <translation>Set the offset</translation>
+    </message>
+    <message>
+        <source>Average count</source>
+        <translation>Average count</translation>
+    </message>
+    <message>
+        <source>Readings averaged, 1 to 1024; Enter sends the count</source>
+        <translation>Readings averaged, 1 to 1024; Enter sends the count</translation>
+    </message>
+    <message>
+        <source>Send the average count to the instrument</source>
+        <translation>Send the average count to the instrument</translation>
+    </message>
+    <message>
+        <source>Set the average count</source>
+        <translation>Set the average count</translation>
+    </message>
+    <message>
+        <source>Measurement of relative state</source>
+        <translation>Measurement of relative state</translation>
+    </message>
+    <message>
+        <source>Measure relative to the present power; once more takes a new reference</source>
+        <translation>Measure relative to the present power; once more takes a new reference</translation>
+    </message>
+    <message>
+        <source>ON / Update</source>
+        <translation>ON / Update</translation>
+    </message>
+    <message>
+        <source>Measure the power itself</source>
+        <translation>Measure the power itself</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <source>Power unit</source>
+        <translation>Power unit</translation>
+    </message>
+    <message>
+        <source>Show the power in dBm</source>
+        <translation>Show the power in dBm</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>Show the power in watts</source>
+        <translation>Show the power in watts</translation>
+    </message>
+    <message>
+        <source>Watt</source>
+        <translation>Watt</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Zero the sensor (F7); takes up to 30 seconds</source>
+        <translation>Zero the sensor (F7); takes up to 30 seconds</translation>
+    </message>
+    <message>
+        <source>Set Zero</source>
+        <translation>Set Zero</translation>
+    </message>
+    <message>
+        <source>Calibrate the sensor (F8); takes up to 30 seconds</source>
+        <translation>Calibrate the sensor (F8); takes up to 30 seconds</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Chart</translation>
+    </message>
+    <message>
+        <source>Time that the chart shows, 1 to 10 minutes</source>
+        <translation>Time that the chart shows, 1 to 10 minutes</translation>
+    </message>
+    <message>
+        <source>Period of the chart in minutes</source>
+        <translation>Period of the chart in minutes</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minutes</translation>
+    </message>
+    <message>
+        <source>Show that time on the chart</source>
+        <translation>Show that time on the chart</translation>
+    </message>
+    <message>
+        <source>Set the period of the chart</source>
+        <translation>Set the period of the chart</translation>
+    </message>
+    <message>
+        <source>Empty the chart and start it again (F5)</source>
+        <translation>Empty the chart and start it again (F5)</translation>
+    </message>
+    <message>
+        <source>Replot</source>
+        <translation>Replot</translation>
+    </message>
+    <message>
+        <source>Data Record</source>
+        <translation>Data Record</translation>
+    </message>
+    <message>
+        <source>Time between two records, 1 to 30 minutes; a new one counts from Reset or the next connection</source>
+        <translation>Time between two records, 1 to 30 minutes; a new one counts from Reset or the next connection</translation>
+    </message>
+    <message>
+        <source>Interval of the records in minutes</source>
+        <translation>Interval of the records in minutes</translation>
+    </message>
+    <message>
+        <source>Record now (F6) and count the interval from here</source>
+        <translation>Record now (F6) and count the interval from here</translation>
+    </message>
+    <message>
+        <source>Record now and restart the interval</source>
+        <translation>Record now and restart the interval</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Folder of the records</source>
+        <translation>Folder of the records</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the records</source>
+        <translation>Choose the folder of the records</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <source>Power in dBm</source>
+        <translation>Power in dBm</translation>
+    </message>
+    <message>
+        <source>Power in the instrument&apos;s unit</source>
+        <translation>Power in the instrument&apos;s unit</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Communication</source>
+        <translation>&amp;Communication</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Tool bar</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>Communication by Serial</source>
+        <translation>Communication by Serial</translation>
+    </message>
+    <message>
+        <source>Communication by LAN</source>
+        <translation>Communication by LAN</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>IP Config</source>
+        <translation>IP Config</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Set zero</source>
+        <translation>Set zero</translation>
+    </message>
+    <message>
+        <source>%1 time out!</source>
+        <translation>%1 time out!</translation>
+    </message>
+    <message>
+        <source>Set zero success!</source>
+        <translation>Set zero success!</translation>
+    </message>
+    <message>
+        <source>Set zero failed!</source>
+        <translation>Set zero failed!</translation>
+    </message>
+    <message>
+        <source>Calibration success!</source>
+        <translation>Calibration success!</translation>
+    </message>
+    <message>
+        <source>Calibration failed!</source>
+        <translation>Calibration failed!</translation>
+    </message>
+    <message>
+        <source>Last %1 minutes</source>
+        <translation>Last %1 minutes</translation>
+    </message>
+    <message>
+        <source>Save Dir</source>
+        <translation>Save Dir</translation>
+    </message>
+    <message>
+        <source>No directory selected.</source>
+        <translation>No directory selected.</translation>
+    </message>
+    <message>
+        <source>%1/%2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>ManagerGraph</name>
+    <message>
+        <source>Manage Graph</source>
+        <translation>Manage Graph</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Line Color</source>
+        <translation>Line Color</translation>
+    </message>
+    <message>
+        <source>Line Width</source>
+        <translation>Line Width</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Curves</translation>
+    </message>
+    <message>
+        <source>Restore state, colour and width as they were when this window was opened</source>
+        <translation>Restore state, colour and width as they were when this window was opened</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Double-click to edit</source>
+        <translation>Double-click to edit</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Show %1</translation>
+    </message>
+    <message>
+        <source>Choose the line colour</source>
+        <translation>Choose the line colour</translation>
+    </message>
+    <message>
+        <source>Line colour of %1</source>
+        <translation>Line colour of %1</translation>
+    </message>
+    <message>
+        <source>Line width of %1</source>
+        <translation>Line width of %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkTable</name>
+    <message>
+        <source>Markers</source>
+        <translation>Markers</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Marker</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
     </message>
 </context>
 <context>
@@ -401,6 +1090,325 @@
     </message>
 </context>
 <context>
+    <name>PatternWindow</name>
+    <message>
+        <source>Antenna Pattern Workbench</source>
+        <translation>Antenna Pattern Workbench</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Open &amp;Recent</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>&amp;Loss</source>
+        <translation>&amp;Loss</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>&amp;New Window</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>Opens one or more curve files</source>
+        <translation>Opens one or more curve files</translation>
+    </message>
+    <message>
+        <source>Open &amp;Samples</source>
+        <translation>Open &amp;Samples</translation>
+    </message>
+    <message>
+        <source>Opens the sample patterns that came with the program</source>
+        <translation>Opens the sample patterns that came with the program</translation>
+    </message>
+    <message>
+        <source>Save &amp;Curve As...</source>
+        <translation>Save &amp;Curve As...</translation>
+    </message>
+    <message>
+        <source>Writes the selected curve to a curve file</source>
+        <translation>Writes the selected curve to a curve file</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture As...</source>
+        <translation>Save &amp;Picture As...</translation>
+    </message>
+    <message>
+        <source>Writes the charts to a picture file</source>
+        <translation>Writes the charts to a picture file</translation>
+    </message>
+    <message>
+        <source>Save &amp;Report As...</source>
+        <translation>Save &amp;Report As...</translation>
+    </message>
+    <message>
+        <source>Writes picture, description and parameters to an HTML or PDF file</source>
+        <translation>Writes picture, description and parameters to an HTML or PDF file</translation>
+    </message>
+    <message>
+        <source>&amp;Print Report...</source>
+        <translation>&amp;Print Report...</translation>
+    </message>
+    <message>
+        <source>Close &amp;Window</source>
+        <translation>Close &amp;Window</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Curve</source>
+        <translation>&amp;Copy Curve</translation>
+    </message>
+    <message>
+        <source>Puts the selected curve on the clipboard</source>
+        <translation>Puts the selected curve on the clipboard</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Curve</source>
+        <translation>&amp;Paste Curve</translation>
+    </message>
+    <message>
+        <source>Makes a curve of the text on the clipboard</source>
+        <translation>Makes a curve of the text on the clipboard</translation>
+    </message>
+    <message>
+        <source>Copy Parameter &amp;Table</source>
+        <translation>Copy Parameter &amp;Table</translation>
+    </message>
+    <message>
+        <source>Puts the parameters of all shown curves on the clipboard as text</source>
+        <translation>Puts the parameters of all shown curves on the clipboard as text</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Curve</source>
+        <translation>&amp;Remove Curve</translation>
+    </message>
+    <message>
+        <source>Takes the selected curve off both charts</source>
+        <translation>Takes the selected curve off both charts</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to Data</source>
+        <translation>&amp;Fit to Data</translation>
+    </message>
+    <message>
+        <source>Chooses the ranges of both charts from the curves</source>
+        <translation>Chooses the ranges of both charts from the curves</translation>
+    </message>
+    <message>
+        <source>&amp;Symmetry</source>
+        <translation>&amp;Symmetry</translation>
+    </message>
+    <message>
+        <source>Draws every curve mirrored; the values stay</source>
+        <translation>Draws every curve mirrored; the values stay</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Curves...</source>
+        <translation>&amp;Manage Curves...</translation>
+    </message>
+    <message>
+        <source>Names, colours, line widths and visibility of all curves</source>
+        <translation>Names, colours, line widths and visibility of all curves</translation>
+    </message>
+    <message>
+        <source>&amp;Load Loss Table...</source>
+        <translation>&amp;Load Loss Table...</translation>
+    </message>
+    <message>
+        <source>Correct &amp;Up-link</source>
+        <translation>Correct &amp;Up-link</translation>
+    </message>
+    <message>
+        <source>Adds the up-link loss at the selected curve&apos;s frequency; the result is a new curve</source>
+        <translation>Adds the up-link loss at the selected curve&apos;s frequency; the result is a new curve</translation>
+    </message>
+    <message>
+        <source>Correct &amp;Down-link</source>
+        <translation>Correct &amp;Down-link</translation>
+    </message>
+    <message>
+        <source>Adds the down-link loss at the selected curve&apos;s frequency; the result is a new curve</source>
+        <translation>Adds the down-link loss at the selected curve&apos;s frequency; the result is a new curve</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;About</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>About &amp;Qt</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Clear List</translation>
+    </message>
+    <message>
+        <source>Opening was cancelled; the charts are as they were.</source>
+        <translation>Opening was cancelled; the charts are as they were.</translation>
+    </message>
+    <message>
+        <source>Curves opened: %1.</source>
+        <translation>Curves opened: %1.</translation>
+    </message>
+    <message>
+        <source>These files could not be opened:</source>
+        <translation>These files could not be opened:</translation>
+    </message>
+    <message>
+        <source>The files were opened. Please look at these points:</source>
+        <translation>The files were opened. Please look at these points:</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
+        <translation>&quot;%1&quot; is no format for pictures: use png or jpg.</translation>
+    </message>
+    <message>
+        <source>The file could not be written, what was there is unchanged: %1
+%2</source>
+        <translation>The file could not be written, what was there is unchanged: %1
+%2</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Written: %1</translation>
+    </message>
+    <message>
+        <source>The loss table could not be loaded: %1
+%2</source>
+        <translation>The loss table could not be loaded: %1
+%2</translation>
+    </message>
+    <message>
+        <source>Loss table loaded: %1</source>
+        <translation>Loss table loaded: %1</translation>
+    </message>
+    <message>
+        <source>Please enter the frequency of &quot;%1&quot; in the list of curves first.</source>
+        <translation>Please enter the frequency of &quot;%1&quot; in the list of curves first.</translation>
+    </message>
+    <message>
+        <source>The loss table cannot tell the loss at %1 MHz.</source>
+        <translation>The loss table cannot tell the loss at %1 MHz.</translation>
+    </message>
+    <message>
+        <source>up-link %1%2 dB</source>
+        <translation>up-link %1%2 dB</translation>
+    </message>
+    <message>
+        <source>down-link %1%2 dB</source>
+        <translation>down-link %1%2 dB</translation>
+    </message>
+    <message>
+        <source>%1, up-link</source>
+        <translation>%1, up-link</translation>
+    </message>
+    <message>
+        <source>%1, down-link</source>
+        <translation>%1, down-link</translation>
+    </message>
+    <message>
+        <source>%1 (extrapolated)</source>
+        <translation>%1 (extrapolated)</translation>
+    </message>
+    <message>
+        <source>Open Curves</source>
+        <translation>Open Curves</translation>
+    </message>
+    <message>
+        <source>Curve files (*.csv);;All files (*)</source>
+        <translation>Curve files (*.csv);;All files (*)</translation>
+    </message>
+    <message>
+        <source>The sample patterns are not installed.</source>
+        <translation>The sample patterns are not installed.</translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation>curve</translation>
+    </message>
+    <message>
+        <source>Save Curve</source>
+        <translation>Save Curve</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Save Picture</translation>
+    </message>
+    <message>
+        <source>patterns</source>
+        <translation>patterns</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg)</source>
+        <translation>Pictures (*.png *.jpg)</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Save Report</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>report</translation>
+    </message>
+    <message>
+        <source>Reports (*.html *.pdf)</source>
+        <translation>Reports (*.html *.pdf)</translation>
+    </message>
+    <message>
+        <source>There is no curve on the clipboard.</source>
+        <translation>There is no curve on the clipboard.</translation>
+    </message>
+    <message>
+        <source>The parameter table is on the clipboard.</source>
+        <translation>The parameter table is on the clipboard.</translation>
+    </message>
+    <message>
+        <source>Load Loss Table</source>
+        <translation>Load Loss Table</translation>
+    </message>
+    <message>
+        <source>Loss tables (*.csv);;All files (*)</source>
+        <translation>Loss tables (*.csv);;All files (*)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Antenna Pattern Workbench&lt;/h3&gt;&lt;p&gt;Version %1, with Qt %2&lt;/p&gt;&lt;p&gt;Shows antenna patterns in a polar and a cartesian chart and tells gain, beam width, nulls and side lobes.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Antenna Pattern Workbench&lt;/h3&gt;&lt;p&gt;Version %1, with Qt %2&lt;/p&gt;&lt;p&gt;Shows antenna patterns in a polar and a cartesian chart and tells gain, beam width, nulls and side lobes.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>PointTableModel</name>
     <message>
         <source>%1
@@ -479,6 +1487,25 @@ Level [dB]</translation>
     <message>
         <source>Please connect first.</source>
         <translation>Please connect first.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLabels</name>
+    <message>
+        <source>&lt;font color = red&gt;Close&lt;/font&gt;</source>
+        <translation>&lt;font color = red&gt;Close&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color = blue&gt;Open&lt;/font&gt;</source>
+        <translation>&lt;font color = blue&gt;Open&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color = blue&gt;Connect&lt;/font&gt;</source>
+        <translation>&lt;font color = blue&gt;Connect&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color = red&gt;Disconnect&lt;/font&gt;</source>
+        <translation>&lt;font color = red&gt;Disconnect&lt;/font&gt;</translation>
     </message>
 </context>
 <context>
