@@ -31,7 +31,7 @@ def extract(lupdate, target, language, keep_unused):
                "-target-language", language, "-extensions", "cpp,h,ui"]
     if not keep_unused:
         command.append("-no-obsolete")
-    command += ["-I", str(ROOT / "src"), *(str(ROOT / folder) for folder in SOURCES)]
+    command += ["-I", str(ROOT / "src"), "-I", str(ROOT), *(str(ROOT / folder) for folder in SOURCES)]
     result = subprocess.run([*command, "-ts", str(target)], capture_output=True, text=True, check=False)
     if result.returncode != 0:
         sys.exit(f"lupdate failed: {result.stderr}")
