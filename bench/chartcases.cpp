@@ -1,0 +1,194 @@
+#include "cases.h"
+
+#include "charthost.h"
+#include "measure.h"
+#include "ownchart.h"
+#include "qcpchart.h"
+#include "qwtchart.h"
+#include "testcurve.h"
+
+#include <QLocale>
+#include <QTextStream>
+
+#include <array>
+#include <cmath>
+#include <memory>
+
+namespace {
+
+/// What one chart took for each kind of work, in ms.
+struct CurveTimes
+{
+    double load = 0.0;
+    double zoom = 0.0;
+    double resize = 0.0;
+    double press = 0.0;
+};
+
+/// Times \a step, after each of which the chart has to have been painted.
+double paintedStepMs(ChartHost &chart, const Measure::Step &step,
+                     const Measure::Step &preparation = {})
+{
+    int steps = 0;
+    const int before = chart.paintings();
+    const double time = Measure::medianMs(
+        [&] {
+            step();
+            chart.settle();
+            ++steps;
+        },
+        preparation);
+    if (chart.paintings() - before < steps)
+        QTextStream(stderr)
+            << "A chart was not painted at each step: its time counts for nothing.\n";
+    return time;
+}
+
+CurveTimes timesOf(CurveChart &chart, const QVector<QPointF> &points)
+{
+    CurveTimes times;
+    chart.prepare(points);
+    bool loaded = false;
+    times.load = paintedStepMs(
+        chart,
+        [&] {
+            chart.load();
+            loaded = true;
+        },
+        [&] {
+            if (loaded)
+                chart.clear();
+            chart.settle();
+        });
+
+    bool widen = true;
+    times.zoom = paintedStepMs(chart, [&] {
+        chart.zoom(widen);
+        widen = !widen;
+    });
+
+    bool narrow = true;
+    times.resize = paintedStepMs(chart, [&] {
+        chart.resize(narrow ? QSize(990, 594) : QSize(1000, 600));
+        narrow = !narrow;
+    });
+
+    // One press on the curve, one 15 dB above it, and so on.
+    constexpr double degrees = 12.0;
+    bool beside = false;
+    times.press = Measure::medianMs([&] {
+        chart.press(QPointF(degrees, testLevel(degrees) + (beside ? 15 : 0)));
+        beside = !beside;
+    });
+    return times;
+}
+
+QString points(int count)
+{
+    return QLocale(QLocale::English).toString(count) + QStringLiteral(" points");
+}
+
+void progress(const QString &text)
+{
+    QTextStream(stderr) << text << '\n';
+}
+
+using MakeChart = std::unique_ptr<CurveChart> (*)();
+
+/// One maker for each column of the table; null where there is no such chart.
+struct Makers
+{
+    MakeChart own;
+    MakeChart qcp;
+    MakeChart qcpFast;
+    MakeChart qwt;
+};
+
+QVector<ReportRow> curveRows(const QString &kind, const Makers &makers)
+{
+    QVector<ReportRow> rows;
+    for (const int count : {361, 3601, 36001, 100000, 1000000}) {
+        const QVector<QPointF> curve = testCurve(count);
+        const auto run = [&](MakeChart make) -> std::optional<CurveTimes> {
+            if (!make)
+                return std::nullopt;
+            return timesOf(*make(), curve);
+        };
+        const auto own = run(makers.own);
+        const auto qcp = run(makers.qcp);
+        const auto qcpFast = run(makers.qcpFast);
+        const auto qwt = run(makers.qwt);
+        const auto add = [&](const QString &work, double CurveTimes::*time) {
+            const auto pick = [time](const std::optional<CurveTimes> &times) {
+                return times ? std::optional<double>(*times.*time) : std::nullopt;
+            };
+            rows.append({QStringLiteral("%1 %2, %3").arg(kind, work, points(count)), pick(own),
+                         pick(qcp), pick(qcpFast), pick(qwt)});
+        };
+        add(QStringLiteral("load"), &CurveTimes::load);
+        add(QStringLiteral("zoom step"), &CurveTimes::zoom);
+        add(QStringLiteral("resize"), &CurveTimes::resize);
+        add(QStringLiteral("press"), &CurveTimes::press);
+        progress(QStringLiteral("%1, %2: done").arg(kind, points(count)));
+    }
+    return rows;
+}
+
+double tickMs(TimeChart &&chart)
+{
+    int second = 0;
+    const auto tick = [&] {
+        // A reading about -10 dBm that swings and jitters.
+        chart.tick(second / 60.0,
+                   -10 + 8 * std::sin(second / 40.0) + (second * 7919 % 100) / 100.0);
+        ++second;
+    };
+    while (second <= 601)
+        tick();
+    chart.settle();
+    return paintedStepMs(chart, tick);
+}
+
+} // namespace
+
+namespace Cases {
+
+QVector<ReportRow> timeChart()
+{
+    ReportRow row;
+    row.work = QStringLiteral("time chart, tick at 601 points");
+    row.own = tickMs(OwnTimeChart());
+    row.qcp = tickMs(QcpTimeChart(false));
+    row.qcpFast = tickMs(QcpTimeChart(true));
+    row.qwt = tickMs(QwtTimeChart());
+    return {row};
+}
+
+QVector<ReportRow> cartesianCurves()
+{
+    Makers makers{};
+    makers.own = []() -> std::unique_ptr<CurveChart> { return std::make_unique<OwnCurveChart>(0); };
+    makers.qcp = []() -> std::unique_ptr<CurveChart> {
+        return std::make_unique<QcpCurveChart>(false);
+    };
+    makers.qcpFast = []() -> std::unique_ptr<CurveChart> {
+        return std::make_unique<QcpCurveChart>(true);
+    };
+    makers.qwt = []() -> std::unique_ptr<CurveChart> { return std::make_unique<QwtCurveChart>(); };
+    return curveRows(QStringLiteral("cartesian"), makers);
+}
+
+QVector<ReportRow> polarCurves()
+{
+    Makers makers{};
+    makers.own = []() -> std::unique_ptr<CurveChart> { return std::make_unique<OwnCurveChart>(1); };
+    makers.qcp = []() -> std::unique_ptr<CurveChart> {
+        return std::make_unique<QcpPolarChart>(false);
+    };
+    makers.qcpFast = []() -> std::unique_ptr<CurveChart> {
+        return std::make_unique<QcpPolarChart>(true);
+    };
+    return curveRows(QStringLiteral("polar"), makers);
+}
+
+} // namespace Cases
