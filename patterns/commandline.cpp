@@ -30,10 +30,11 @@ CommandLine readCommandLine(const QStringList &arguments)
     } else if (parser.isSet(version)) {
         line.wish = CommandLine::Wish::Print;
         line.text = QStringLiteral("mz6218-patterns " MZ_VERSION);
-    } else if (parser.isSet(language) && line.language != QStringLiteral("en")
-               && line.language != QStringLiteral("cn")) {
+    } else if (parser.isSet(language) && line.language != QStringLiteral("en") &&
+               line.language != QStringLiteral("cn")) {
         line.wish = CommandLine::Wish::Refuse;
-        line.text = QStringLiteral("Unknown language \"%1\": en and cn are known.").arg(line.language);
+        line.text =
+            QStringLiteral("Unknown language \"%1\": en and cn are known.").arg(line.language);
     }
     return line;
 }

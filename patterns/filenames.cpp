@@ -18,8 +18,7 @@ QStringList sampleFiles(const QString &programFolder)
 {
     const QStringList names{QStringLiteral("dipole.csv"), QStringLiteral("patch.csv"),
                             QStringLiteral("horn.csv"), QStringLiteral("array.csv")};
-    const QStringList folders{QStringLiteral("/samples/"),
-                              QStringLiteral("/../share/mz6218/samples/")};
+    const QStringList folders{QStringLiteral("/samples/"), QStringLiteral("/../samples/")};
     for (const QString &folder : folders) {
         QStringList files;
         for (const QString &name : names) {

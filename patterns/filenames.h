@@ -7,6 +7,6 @@
 /// gives \a fallback. Without folder and suffix.
 QString fileNameFrom(const QString &text, const QString &fallback);
 
-/// The sample curve files that ship with the program, whose own folder is \a programFolder: beside
-/// it, or in the shared data of an installation. Empty when they were not installed.
+/// The sample curve files that ship with the program, whose own folder is \a programFolder: below
+/// it as built, beside it as installed. Empty when they were not installed.
 QStringList sampleFiles(const QString &programFolder);

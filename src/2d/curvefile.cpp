@@ -17,6 +17,13 @@ FileOutcome write(File &file, const QByteArray &bytes, bool (*finish)(File &))
     return {};
 }
 
+/// A full disk that still takes a part of the bytes is no error to QSaveFile, which would commit
+/// the part; flushing tells. The second time tells the reason as well.
+bool commitWhole(QSaveFile &file)
+{
+    return (file.flush() || file.flush()) && file.commit();
+}
+
 } // namespace
 
 FileOutcome replaceFile(const QString &path, const QByteArray &bytes)
@@ -28,5 +35,5 @@ FileOutcome replaceFile(const QString &path, const QByteArray &bytes)
         return write<QFile>(device, bytes, [](QFile &file) { return file.flush(); });
     }
     QSaveFile target(path);
-    return write<QSaveFile>(target, bytes, [](QSaveFile &file) { return file.commit(); });
+    return write<QSaveFile>(target, bytes, commitWhole);
 }

@@ -4,7 +4,6 @@
 #include "2d/graphicsbase.h"
 #include "2d/pathinfo.h"
 
-#include <QGraphicsScene>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -17,9 +16,8 @@ CurveSet::CurveSet(GraphicsBase &polar, GraphicsBase &cartesian, QObject *parent
     connect(&m_polar, &GraphicsBase::curvesChanged, this, [this] { follow(m_polar, m_cartesian); });
     connect(&m_cartesian, &GraphicsBase::curvesChanged, this,
             [this] { follow(m_cartesian, m_polar); });
-    connect(m_polar.scene(), &QGraphicsScene::selectionChanged, this,
-            [this] { followSelection(m_polar); });
-    connect(m_cartesian.scene(), &QGraphicsScene::selectionChanged, this,
+    connect(&m_polar, &GraphicsBase::selectionChanged, this, [this] { followSelection(m_polar); });
+    connect(&m_cartesian, &GraphicsBase::selectionChanged, this,
             [this] { followSelection(m_cartesian); });
 }
 
@@ -100,17 +98,13 @@ bool CurveSet::rename(int id, const QString &name)
     if (hasName(name))
         return false;
     curve->setName(name);
-    follow(m_polar, m_cartesian);
     return true;
 }
 
 void CurveSet::setHidden(int id, bool hidden)
 {
-    PathInfo *curve = m_polar.paths().value(id);
-    if (curve == nullptr || curve->isHidden() == hidden)
-        return;
-    curve->setHidden(hidden);
-    follow(m_polar, m_cartesian);
+    if (PathInfo *curve = m_polar.paths().value(id))
+        curve->setHidden(hidden);
 }
 
 int CurveSet::selected() const

@@ -48,8 +48,6 @@ public:
     /// Returns false, and changes nothing, when another curve has this name or it is empty.
     bool rename(int id, const QString &name);
     void setHidden(int id, bool hidden);
-    /// Takes over what a dialog changed in the curves of the polar view.
-    void takeOver() { follow(m_polar, m_cartesian); }
 
     /// The number of the selected curve, 0 without one.
     int selected() const;

@@ -133,7 +133,8 @@ void ListChart::connectParts()
 int ListChart::addCurve(const QString &name, const QVector<QPointF> &points, CurveRecord record)
 {
     const auto taken = [this](const QString &wanted) { return m_curves->hasName(wanted); };
-    const std::optional<QString> freeName = askFreeCurveName(this, name, taken);
+    const std::optional<QString> freeName =
+        askFreeCurveName(this, name.trimmed().isEmpty() ? tr("Unnamed curve") : name, taken);
     if (!freeName)
         return 0;
     if (record.frequency.isEmpty())
@@ -255,7 +256,6 @@ void ListChart::manageCurves()
     ManagerGraph dialog(this);
     dialog.updatePathInfo(m_polar->paths());
     dialog.exec();
-    m_curves->takeOver();
 }
 
 void ListChart::showTitle()

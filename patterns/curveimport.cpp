@@ -1,0 +1,37 @@
+#include "patterns/curveimport.h"
+
+#include "2d/listchart.h"
+#include "patterns/curvefilereader.h"
+
+#include <QFileInfo>
+#include <QProgressDialog>
+
+CurveImport importCurves(ListChart &form, const QStringList &files, int patience)
+{
+    CurveFileReader reader;
+    QProgressDialog progress(&form);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setWindowTitle(CurveFileReader::tr("Opening curves"));
+    progress.setRange(0, 1000);
+    progress.setMinimumDuration(patience);
+
+    CurveImport result;
+    result.cancelled = !reader.read(files, [&progress](const QString &file, int perMille) {
+        progress.setLabelText(CurveFileReader::tr("Reading %1...").arg(QFileInfo(file).fileName()));
+        progress.setValue(qMin(perMille, 999));
+        return !progress.wasCanceled();
+    });
+    progress.reset();
+
+    result.failures = reader.failures();
+    result.remarks = reader.remarks();
+    const QVector<ReadCurve> &curves = reader.curves();
+    for (const ReadCurve &curve : curves) {
+        CurveRecord record;
+        record.file = curve.file;
+        record.title = curve.title;
+        if (form.addCurve(curve.name, curve.points, record) != 0)
+            result.opened.append(curve.file);
+    }
+    return result;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringList>
+
+class ListChart;
+
+/// What became of files that were to be opened.
+struct CurveImport
+{
+    bool cancelled = false; ///< nothing was opened then
+    QStringList opened;     ///< absolute paths
+    QStringList failures;   ///< one sentence a file that could not be read
+    QStringList remarks;    ///< one sentence a thing in a file that may surprise its author
+};
+
+/// Reads \a files and adds their curves to \a form, all of them or, when the operator cancels,
+/// none. Shows how far it is when that takes longer than \a patience in milliseconds; asks for
+/// another name where one is taken.
+CurveImport importCurves(ListChart &form, const QStringList &files, int patience = 400);

@@ -1,0 +1,108 @@
+#include "patterns/reportpage.h"
+
+#include "2d/listchart.h"
+#include "2d/paratabletext.h"
+#include "2d/supplementtext.h"
+#include "patterns/chartpicture.h"
+#include "patterns/report.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QPdfWriter>
+#include <QTextDocument>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+/// Sharp on paper: more than 200 dots an inch across a page.
+constexpr qreal pictureScale = 2.0;
+/// Width of the picture, in the pixels of a page of 96 dots an inch.
+constexpr int pageWidth = 640;
+constexpr int htmlWidth = 960;
+
+ReportCurve reportCurve(const ListChart &form, int id)
+{
+    const CurveSet &curves = form.curves();
+    const CurveRecord record = curves.record(id);
+    const QVector<QPointF> points = curves.points(id);
+    ReportCurve curve;
+    curve.name = curves.name(id);
+    curve.color = curves.color(id).name();
+    curve.file = QFileInfo(record.file).fileName();
+    curve.frequency = record.frequency;
+    curve.material = record.material;
+    curve.correction = record.correction;
+    curve.points = points.size();
+    const auto ends =
+        std::minmax_element(points.begin(), points.end(),
+                            [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); });
+    if (ends.first != points.end()) {
+        curve.firstAngle = ends.first->x();
+        curve.lastAngle = ends.second->x();
+    }
+    return curve;
+}
+
+Report report(const ListChart &form, const QSize &pictureSize, int width)
+{
+    Report report;
+    report.title = form.title();
+    report.created = QDateTime::currentDateTime();
+    report.pictureSize = pictureSize.scaled(width, pictureSize.height(), Qt::KeepAspectRatio);
+    report.figureHeadings = form.parameterHeadings();
+    report.supplementaryHeadings = form.supplementaryHeadings();
+    const QVector<CurveFigures> &figures = form.figures();
+    for (const CurveFigures &one : figures) {
+        ReportCurve curve = reportCurve(form, one.id);
+        curve.figures = frequencyTableCells(one.parameters, QString()).mid(1);
+        curve.supplementary = supplementCells(one.supplement);
+        report.curves.append(curve);
+    }
+    return report;
+}
+
+} // namespace
+
+namespace ReportPage {
+
+QByteArray html(const ListChart &form)
+{
+    const QImage picture = ChartPicture::paint(form, pictureScale);
+    Report page = report(form, picture.size(), htmlWidth);
+    page.picture =
+        QStringLiteral("data:image/png;base64,") +
+        QString::fromLatin1(ChartPicture::encode(picture, QStringLiteral("x.png")).toBase64());
+    return reportHtml(page).toUtf8();
+}
+
+QByteArray pdf(const ListChart &form)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(form.title());
+    writer.setCreator(QStringLiteral("mz6218-patterns"));
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
+    print(form, writer);
+    return bytes;
+}
+
+void print(const ListChart &form, QPagedPaintDevice &device)
+{
+    const QImage picture = ChartPicture::paint(form, pictureScale);
+    Report page = report(form, picture.size(), pageWidth);
+    page.picture = QStringLiteral("report:picture");
+    QTextDocument document;
+    QFont font = document.defaultFont();
+    font.setPointSizeF(7.5);
+    document.setDefaultFont(font);
+    document.addResource(QTextDocument::ImageResource, QUrl(page.picture), picture);
+    document.setHtml(reportHtml(page));
+    document.print(&device);
+}
+
+} // namespace ReportPage

@@ -1,0 +1,70 @@
+#include "patterns/workbench.h"
+
+#include "patterns/patternwindow.h"
+
+#include <QFileInfo>
+#include <QStandardPaths>
+
+Workbench::Workbench(const QString &settingsFile, QObject *parent)
+    : QObject(parent)
+    , m_settings(settingsFile)
+    , m_recentFiles(m_settings.recentFiles())
+{
+    m_language.set(m_settings.language());
+}
+
+PatternWindow *Workbench::openWindow()
+{
+    auto *window = new PatternWindow(*this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+    return window;
+}
+
+QString Workbench::folder() const
+{
+    const QString stored = m_settings.folder();
+    return stored.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                            : stored;
+}
+
+void Workbench::rememberFolder(const QString &file)
+{
+    m_settings.setFolder(QFileInfo(file).absolutePath());
+}
+
+void Workbench::useLanguage(const QString &code)
+{
+    m_language.set(code);
+    emit languageChanged();
+}
+
+void Workbench::setLanguage(const QString &code)
+{
+    useLanguage(code);
+    m_settings.setLanguage(code);
+}
+
+void Workbench::addRecentFile(const QString &file)
+{
+    m_recentFiles.add(file);
+    storeRecentFiles();
+}
+
+void Workbench::removeRecentFile(const QString &file)
+{
+    m_recentFiles.remove(file);
+    storeRecentFiles();
+}
+
+void Workbench::clearRecentFiles()
+{
+    m_recentFiles.clear();
+    storeRecentFiles();
+}
+
+void Workbench::storeRecentFiles()
+{
+    m_settings.setRecentFiles(m_recentFiles.paths());
+    emit recentFilesChanged();
+}
