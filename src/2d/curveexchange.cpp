@@ -63,7 +63,6 @@ void CurveExchange::drop(const QString &text)
 {
     if (!text.isEmpty())
         addFromText(text);
-    m_view.reconnectLegendMarkers();
 }
 
 void CurveExchange::exportData()

@@ -230,7 +230,7 @@ void GraphicsBase::addMarkSlot()
         return;
     PathInfo *path = selectedPath();
     if (!path) {
-        MessageSimpleDialog::showMessage(tr("Please select the target graph"), 1, this);
+        MessageSimpleDialog::showMessage(tr("Please select the target graph"), 1, window());
         return;
     }
     const std::optional<double> y = interpolateAt(path->points(), x);
@@ -354,7 +354,7 @@ void GraphicsBase::exportGraphicsImageSlot()
 
 void GraphicsBase::managerGraphicsSlot()
 {
-    ManagerGraph manager(this);
+    ManagerGraph manager(window()); // the view's own style sheet would reach a dialog below it
     connect(&manager, &ManagerGraph::updataResize, this, &GraphicsBase::updataResize);
     manager.updatePathInfo(m_state->paths);
     manager.exec();

@@ -1,21 +1,31 @@
 #include "modalscript.h"
 
 #include <QApplication>
+#include <QTimer>
 
 ModalScript::ModalScript(QVector<Step> steps)
     : m_steps(std::move(steps))
 {
-    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
-    m_timer.start(1);
+    lookSoon();
+}
+
+void ModalScript::lookSoon()
+{
+    // A timer of its own for every look: one that repeats would rest while a step opens a window.
+    QTimer::singleShot(1, &m_lifetime, [this] {
+        lookSoon();
+        look();
+    });
 }
 
 void ModalScript::look()
 {
     QWidget *window = QApplication::activeModalWidget();
-    if (!window || !window->isVisible() || window == m_answered)
+    if (!window || !window->isVisible())
         return;
+    const bool stayedOpen = window == m_answered;
     m_answered = window;
-    if (m_steps.isEmpty()) {
+    if (stayedOpen || m_steps.isEmpty()) {
         ++m_unexpected;
         window->close();
         return;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QObject>
 #include <QPointer>
-#include <QTimer>
 #include <QVector>
 #include <QWidget>
 
@@ -16,14 +16,15 @@ public:
 
     explicit ModalScript(QVector<Step> steps);
 
-    /// Whether every step was taken and no further window came up.
+    /// Whether every step was taken and no window was left over.
     bool isDone() const { return m_steps.isEmpty() && m_unexpected == 0; }
 
 private:
+    void lookSoon();
     void look();
 
     QVector<Step> m_steps;
     QPointer<QWidget> m_answered;
-    QTimer m_timer;
     int m_unexpected = 0;
+    QObject m_lifetime;
 };
