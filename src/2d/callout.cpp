@@ -16,7 +16,9 @@ constexpr double cornerRadius = 4.0;
 
 QFont calloutFont()
 {
+    constexpr int size = 9;
     QFont font = QGuiApplication::font();
+    font.setPointSize(size);
     font.setBold(true);
     return font;
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -68,9 +69,10 @@ private:
 };
 
 template<typename Rule>
-QVector<QPointF> mapped(const QVector<QPointF> &values, const Rule &rule)
+QVector<QPointF> mapped(const QVector<QPointF> &values, const Rule &rule,
+                        QVector<QPointF> positions)
 {
-    QVector<QPointF> positions(values.size());
+    positions.resize(values.size());
     std::transform(values.cbegin(), values.cend(), positions.begin(), rule);
     return positions;
 }
@@ -87,10 +89,11 @@ QPointF ChartMapping::toScene(const QPointF &value) const
     return kind == Kind::Polar ? PolarRule(*this)(value) : CartesianRule(*this)(value);
 }
 
-QVector<QPointF> ChartMapping::toScene(const QVector<QPointF> &values) const
+QVector<QPointF> ChartMapping::toScene(const QVector<QPointF> &values,
+                                       QVector<QPointF> recycled) const
 {
-    return kind == Kind::Polar ? mapped(values, PolarRule(*this))
-                               : mapped(values, CartesianRule(*this));
+    return kind == Kind::Polar ? mapped(values, PolarRule(*this), std::move(recycled))
+                               : mapped(values, CartesianRule(*this), std::move(recycled));
 }
 
 bool operator==(const ChartMapping &a, const ChartMapping &b)

@@ -23,7 +23,9 @@ struct ChartMapping
     bool isUsable() const;
 
     QPointF toScene(const QPointF &value) const;
-    QVector<QPointF> toScene(const QVector<QPointF> &values) const;
+    /// Maps all \a values; the result uses the memory of \a recycled.
+    QVector<QPointF> toScene(const QVector<QPointF> &values,
+                             QVector<QPointF> recycled = QVector<QPointF>()) const;
 };
 
 bool operator==(const ChartMapping &a, const ChartMapping &b);

@@ -9,7 +9,8 @@
 #include <QPolarChart>
 #include <QValueAxis>
 
-#include <memory>
+#include <functional>
+#include <utility>
 
 using namespace QtCharts;
 
@@ -31,7 +32,12 @@ QFont titleFont()
 
 QValueAxis *styledAxis(const QString &title)
 {
+    constexpr int labelSize = 9;
     auto *axis = new QValueAxis;
+    QFont labelFont = axis->labelsFont();
+    labelFont.setPointSize(labelSize);
+    axis->setLabelsFont(labelFont);
+    axis->setLabelsColor(Qt::black);
     axis->setLinePen(QPen(QBrush(Qt::black), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     axis->setTitleText(title);
     axis->setTitleFont(titleFont());
@@ -43,9 +49,6 @@ QValueAxis *styledAxis(const QString &title)
 QValueAxis *polarAxis(const QString &title)
 {
     QValueAxis *axis = styledAxis(title);
-    QFont font = axis->labelsFont();
-    font.setPointSize(9);
-    axis->setLabelsFont(font);
     axis->setRange(-180.0, 180.0);
     return axis;
 }
@@ -61,6 +64,9 @@ void styleChart(QChart &chart)
     legend->setVisible(false);
     legend->setFont(titleFont());
     legend->setBackgroundVisible(true);
+    legend->setBrush(Qt::white);
+    legend->setPen(Qt::NoPen);
+    legend->setLabelColor(Qt::black);
     legend->setAlignment(Qt::AlignLeft);
 }
 
@@ -122,7 +128,8 @@ QPointF ChartStage::toScene(const QPointF &value) const
     return m_chart ? m_chart->mapToPosition(value) : QPointF();
 }
 
-QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values) const
+QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values,
+                                     QVector<QPointF> recycled) const
 {
     if (!m_chart || values.isEmpty())
         return {};
@@ -133,7 +140,7 @@ QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values) const
     };
     const QPointF probe = values[values.size() / 2];
     if (closedForm.isUsable() && same(closedForm.toScene(probe), m_chart->mapToPosition(probe)))
-        return closedForm.toScene(values);
+        return closedForm.toScene(values, std::move(recycled));
 
     QVector<QPointF> positions;
     positions.reserve(values.size());
@@ -175,7 +182,8 @@ SeriesLayoutGuard::SeriesLayoutGuard(const ChartStage &stage, const QMap<int, Pa
 SeriesLayoutGuard::~SeriesLayoutGuard()
 {
     // The layout that a change asks for would otherwise come with the next event, past this guard.
-    if (QChart *chart = m_stage.chart())
+    QChart *chart = m_stage.chart();
+    if (chart && !chart->size().isEmpty())
         chart->layout()->activate();
     for (const Held &held : m_held)
         held.path->putPointsBack(held.points);

@@ -43,7 +43,8 @@ public:
 
     ChartMapping mapping() const;
     QPointF toScene(const QPointF &value) const;
-    QVector<QPointF> toScene(const QVector<QPointF> &values) const;
+    QVector<QPointF> toScene(const QVector<QPointF> &values,
+                             QVector<QPointF> recycled = QVector<QPointF>()) const;
     QPointF toValue(const QPointF &position) const;
 
 private:

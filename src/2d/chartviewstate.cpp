@@ -78,6 +78,8 @@ PathInfo *ChartViewState::newPath(const QString &name)
     path->setMarkTableShown(markTablesShown);
     paths.insert(id, path);
     QObject::connect(path, &PathInfo::lookChanged, &view, [this, path] {
+        if (path->isHidden() && path->isSelected())
+            view.updatePathSelection(0);
         updateLegend();
         updateMarks(*path);
         emit view.curvesChanged();

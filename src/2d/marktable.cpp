@@ -33,6 +33,11 @@ QTableWidgetItem *numberCell(double value)
 MarkTable::MarkTable(QWidget *parent)
     : QTableWidget(0, ColumnCount, parent)
 {
+    constexpr int textSize = 8;
+    QFont textFont = font();
+    textFont.setPointSize(textSize);
+    setFont(textFont);
+    horizontalHeader()->setFont(textFont);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);
     setFocusPolicy(Qt::NoFocus);

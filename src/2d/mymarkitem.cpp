@@ -101,8 +101,9 @@ void MyMarkItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     const QPainterPath outline = pin(radius);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(m_markSelected ? Qt::black : Qt::white, m_markSelected ? ringWidth : 1.5,
-                         Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QColor rim = m_markSelected ? QColor(Qt::black) : m_color.darker(170);
+    painter->setPen(
+        QPen(rim, m_markSelected ? ringWidth : 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->setBrush(m_color.isValid() ? m_color : QColor(Qt::black));
     painter->drawPath(outline);
 

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -54,15 +55,13 @@ bool insideCircle(const QVector<QPointF> &points, const QRectF &square)
     });
 }
 
-void drawLine(QPainter &painter, const QVector<QPointF> &line, const QRectF &window)
+/// A pen for pieces of a line. Thin lines show no difference between round and plain corners, and
+/// plain ones are drawn in half the time; square ends close the corners between the pieces.
+QPen linePen(const QColor &color, double width)
 {
-    if (line.size() == 1) {
-        painter.drawPoint(line.first());
-        return;
-    }
-    forEachPiece(line, window, [&painter](const QPointF *points, int count) {
-        painter.drawPolyline(points, count);
-    });
+    constexpr double thin = 3.5;
+    return width < thin ? QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
+                        : QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
 } // namespace
@@ -88,6 +87,11 @@ void MyPathItem::setValuePoints(const QVector<QPointF> &points)
     m_valuePoints = points;
 }
 
+QVector<QPointF> MyPathItem::recycledPositions()
+{
+    return std::exchange(m_drawnPoints, {});
+}
+
 void MyPathItem::setDrawnPoints(const QVector<QPointF> &points)
 {
     if (points.isEmpty())
@@ -99,7 +103,10 @@ void MyPathItem::setDrawnPoints(const QVector<QPointF> &points)
     const CacheMode mode = points.size() > pointsWorthCaching ? DeviceCoordinateCache : NoCache;
     if (mode != cacheMode())
         setCacheMode(mode);
+    // The former path goes first: setPath() would compare the two, point by point.
+    setPath(QPainterPath());
     QPainterPath outline;
+    outline.reserve(points.size() + 1);
     outline.addPolygon(QPolygonF(points));
     setPath(outline);
     update();
@@ -119,7 +126,7 @@ void MyPathItem::measure()
 {
     if (m_drawnPoints.isEmpty())
         return;
-    QPointF least = m_drawnPoints.first();
+    QPointF least = m_drawnPoints.constFirst();
     QPointF greatest = least;
     for (const QPointF &point : qAsConst(m_drawnPoints)) {
         least = {std::min(least.x(), point.x()), std::min(least.y(), point.y())};
@@ -146,8 +153,7 @@ void MyPathItem::setLineWidth(int width)
 
 void MyPathItem::applyPen()
 {
-    setPen(QPen(m_color.isValid() ? m_color : QColor(Qt::black), m_lineWidth, Qt::SolidLine,
-                Qt::RoundCap, Qt::RoundJoin));
+    setPen(linePen(m_color.isValid() ? m_color : QColor(Qt::black), m_lineWidth));
     update();
 }
 
@@ -181,11 +187,11 @@ QRectF MyPathItem::boundingRect() const
     return bounds.adjusted(-margin, -margin, margin, margin);
 }
 
-const QVector<QPointF> &MyPathItem::visibleLine(double pixelsPerUnit) const
+const ThinnedLine &MyPathItem::visibleLine(double pixelsPerUnit) const
 {
     if (!qFuzzyCompare(m_lineScale, pixelsPerUnit)) {
-        m_line =
-            decimatedPolyline(m_drawnPoints, {m_chartKind == polarKind, m_plotArea, pixelsPerUnit});
+        m_line = thinnedLine(m_drawnPoints, {m_chartKind == polarKind, m_plotArea, pixelsPerUnit});
+        m_solid = solidStretches(m_line, pixelsPerUnit);
         m_lineScale = pixelsPerUnit;
     }
     return m_line;
@@ -196,7 +202,7 @@ bool MyPathItem::hits(const QPointF &position) const
     if (m_valuePoints.isEmpty() || !boundingRect().contains(position))
         return false;
     const double tolerance = m_lineWidth * 0.5 + pressTolerance;
-    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0);
+    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0).points;
     const QRectF near(position.x() - tolerance, position.y() - tolerance, 2.0 * tolerance,
                       2.0 * tolerance);
     for (int i = 0; i < line.size(); ++i) {
@@ -227,7 +233,7 @@ QPainterPath MyPathItem::shape() const
     QPainterPath outline;
     outline.setFillRule(Qt::WindingFill);
     const double tolerance = m_lineWidth * 0.5 + pressTolerance;
-    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0);
+    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0).points;
     for (int i = 0; i + 1 < line.size(); ++i) {
         QPointF from = line[i];
         QPointF to = line[i + 1];
@@ -259,19 +265,49 @@ void MyPathItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     }
     const double pixelsPerUnit =
         painter->combinedTransform().m11() * painter->device()->devicePixelRatioF();
-    const QVector<QPointF> &line = visibleLine(pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0);
+    visibleLine(pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0);
+    const QColor lineColor = pen().color();
+    double width = m_lineWidth;
+    if (m_curveSelected) {
+        width += extraWidthWhenSelected;
+        painter->setPen(linePen(bandColor(lineColor), width + 2.0 * bandBesideLine));
+        drawLine(*painter);
+    }
+    painter->setPen(linePen(lineColor, width));
+    drawLine(*painter);
+    painter->restore();
+}
+
+/// Draws the line in short pieces, since the stroke of a long path has to be tested against all of
+/// itself. Where the line fills the pixels between its lowest and highest points, these are filled.
+void MyPathItem::drawLine(QPainter &painter) const
+{
+    const QVector<QPointF> &points = m_line.points;
+    if (points.size() == 1) {
+        painter.drawPoint(points.first());
+        return;
+    }
+    const QPen pen = painter.pen();
     const double margin = 4.0 * reach();
     const QRectF window = m_plotArea.adjusted(-margin, -margin, margin, margin);
-    QPen linePen = pen();
-    if (m_curveSelected) {
-        linePen.setWidthF(m_lineWidth + extraWidthWhenSelected);
-        painter->setPen(QPen(bandColor(linePen.color()), linePen.widthF() + 2.0 * bandBesideLine,
-                             Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        drawLine(*painter, line, window);
+    const auto drawRange = [&](int from, int to) {
+        forEachPiece(
+            points.constData() + from, to - from + 1, window,
+            [&painter](const QPointF *piece, int count) { painter.drawPolyline(piece, count); });
+    };
+    int from = 0;
+    for (const ColumnStretch &stretch : qAsConst(m_solid)) {
+        drawRange(from, m_line.columns[stretch.from].last);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(pen.color());
+        forEachBand(m_line, stretch, pen.widthF() * 0.5, window,
+                    [&painter](const QPointF *band, int count) {
+                        painter.drawPolygon(band, count, Qt::WindingFill);
+                    });
+        painter.setPen(pen);
+        from = m_line.columns[stretch.to].first;
     }
-    painter->setPen(linePen);
-    drawLine(*painter, line, window);
-    painter->restore();
+    drawRange(from, points.size() - 1);
 }
 
 QList<QPointF> MyPathItem::getSymmetricPoint(QPointF point1, QPointF point2)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "2d/polylinedecimation.h"
 #include "2d/viewrange.h"
 
 #include <QColor>
@@ -41,6 +42,8 @@ public:
     /// The scene positions of the outline.
     QList<QPointF> drawnPoints() const { return m_drawnPoints.toList(); }
     const QVector<QPointF> &positions() const { return m_drawnPoints; }
+    /// Gives the positions away, for their memory: new ones must follow at once.
+    QVector<QPointF> recycledPositions();
     /// Builds the outline through \a points. Without points the outline stays as it is.
     void setDrawnPoints(const QVector<QPointF> &points);
 
@@ -83,7 +86,8 @@ protected:
 
 private:
     void measure();
-    const QVector<QPointF> &visibleLine(double pixelsPerUnit) const;
+    const ThinnedLine &visibleLine(double pixelsPerUnit) const;
+    void drawLine(QPainter &painter) const;
     double reach() const;
     void applyPen();
     void dragCurve(QWidget *source);
@@ -102,8 +106,9 @@ private:
     double m_pressY = -1.0;
 
     QRectF m_plotArea;
-    QRectF m_extent;                 ///< the bounds of the drawn points
-    bool m_clipped = false;          ///< whether the curve leaves the plot area
-    mutable QVector<QPointF> m_line; ///< what is drawn, for m_lineScale device pixels a unit
+    QRectF m_extent;            ///< the bounds of the drawn points
+    bool m_clipped = false;     ///< whether the curve leaves the plot area
+    mutable ThinnedLine m_line; ///< what is drawn, for m_lineScale device pixels a unit
+    mutable QVector<ColumnStretch> m_solid;
     mutable double m_lineScale = 0.0;
 };

@@ -236,7 +236,8 @@ void PathInfo::drawValues(const QVector<QPointF> &values, const ChartStage &stag
         mapping.isUsable() && isShared(values, m_drawnValues) && mapping == m_drawnMapping;
     if (!drawnAlready) {
         m_pathItem->setPlotArea(mapping.plotArea);
-        m_pathItem->setDrawnPoints(stage.toScene(values));
+        if (!values.isEmpty())
+            m_pathItem->setDrawnPoints(stage.toScene(values, m_pathItem->recycledPositions()));
         m_drawnValues = values;
         m_drawnMapping = mapping;
     }
@@ -325,6 +326,7 @@ void PathInfo::stackParaTable(const QRectF &sceneRect)
 void PathInfo::updateMarkInfo(QMap<int, MyMarkItem *> map)
 {
     m_markPanel->table()->setMarks(m_markIds, map);
+    m_markPanel->resize(m_markPanel->table()->size());
     applyVisibility();
 }
 

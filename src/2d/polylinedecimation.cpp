@@ -74,10 +74,10 @@ private:
     QPointF m_direction;
 };
 
-template<typename Column>
-QVector<QPointF> decimated(const QVector<QPointF> &points, Column column)
+template<typename Grid>
+ThinnedLine thinned(const QVector<QPointF> &points, Grid column)
 {
-    QVector<QPointF> kept;
+    ThinnedLine line;
     const QPointF *data = points.constData();
     int i = 0;
     while (i < points.size()) {
@@ -98,21 +98,89 @@ QVector<QPointF> decimated(const QVector<QPointF> &points, Column column)
             }
         }
         int previous = -1;
-        for (const int index : {i, std::min(low, high), std::max(low, high), next - 1}) {
+        const auto keep = [&](int index) {
             if (index != previous)
-                kept.append(data[index]);
+                line.points.append(data[index]);
             previous = index;
-        }
+            return line.points.size() - 1;
+        };
+        ThinnedLine::Column kept;
+        kept.first = keep(i);
+        (low < high ? kept.low : kept.high) = keep(std::min(low, high));
+        (low < high ? kept.high : kept.low) = keep(std::max(low, high));
+        kept.last = keep(next - 1);
+        line.columns.append(kept);
         i = next;
     }
-    return kept;
+    return line;
+}
+
+QPointF heightOf(const ThinnedLine &line, int column)
+{
+    return line.points[line.columns[column].high] - line.points[line.columns[column].low];
+}
+
+bool isSolid(const ThinnedLine &line, int column, double pixelsPerUnit)
+{
+    constexpr double leastPixels = 3.0;
+    const ThinnedLine::Column &run = line.columns[column];
+    const QPointF height = heightOf(line, column);
+    return run.last - run.first > 1 &&
+           std::hypot(height.x(), height.y()) * pixelsPerUnit >= leastPixels;
+}
+
+/// Whether the solid \a column and the next one touch: a line that runs to and fro can leap.
+bool areNeighbours(const ThinnedLine &line, int column, double pixelsPerUnit)
+{
+    constexpr double mostPixels = 2.0;
+    const QPointF height = heightOf(line, column);
+    const QPointF leap =
+        line.points[line.columns[column + 1].first] - line.points[line.columns[column].last];
+    const double across = std::abs(height.x() * leap.y() - height.y() * leap.x()) /
+                          std::hypot(height.x(), height.y());
+    return across * pixelsPerUnit <= mostPixels;
 }
 
 } // namespace
 
-QVector<QPointF> decimatedPolyline(const QVector<QPointF> &points, const PixelGrid &grid)
+ThinnedLine thinnedLine(const QVector<QPointF> &points, const PixelGrid &grid)
 {
-    return grid.polar ? decimated(points, Ray(grid)) : decimated(points, VerticalColumn(grid));
+    return grid.polar ? thinned(points, Ray(grid)) : thinned(points, VerticalColumn(grid));
+}
+
+QVector<ColumnStretch> solidStretches(const ThinnedLine &line, double pixelsPerUnit)
+{
+    constexpr int worthwhile = 4;
+    QVector<ColumnStretch> stretches;
+    int from = 0; // where a stretch begins that reaches as far as the column before i
+    int count = 0;
+    for (int i = 0; i <= line.columns.size(); ++i) {
+        const bool solid = i < line.columns.size() && isSolid(line, i, pixelsPerUnit);
+        if (solid && count > 0 && areNeighbours(line, i - 1, pixelsPerUnit)) {
+            ++count;
+            continue;
+        }
+        if (count >= worthwhile)
+            stretches.append({from, i - 1});
+        from = i;
+        count = solid ? 1 : 0;
+    }
+    return stretches;
+}
+
+QLineF columnBar(const ThinnedLine &line, int column, double reach, const QRectF &window)
+{
+    QPointF low = line.points[line.columns[column].low];
+    QPointF high = line.points[line.columns[column].high];
+    const QPointF height = high - low;
+    const QPointF beyond = height * (reach / std::hypot(height.x(), height.y()));
+    low -= beyond;
+    high += beyond;
+    if (clipSegment(low, high, window))
+        return {low, high};
+    const QPointF rim(std::clamp(low.x(), window.left(), window.right()),
+                      std::clamp(low.y(), window.top(), window.bottom()));
+    return {rim, rim};
 }
 
 bool clipSegment(QPointF &from, QPointF &to, const QRectF &window)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLineF>
 #include <QPointF>
 #include <QRectF>
 #include <QVector>
@@ -16,10 +17,37 @@ struct PixelGrid
     double pixelsPerUnit = 1.0; ///< device pixels to one unit of the points
 };
 
+/// A polyline with the points that a picture needs.
+struct ThinnedLine
+{
+    /// A run of points that fell into one pixel column, by indices into the points.
+    struct Column
+    {
+        int first = 0;
+        int low = 0;
+        int high = 0;
+        int last = 0;
+    };
+
+    QVector<QPointF> points;
+    QVector<Column> columns;
+};
+
 /// The points of \a points that a picture needs: of each run of points within one pixel column the
 /// first, the lowest, the highest and the last, in their order. What lies left or right of the area
 /// counts as one column each.
-QVector<QPointF> decimatedPolyline(const QVector<QPointF> &points, const PixelGrid &grid);
+ThinnedLine thinnedLine(const QVector<QPointF> &points, const PixelGrid &grid);
+
+/// Neighbouring columns, by index, both inclusive.
+struct ColumnStretch
+{
+    int from = 0;
+    int to = 0;
+};
+
+/// The stretches of at least four columns in which the line runs up and down within every column,
+/// so that it fills the pixels between its lowest and its highest points.
+QVector<ColumnStretch> solidStretches(const ThinnedLine &line, double pixelsPerUnit);
 
 /// The part of the segment \a from - \a to inside \a window, false when there is none.
 bool clipSegment(QPointF &from, QPointF &to, const QRectF &window);
@@ -33,12 +61,36 @@ inline bool segmentMisses(const QPointF &from, const QPointF &to, const QRectF &
            (from.y() > window.bottom() && to.y() > window.bottom());
 }
 
+/// The ends of the line through \a column from its lowest to its highest point, \a reach longer on
+/// both sides and cut off at \a window.
+QLineF columnBar(const ThinnedLine &line, int column, double reach, const QRectF &window);
+
+/// Hands the area between the lowest and the highest points of a solid stretch, with \a reach
+/// around it, to \a draw(const QPointF *outline, int count): a few columns at a time, since the
+/// filling of a large outline is dear too. Neighbouring pieces share a column.
+template<typename Draw>
+void forEachBand(const ThinnedLine &line, const ColumnStretch &stretch, double reach,
+                 const QRectF &window, const Draw &draw)
+{
+    constexpr int columnsPerBand = 16;
+    std::array<QPointF, 2 * columnsPerBand> outline;
+    for (int from = stretch.from; from < stretch.to; from += columnsPerBand - 1) {
+        const int count = std::min(columnsPerBand, stretch.to - from + 1);
+        for (int i = 0; i < count; ++i) {
+            const QLineF bar = columnBar(line, from + i, reach, window);
+            outline[static_cast<std::size_t>(i)] = bar.p1();
+            outline[static_cast<std::size_t>(2 * count - 1 - i)] = bar.p2();
+        }
+        draw(outline.data(), 2 * count);
+    }
+}
+
 /// Hands the polyline to \a draw(const QPointF *points, int count) in pieces of at most sixteen
 /// segments, without those outside \a window. Stroking short pieces is far cheaper than one long
 /// path, whose stroke has to be tested against all of itself; and coordinates far outside the
 /// window would overflow the painter.
 template<typename Draw>
-void forEachPiece(const QVector<QPointF> &points, const QRectF &window, const Draw &draw)
+void forEachPiece(const QPointF *points, int pointCount, const QRectF &window, const Draw &draw)
 {
     constexpr int segmentsPerPiece = 16;
     std::array<QPointF, segmentsPerPiece + 1> piece;
@@ -48,7 +100,7 @@ void forEachPiece(const QVector<QPointF> &points, const QRectF &window, const Dr
             draw(piece.data(), static_cast<int>(count));
         count = 0;
     };
-    for (int i = 0; i + 1 < points.size(); ++i) {
+    for (int i = 0; i + 1 < pointCount; ++i) {
         QPointF from = points[i];
         QPointF to = points[i + 1];
         if (segmentMisses(from, to, window) || !clipSegment(from, to, window)) {

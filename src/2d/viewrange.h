@@ -27,8 +27,8 @@ struct ViewRange
     /// This range moved by fractions of its own width and height.
     ViewRange movedBy(double widths, double heights) const;
 
-    /// Lets the window of \a period minutes follow the time \a x once x runs out of it on the right;
-    /// the window never starts before 0.
+    /// Lets the window of \a period minutes follow the time \a x once x runs out of it on the
+    /// right; the window never starts before 0.
     void followTime(double x, int period);
 };
 
