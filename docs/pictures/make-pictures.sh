@@ -9,7 +9,9 @@ readonly programs=$PWD/build/bin
 # Long enough for a chart that shows something.
 readonly measuring_seconds=100
 
-work=$(mktemp -d)
+# The console shows its folder: one with a name that looks well.
+readonly work=/tmp/mz6218
+mkdir "$work"
 children=()
 clean_up() {
     kill "${children[@]}" 2>/dev/null || true
@@ -32,9 +34,9 @@ start_screen() {
 # console LANGUAGE PICTURE
 console() {
     local folder=$work/$1
-    mkdir "$folder"
+    mkdir -p "$folder/DataRecord"
     cp "$programs/mz6218" "$folder/"
-    printf 'language:%s\nIP:\nPath:\nInterval:1\nPeriod:2\n' "$1" >"$folder/config.ini"
+    printf 'language:%s\nIP:\nPath:%s\nInterval:1\nPeriod:2\n' "$1" "$folder/DataRecord" >"$folder/config.ini"
     "$programs/mz6218-sim" --listen 127.0.0.77 --level -20 --noise 0.4 --seed 7 >"$work/simulator" &
     local simulator=$!
     children+=("$simulator")
