@@ -155,10 +155,10 @@ private:
     LineBuffer m_buffer;
     int m_linkMode = 0;
     bool m_asyncReply = false;
-    QString m_pollCommand =
-        QStringLiteral("Read?\n"); // for instruments that are polled; not sent yet
+    // For instruments that have to be polled by another command; nothing sends it.
+    QString m_pollCommand = QStringLiteral("Read?\n");
 
     QTimer *m_closeTimer;
-    qint64 m_staleBytes = 0; // waited to be read already before the last command was sent
+    qint64 m_staleBytes = 0; // those that no read had taken when the last command was sent
     LinkWaits m_waits;
 };
