@@ -6,10 +6,13 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QHeaderView>
 
+#include <cmath>
+
 namespace {
 
 constexpr qreal aboveTheCurves = 10.0;
 constexpr int heightOfRow = 20;
+constexpr int headerHeight = 24;
 constexpr int tableWidth = 210;
 constexpr int rowsWithoutScrolling = 16;
 
@@ -25,7 +28,9 @@ QTableWidgetItem *cell(const QString &text, Qt::Alignment alignment)
 QTableWidgetItem *numberCell(double value)
 {
     constexpr int decimals = 2;
-    return cell(QString::number(value, 'f', decimals), Qt::AlignRight | Qt::AlignVCenter);
+    constexpr double leastShown = 0.005;
+    const double shown = std::abs(value) < leastShown ? 0.0 : value; // no "-0.00"
+    return cell(QString::number(shown, 'f', decimals), Qt::AlignRight | Qt::AlignVCenter);
 }
 
 } // namespace
@@ -49,9 +54,9 @@ MarkTable::MarkTable(QWidget *parent)
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setTextElideMode(Qt::ElideRight);
-    horizontalHeader()->setFixedHeight(heightOfRow + 4);
+    horizontalHeader()->setFixedHeight(headerHeight);
+    setMinimumSize(1, 1); // else a table of one row would be as tall as its hint
     writeHeaders();
-    fitToRows();
 }
 
 void MarkTable::writeHeaders()
@@ -81,13 +86,12 @@ void MarkTable::setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *
         setItem(row, XColumn, numberCell(mark->valuePoint().x()));
         setItem(row, YColumn, numberCell(mark->valuePoint().y()));
     }
-    fitToRows();
 }
 
-void MarkTable::fitToRows()
+QSize MarkTable::fittingSize() const
 {
     const int shown = qMin(rowCount(), rowsWithoutScrolling);
-    setFixedSize(tableWidth, horizontalHeader()->height() + shown * heightOfRow + 2 * frameWidth());
+    return {tableWidth, headerHeight + shown * heightOfRow + 2 * frameWidth()};
 }
 
 void MarkTable::changeEvent(QEvent *event)

@@ -18,13 +18,14 @@ public:
     void setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks);
     void setCurveName(const QString &name);
     bool hasData() const { return rowCount() > 0; }
+    /// The size that shows all rows, as long as they are not too many.
+    QSize fittingSize() const;
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void writeHeaders();
-    void fitToRows();
 
     QString m_curveName;
 };

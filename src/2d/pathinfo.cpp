@@ -326,7 +326,7 @@ void PathInfo::stackParaTable(const QRectF &sceneRect)
 void PathInfo::updateMarkInfo(QMap<int, MyMarkItem *> map)
 {
     m_markPanel->table()->setMarks(m_markIds, map);
-    m_markPanel->resize(m_markPanel->table()->size());
+    m_markPanel->resize(m_markPanel->table()->fittingSize());
     applyVisibility();
 }
 
