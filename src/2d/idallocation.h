@@ -2,7 +2,8 @@
 
 #include <QMap>
 
-/// The smallest positive number that is not yet a key of \a taken: a number given back is used again.
+/// The smallest positive number that is not yet a key of \a taken: a number given back is used
+/// again.
 template<typename Value>
 int smallestFreeId(const QMap<int, Value> &taken)
 {
