@@ -141,6 +141,11 @@ bool areNeighbours(const ThinnedLine &line, int column, double pixelsPerUnit)
     return across * pixelsPerUnit <= mostPixels;
 }
 
+bool isFinite(const QPointF &point)
+{
+    return std::isfinite(point.x()) && std::isfinite(point.y());
+}
+
 } // namespace
 
 ThinnedLine thinnedLine(const QVector<QPointF> &points, const PixelGrid &grid)
@@ -185,6 +190,8 @@ QLineF columnBar(const ThinnedLine &line, int column, double reach, const QRectF
 
 bool clipSegment(QPointF &from, QPointF &to, const QRectF &window)
 {
+    if (!isFinite(from) || !isFinite(to))
+        return false;
     if (window.contains(from) && window.contains(to))
         return true;
     const QPointF start = from;
@@ -196,19 +203,19 @@ bool clipSegment(QPointF &from, QPointF &to, const QRectF &window)
             enter = std::max(enter, room / speed);
         else if (speed > 0.0)
             leave = std::min(leave, room / speed);
-        else if (!(room >= 0.0))
+        else if (room < 0.0)
             leave = -1.0;
     };
     cut(-way.x(), start.x() - window.left());
     cut(way.x(), window.right() - start.x());
     cut(-way.y(), start.y() - window.top());
     cut(way.y(), window.bottom() - start.y());
-    if (!(enter <= leave))
+    if (enter > leave)
         return false;
     if (leave < 1.0)
         to = start + way * leave;
     if (enter > 0.0)
         from = start + way * enter;
-    return std::isfinite(from.x()) && std::isfinite(from.y()) && std::isfinite(to.x()) &&
-           std::isfinite(to.y());
+    // Ends so far away that their distance is no number.
+    return isFinite(from) && isFinite(to);
 }
