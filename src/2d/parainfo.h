@@ -14,9 +14,8 @@ struct ParaInfo
     QPair<double, double> halfPowerRight; ///< right 3 dB angle, peak - 3; (0, 10000) when missing
     QPair<double, double> firstNullLeft;  ///< first minimum left of the peak
     QPair<double, double> firstNullRight; ///< first minimum right of the peak; (10000, 10000)
-    QPair<double, double> firstSideLobeLeft; ///< first maximum beyond the left null; (-100, -100)
-    QPair<double, double>
-        firstSideLobeRight;           ///< first maximum beyond the right null; (10000, 10000)
+    QPair<double, double> firstSideLobeLeft;  ///< first maximum beyond the left null; (-100, -100)
+    QPair<double, double> firstSideLobeRight; ///< the same right of the peak; (10000, 10000)
     QPair<double, double> backLobe;   ///< direction opposite the peak, level there; (-100, -100)
     QPair<double, double> axialRatio; ///< 0, greatest level - least level
     QPair<double, double> crossPolarRatio; ///< 0, cross-polar ratio; never filled by the analysis
