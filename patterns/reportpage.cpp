@@ -18,9 +18,10 @@ namespace {
 
 /// Sharp on paper: more than 200 dots an inch across a page.
 constexpr qreal pictureScale = 2.0;
-/// Width of the picture, in the pixels of a page of 96 dots an inch.
-constexpr int pageWidth = 640;
-constexpr int htmlWidth = 960;
+constexpr int htmlWidth = 960; // pixels
+/// The layout of a page is made in pixels of 1/96 inch.
+constexpr qreal layoutDots = 96.0;
+constexpr qreal pageFont = 8.0; // points
 
 ReportCurve reportCurve(const ListChart &form, int id)
 {
@@ -93,13 +94,17 @@ QByteArray pdf(const ListChart &form)
 
 void print(const ListChart &form, QPagedPaintDevice &device)
 {
-    const QImage picture = ChartPicture::paint(form, pictureScale);
-    Report page = report(form, picture.size(), pageWidth);
-    page.picture = QStringLiteral("report:picture");
+    const QSizeF paper = device.pageLayout().paintRect(QPageLayout::Inch).size() * layoutDots;
     QTextDocument document;
     QFont font = document.defaultFont();
-    font.setPointSizeF(7.5);
+    font.setPointSizeF(pageFont);
     document.setDefaultFont(font);
+    document.setDocumentMargin(0.0);
+    document.setPageSize(paper);
+
+    const QImage picture = ChartPicture::paint(form, pictureScale);
+    Report page = report(form, picture.size(), int(paper.width()));
+    page.picture = QStringLiteral("report:picture");
     document.addResource(QTextDocument::ImageResource, QUrl(page.picture), picture);
     document.setHtml(reportHtml(page));
     document.print(&device);

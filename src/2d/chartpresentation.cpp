@@ -32,6 +32,9 @@ void prepare(GraphicsBase &view)
 {
     QLegend *legend = view.chart()->legend();
     legend->setAlignment(Qt::AlignBottom);
+    QFont font = legend->font();
+    font.setWeight(QFont::Normal);
+    legend->setFont(font);
     legend->show();
     QValueAxis *angles = firstAxis(view, Qt::Horizontal);
     angles->setTickCount(circleDivisions + 1);

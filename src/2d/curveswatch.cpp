@@ -9,5 +9,8 @@ QIcon curveSwatch(const QColor &color)
     // Sharp on dense screens too, where one pixel of the layout is up to four of the screen.
     QPixmap field(48, 48);
     field.fill(color.isValid() ? color : QColor(Qt::gray));
-    return QIcon(field);
+    QIcon swatch(field);
+    // Its own, or a selected row would tint the colour.
+    swatch.addPixmap(field, QIcon::Selected);
+    return swatch;
 }

@@ -114,13 +114,13 @@ QVariant CurveTableModel::headerData(int section, Qt::Orientation orientation, i
     case Name:
         return tr("Curve");
     case Frequency:
-        return tr("Frequency (MHz)");
+        return tr("Frequency\n(MHz)");
     case Material:
         return tr("Material");
     case Points:
         return tr("Points");
     case Correction:
-        return tr("Loss correction");
+        return tr("Loss\ncorrection");
     default:
         return {};
     }

@@ -84,9 +84,11 @@ void ListChart::setUpCharts()
     ui->mainSplitter->setStretchFactor(1, 0);
     ui->upperSplitter->setStretchFactor(0, 0);
     ui->upperSplitter->setStretchFactor(1, 1);
-    ui->upperSplitter->setSizes({320, 940});
-    ui->chartSplitter->setSizes({480, 480});
-    ui->mainSplitter->setSizes({520, 150});
+    ui->chartSplitter->setStretchFactor(0, 1);
+    ui->chartSplitter->setStretchFactor(1, 1);
+    ui->upperSplitter->setSizes({300, 960});
+    ui->chartSplitter->setSizes({465, 495});
+    ui->mainSplitter->setSizes({520, 170});
     for (LineEdit *field : {ui->levelMin, ui->levelMax}) {
         field->setMinimum(-levelLimit);
         field->setMaximum(levelLimit);
@@ -101,12 +103,18 @@ void ListChart::setUpTables()
     QHeaderView *header = ui->curveTable->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setStretchLastSection(true);
-    header->resizeSection(CurveTableModel::Name, 140);
-    header->resizeSection(CurveTableModel::Frequency, 100);
-    header->resizeSection(CurveTableModel::Material, 80);
-    header->resizeSection(CurveTableModel::Points, 60);
+    header->resizeSection(CurveTableModel::Name, 150);
+    header->resizeSection(CurveTableModel::Frequency, 76);
+    header->resizeSection(CurveTableModel::Material, 76);
+    header->resizeSection(CurveTableModel::Points, 56);
     ui->pointTable->setModel(m_pointModel);
+    ui->pointTable->horizontalHeader()->setDefaultSectionSize(110);
+    ui->pointTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->listSplitter->setSizes({200, 300});
+    // The table is as high as its rows and one more, which its heading must not exceed.
+    ui->paraTable->setFrameShape(QFrame::NoFrame);
+    ui->paraTable->horizontalHeader()->setMaximumHeight(
+        ui->paraTable->verticalHeader()->defaultSectionSize());
 }
 
 void ListChart::connectParts()

@@ -70,15 +70,15 @@ AxisScale angleScale(const QVector<QVector<QPointF>> &curves)
             shown.take(point.x());
     }
     if (shown.isEmpty())
-        return {-180.0, 180.0, 12};
+        return {-180.0, 180.0, 8};
     if (shown.high - shown.low < 90.0)
         return roundScale(shown);
     if (shown.within(-90.0, 90.0))
-        return {-90.0, 90.0, 12};
+        return {-90.0, 90.0, 6};
     if (shown.within(-180.0, 180.0))
-        return {-180.0, 180.0, 12};
+        return {-180.0, 180.0, 8};
     if (shown.within(0.0, 360.0))
-        return {0.0, 360.0, 12};
+        return {0.0, 360.0, 8};
     return roundScale(shown);
 }
 

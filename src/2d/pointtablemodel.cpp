@@ -49,9 +49,10 @@ QVariant PointTableModel::headerData(int section, Qt::Orientation orientation, i
     if (section < 0 || section >= columnCount())
         return {};
     const Curve &curve = m_curves.at(section / 2);
+    const bool isAngle = section % 2 == 0;
     if (role == Qt::DisplayRole)
-        return (section % 2 == 0 ? tr("%1\nAngle [°]") : tr("%1\nLevel [dB]")).arg(curve.name);
-    if (role == Qt::DecorationRole)
+        return isAngle ? curve.name + QLatin1Char('\n') + tr("Angle [°]") : tr("Level [dB]");
+    if (role == Qt::DecorationRole && isAngle)
         return curveSwatch(curve.color);
     if (role == Qt::ToolTipRole)
         return curve.name;

@@ -6,12 +6,20 @@
 #include <QEvent>
 #include <QHeaderView>
 
+namespace {
+
+constexpr int nameWidth = 104; // pixels
+
+} // namespace
+
 SupplementaryTable::SupplementaryTable(QWidget *parent)
     : QTableWidget(parent)
 {
     setColumnCount(1 + supplementColumns);
     verticalHeader()->hide();
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
+    horizontalHeader()->resizeSection(0, nameWidth);
     horizontalHeader()->setHighlightSections(false);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
