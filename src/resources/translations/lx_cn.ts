@@ -305,10 +305,6 @@
         <translation>曲线</translation>
     </message>
     <message>
-        <source>Frequency (MHz)</source>
-        <translation>频率 (MHz)</translation>
-    </message>
-    <message>
         <source>Material</source>
         <translation>材料</translation>
     </message>
@@ -317,16 +313,24 @@
         <translation>点数</translation>
     </message>
     <message>
-        <source>Loss correction</source>
-        <translation>损耗修正</translation>
-    </message>
-    <message>
         <source>There is another curve called &quot;%1&quot;.</source>
         <translation>已有名为“%1”的曲线。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no frequency: write 2450 for 2450 MHz, or 2.45 GHz.</source>
         <translation>“%1”不是频率：2450 MHz 请输入 2450，也可输入 2.45 GHz。</translation>
+    </message>
+    <message>
+        <source>Frequency
+(MHz)</source>
+        <translation>频率
+(MHz)</translation>
+    </message>
+    <message>
+        <source>Loss
+correction</source>
+        <translation>损耗
+修正</translation>
     </message>
 </context>
 <context>
@@ -842,6 +846,22 @@
         <source>%1/%2</source>
         <translation>%1/%2</translation>
     </message>
+    <message>
+        <source>Relative measurement on</source>
+        <translation>相对测量开启</translation>
+    </message>
+    <message>
+        <source>Relative measurement off</source>
+        <translation>相对测量关闭</translation>
+    </message>
+    <message>
+        <source>Power unit dBm</source>
+        <translation>功率单位 dBm</translation>
+    </message>
+    <message>
+        <source>Power unit watt</source>
+        <translation>功率单位 瓦特</translation>
+    </message>
 </context>
 <context>
     <name>ManagerGraph</name>
@@ -1066,11 +1086,11 @@
     </message>
     <message>
         <source>First Side Lobe(L)</source>
-        <translation>第一副瓣(左)</translation>
+        <translation>第一副瓣左</translation>
     </message>
     <message>
         <source>First Side Lobe(R)</source>
-        <translation>第一副瓣(右)</translation>
+        <translation>第一副瓣右</translation>
     </message>
     <message>
         <source>Before After Ratio</source>
@@ -1411,16 +1431,12 @@
 <context>
     <name>PointTableModel</name>
     <message>
-        <source>%1
-Angle [°]</source>
-        <translation>%1
-角度 [°]</translation>
+        <source>Angle [°]</source>
+        <translation>角度 [°]</translation>
     </message>
     <message>
-        <source>%1
-Level [dB]</source>
-        <translation>%1
-电平 [dB]</translation>
+        <source>Level [dB]</source>
+        <translation>电平 [dB]</translation>
     </message>
 </context>
 <context>

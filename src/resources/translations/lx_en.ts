@@ -305,10 +305,6 @@
         <translation>Curve</translation>
     </message>
     <message>
-        <source>Frequency (MHz)</source>
-        <translation>Frequency (MHz)</translation>
-    </message>
-    <message>
         <source>Material</source>
         <translation>Material</translation>
     </message>
@@ -317,16 +313,24 @@
         <translation>Points</translation>
     </message>
     <message>
-        <source>Loss correction</source>
-        <translation>Loss correction</translation>
-    </message>
-    <message>
         <source>There is another curve called &quot;%1&quot;.</source>
         <translation>There is another curve called &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no frequency: write 2450 for 2450 MHz, or 2.45 GHz.</source>
         <translation>&quot;%1&quot; is no frequency: write 2450 for 2450 MHz, or 2.45 GHz.</translation>
+    </message>
+    <message>
+        <source>Frequency
+(MHz)</source>
+        <translation>Frequency
+(MHz)</translation>
+    </message>
+    <message>
+        <source>Loss
+correction</source>
+        <translation>Loss
+correction</translation>
     </message>
 </context>
 <context>
@@ -841,6 +845,22 @@
     <message>
         <source>%1/%2</source>
         <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Relative measurement on</source>
+        <translation>Relative measurement on</translation>
+    </message>
+    <message>
+        <source>Relative measurement off</source>
+        <translation>Relative measurement off</translation>
+    </message>
+    <message>
+        <source>Power unit dBm</source>
+        <translation>Power unit dBm</translation>
+    </message>
+    <message>
+        <source>Power unit watt</source>
+        <translation>Power unit watt</translation>
     </message>
 </context>
 <context>
@@ -1411,16 +1431,12 @@
 <context>
     <name>PointTableModel</name>
     <message>
-        <source>%1
-Angle [°]</source>
-        <translation>%1
-Angle [°]</translation>
+        <source>Angle [°]</source>
+        <translation>Angle [°]</translation>
     </message>
     <message>
-        <source>%1
-Level [dB]</source>
-        <translation>%1
-Level [dB]</translation>
+        <source>Level [dB]</source>
+        <translation>Level [dB]</translation>
     </message>
 </context>
 <context>
