@@ -135,8 +135,9 @@ void ConsolePanel::showReading(double power, const QString &text)
 void ConsolePanel::fitReading()
 {
     constexpr int margins = 120; // around and between the labels
-    fitPowerDisplay(m_window->size() - QSize(m_ui->panel->minimumWidth() + margins, 0),
-                    m_ui->labelCurrentPower, m_ui->labelPowerUnit, m_ui->labelShowText);
+    const int panelWidth = m_ui->panel->sizeHint().expandedTo(m_ui->panel->minimumSize()).width();
+    fitPowerDisplay(m_window->size() - QSize(panelWidth + margins, 0), m_ui->labelCurrentPower,
+                    m_ui->labelPowerUnit, m_ui->labelShowText);
 }
 
 int ConsolePanel::recordInterval() const

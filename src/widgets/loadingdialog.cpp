@@ -38,6 +38,15 @@ void LoadingDialog::setLabelText(const int &seconds)
     m_ui->labelText->setText(tr("%1,waiting...%2 s").arg(m_task, QString::number(seconds)));
 }
 
+int LoadingDialog::exec()
+{
+    // Qt handles events while it shows a window of this type. A result that comes in with them
+    // closes the box before there is a loop to leave, which would then wait for ever.
+    setModal(true);
+    show();
+    return isVisible() ? QDialog::exec() : result();
+}
+
 void LoadingDialog::keyPressEvent(QKeyEvent *event)
 {
     // The instrument goes on with its task whatever the user presses: Escape must not let him think

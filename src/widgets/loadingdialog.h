@@ -30,6 +30,10 @@ public:
     /// Shows the \a seconds left for the task.
     void setLabelText(const int &seconds);
 
+    /// Shows the box until it is closed, which may have happened before this returns from showing
+    /// it.
+    int exec() override;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;

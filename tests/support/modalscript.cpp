@@ -2,11 +2,23 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <QVariant>
+
+namespace {
+
+constexpr char leftOpen[] = "modalScriptLeftOpen";
+
+} // namespace
 
 ModalScript::ModalScript(QVector<Step> steps)
     : m_steps(std::move(steps))
 {
     lookSoon();
+}
+
+void ModalScript::leaveOpen(QWidget *window)
+{
+    window->setProperty(leftOpen, true);
 }
 
 void ModalScript::lookSoon()
@@ -24,7 +36,10 @@ void ModalScript::look()
     if (!window || !window->isVisible())
         return;
     const bool stayedOpen = window == m_answered;
+    if (stayedOpen && window->property(leftOpen).toBool())
+        return;
     m_answered = window;
+    window->setProperty(leftOpen, false);
     if (stayedOpen || m_steps.isEmpty()) {
         ++m_unexpected;
         window->close();

@@ -16,6 +16,9 @@ public:
 
     explicit ModalScript(QVector<Step> steps);
 
+    /// For a step to call: \a window is not to be closed, as it will be by the program itself.
+    static void leaveOpen(QWidget *window);
+
     /// Whether every step was taken and no window was left over.
     bool isDone() const { return m_steps.isEmpty() && m_unexpected == 0; }
 

@@ -1,0 +1,121 @@
+#include "consoletester.h"
+
+#include "2d/graphicsbase.h"
+#include "appstyle.h"
+#include "simulatorprocess.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QTimer>
+#include <QtCharts/QChart>
+#include <QtCharts/QLineSeries>
+
+ConsoleTester::ConsoleTester()
+    : m_window(std::make_unique<MainWindow>())
+{
+    m_window->show();
+}
+
+ConsoleTester::~ConsoleTester() = default;
+
+void ConsoleTester::restart()
+{
+    m_window.reset();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+}
+
+bool ConsoleTester::connectTo(SimulatorProcess &simulator) const
+{
+    if (!find<QAction>("actionCommunication_by_LAN")->isChecked())
+        trigger("actionCommunication_by_LAN");
+    return m_window->openPort(simulator.address(), simulator.port());
+}
+
+void ConsoleTester::click(const char *name) const
+{
+    find<QAbstractButton>(name)->click();
+}
+
+void ConsoleTester::trigger(const char *name) const
+{
+    find<QAction>(name)->trigger();
+}
+
+QString ConsoleTester::text(const char *label) const
+{
+    return find<QLabel>(label)->text();
+}
+
+bool ConsoleTester::isEnabled(const char *widget) const
+{
+    return find<QWidget>(widget)->isEnabled();
+}
+
+bool ConsoleTester::isRunning(const char *timer) const
+{
+    return find<QTimer>(timer)->isActive();
+}
+
+QVector<QPointF> ConsoleTester::chartPoints() const
+{
+    const auto series = m_window->findChild<GraphicsBase *>()->chart()->series();
+    return series.isEmpty()
+               ? QVector<QPointF>()
+               : qobject_cast<QtCharts::QLineSeries *>(series.constFirst())->pointsVector();
+}
+
+QStringList ConsoleTester::faultsOfState(bool open) const
+{
+    QStringList faults;
+    const auto expect = [&faults](bool actual, bool wanted, const char *what) {
+        if (actual != wanted)
+            faults.append(QLatin1String(what));
+    };
+    for (const char *group :
+         {"groupBoxFrquency", "groupBoxOffset", "groupBoxAverageCount", "groupBoxRelState",
+          "groupBoxUnit", "groupBoxSystem", "groupBoxChart", "groupBoxStatistics"})
+        expect(isEnabled(group), open, group);
+    for (const char *action : {"actionStart", "actionStop", "actionIP_Config"})
+        expect(find<QAction>(action)->isEnabled(), open, action);
+    for (const char *timer : {"readTimer", "saveTimer"})
+        expect(isRunning(timer), open, timer);
+    expect(isEnabled("groupBoxConnection"), true, "groupBoxConnection");
+
+    const bool serial = find<QAction>("actionCommunication_by_Serial")->isChecked();
+    expect(find<QAction>("actionCommunication_by_LAN")->isChecked(), !serial,
+           "one mode is checked");
+    expect(isEnabled("comboBoxCom"), !(serial && open), "comboBoxCom");
+    expect(isEnabled("btnOpen"), !(serial && open), "btnOpen");
+    expect(isEnabled("btnClose"), serial && open, "btnClose");
+    return faults;
+}
+
+void ConsoleTester::cleanFolder()
+{
+    QFile::remove(path(QStringLiteral("config.ini")));
+    for (const char *folder : {"DataRecord", "Log", "config.ini"})
+        QDir(path(QLatin1String(folder))).removeRecursively();
+}
+
+QString ConsoleTester::path(const QString &name)
+{
+    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + name;
+}
+
+QByteArray ConsoleTester::contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList settingsOf(SimulatorProcess &simulator)
+{
+    QStringList commands = simulator.commands();
+    commands.removeAll(QStringLiteral("GET?"));
+    return commands;
+}
