@@ -243,6 +243,9 @@ QPainterPath MyPathItem::shape() const
         const QLineF across =
             along.length() > 0.0 ? along.normalVector().unitVector() : QLineF(0.0, 0.0, 0.0, 1.0);
         const QPointF side(across.dx() * tolerance, across.dy() * tolerance);
+        const QPointF ahead(side.y(), -side.x());
+        from += ahead;
+        to -= ahead;
         outline.addPolygon(QPolygonF({from + side, to + side, to - side, from - side}));
         outline.closeSubpath();
     }

@@ -1,0 +1,371 @@
+#include "2d/chartmapping.h"
+#include "2d/graphicsbase.h"
+#include "2d/mypathitem.h"
+#include "2d/pathinfo.h"
+#include "chartprobe.h"
+#include "testmain.h"
+
+#include <QChart>
+#include <QLegend>
+#include <QLegendMarker>
+#include <QLineSeries>
+#include <QPolarChart>
+#include <QSignalSpy>
+#include <QValueAxis>
+
+#include <cmath>
+#include <random>
+
+using namespace QtCharts;
+using ChartProbe::Points;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QValueAxis *axis(const GraphicsBase &view, Qt::Orientation orientation)
+{
+    if (auto *polar = qobject_cast<QPolarChart *>(view.chart())) {
+        return qobject_cast<QValueAxis *>(polar
+                                              ->axes(orientation == Qt::Horizontal
+                                                         ? QPolarChart::PolarOrientationAngular
+                                                         : QPolarChart::PolarOrientationRadial)
+                                              .value(0));
+    }
+    return qobject_cast<QValueAxis *>(view.chart()->axes(orientation).value(0));
+}
+
+QVector<double> shown(const GraphicsBase &view)
+{
+    const ViewRange range = view.shownRange();
+    return {range.xMin, range.xMax, range.yMin, range.yMax};
+}
+
+} // namespace
+
+/// Axes, ranges, titles and the feed of the time chart.
+class TestGraphicsBase : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsAsTimeChart();
+    void startsAsPolarChart();
+    void buildsNothingForAnotherKind();
+    void scalesByDivisions_data();
+    void scalesByDivisions();
+    void retitlesForThePeriod();
+    void scrollsWithTime();
+    void keepsOnePeriodOfPoints();
+    void startsUpsideDown();
+    void addsOffsets();
+    void clearsData();
+    void drawsTheFeedAtOnce();
+    void resetsTwiceAlike();
+    void leavesAngularAxisAlone();
+    void mapsLikeTheChart_data();
+    void mapsLikeTheChart();
+    void followsOutsideData();
+};
+
+void TestGraphicsBase::startsAsTimeChart()
+{
+    const GraphicsBase view(0, nullptr);
+    const QValueAxis *x = axis(view, Qt::Horizontal);
+    const QValueAxis *y = axis(view, Qt::Vertical);
+    QCOMPARE(shown(view), (QVector<double>{0, 10, -80, 20}));
+    QCOMPARE(y->min(), -80.0);
+    QCOMPARE(y->max(), 20.0);
+    QCOMPARE(y->tickCount(), 6);
+    QCOMPARE(x->min(), 0.0);
+    QCOMPARE(x->max(), 10.0);
+    QCOMPARE(x->tickCount(), 11);
+    QCOMPARE(x->titleText(), text("Last 10 minutes"));
+    QCOMPARE(y->titleText(), text("Power[dBm]"));
+    for (const QValueAxis *each : {x, y}) {
+        QCOMPARE(each->labelFormat(), text("%.1f"));
+        QCOMPARE(each->gridLinePen().color(), QColor(150, 150, 150));
+        QCOMPARE(each->gridLinePen().widthF(), 0.0);
+        QCOMPARE(each->linePen().color(), QColor(Qt::black));
+        QCOMPARE(each->titleFont().weight(), 75);
+        QCOMPARE(each->titleFont().pointSize(), 9);
+    }
+    QVERIFY(!view.chart()->legend()->isVisible());
+    QCOMPARE(view.chart()->legend()->alignment(), Qt::AlignLeft);
+    QVERIFY(view.acceptDrops());
+    QCOMPARE(view.focusPolicy(), Qt::ClickFocus);
+    QCOMPARE(view.defaultDirectory(), text("./"));
+}
+
+void TestGraphicsBase::startsAsPolarChart()
+{
+    const GraphicsBase view(1, nullptr);
+    const QValueAxis *angle = axis(view, Qt::Horizontal);
+    QCOMPARE(view.chart()->chartType(), QChart::ChartTypePolar);
+    QCOMPARE(angle->min(), -180.0);
+    QCOMPARE(angle->max(), 180.0);
+    QCOMPARE(angle->tickCount(), 21);
+    QCOMPARE(angle->titleText(), text("X"));
+    QCOMPARE(angle->labelsFont().pointSize(), 9);
+    QCOMPARE(shown(view), (QVector<double>{-180, 180, -80, 20}));
+}
+
+void TestGraphicsBase::buildsNothingForAnotherKind()
+{
+    GraphicsBase view(2, nullptr);
+    QVERIFY(!view.chart());
+    // Whatever is asked of it, such a view just shows nothing.
+    view.resetChart({text("A")});
+    view.setAxisYTitle(text("Y"));
+    view.setYRange(0, 1, 5);
+    view.SymmetrySlot();
+    QVERIFY(ChartProbe::show(view));
+    view.clearChart();
+    QVERIFY(view.paths().isEmpty());
+}
+
+void TestGraphicsBase::scalesByDivisions_data()
+{
+    QTest::addColumn<int>("divisions");
+    QTest::addColumn<double>("perDivision");
+    QTest::addColumn<double>("reference");
+    QTest::addColumn<double>("low");
+    QTest::addColumn<double>("high");
+
+    QTest::newRow("about zero") << 10 << 5.0 << 0.0 << -25.0 << 25.0;
+    QTest::newRow("time chart") << 5 << 20.0 << -30.0 << -80.0 << 20.0;
+    QTest::newRow("odd divisions") << 3 << 1.0 << 10.0 << 8.5 << 11.5;
+}
+
+void TestGraphicsBase::scalesByDivisions()
+{
+    QFETCH(int, divisions);
+    QFETCH(double, perDivision);
+    QFETCH(double, reference);
+    QFETCH(double, low);
+    QFETCH(double, high);
+    GraphicsBase view(0, nullptr);
+    view.setScaleLevel(divisions, perDivision, reference);
+    QCOMPARE(axis(view, Qt::Vertical)->min(), low);
+    QCOMPARE(axis(view, Qt::Vertical)->max(), high);
+    QCOMPARE(axis(view, Qt::Vertical)->tickCount(), divisions + 1);
+    // This is the range that "reset" comes back to.
+    view.setLimitXY({5, 0}, 3.0);
+    ChartProbe::run(view, "resetSlot");
+    QCOMPARE(shown(view), (QVector<double>{0, 10, low, high}));
+}
+
+void TestGraphicsBase::retitlesForThePeriod()
+{
+    GraphicsBase view(0, nullptr);
+    view.setXPeriod(5);
+    view.retitle();
+    QCOMPARE(axis(view, Qt::Horizontal)->titleText(), text("Last 5 minutes"));
+    QCOMPARE(shown(view), (QVector<double>{0, 5, -80, 20}));
+}
+
+void TestGraphicsBase::scrollsWithTime()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    view.updateChart(1, {9.0, -20});
+    view.updateChart(1, {10.0, -20});
+    QCOMPARE(shown(view).mid(0, 2), (QVector<double>{0, 10}));
+    view.updateChart(1, {10.5, -20});
+    QCOMPARE(shown(view).mid(0, 2), (QVector<double>{0.5, 10.5}));
+    QCOMPARE(axis(view, Qt::Horizontal)->min(), 0.5);
+    QCOMPARE(axis(view, Qt::Horizontal)->max(), 10.5);
+    // Time that starts again leaves the window where it is until the data are cleared.
+    view.updateChart(1, {0.0, -20});
+    QCOMPARE(shown(view).mid(0, 2), (QVector<double>{0.5, 10.5}));
+}
+
+void TestGraphicsBase::keepsOnePeriodOfPoints()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    const QLineSeries *series = view.paths()[1]->series();
+    for (int n = 0; n < 601; ++n)
+        view.updateChart(1, {n / 60.0, -20});
+    QCOMPARE(series->count(), 601);
+    QCOMPARE(series->at(0).x(), 0.0);
+    view.updateChart(1, {601 / 60.0, -20});
+    QCOMPARE(series->count(), 601);
+    QCOMPARE(series->at(0).x(), 1 / 60.0);
+    view.updateChart(1, {602 / 60.0, -20});
+    QCOMPARE(series->count(), 601);
+    QCOMPARE(series->at(600).x(), 602 / 60.0);
+}
+
+void TestGraphicsBase::startsUpsideDown()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    view.updateChart(1, {0, -20.4});
+    QCOMPARE(shown(view).mid(2), (QVector<double>{989, -989}));
+    // An axis cannot stand upside down: it takes what was set last.
+    QCOMPARE(axis(view, Qt::Vertical)->min(), -989.0);
+    QCOMPARE(axis(view, Qt::Vertical)->max(), -989.0);
+    view.updateChart(1, {0.1, -3});
+    QCOMPARE(shown(view).mid(2), (QVector<double>{-31, -10}));
+    view.updateChart(1, {0.2, -3});
+    QCOMPARE(shown(view).mid(2), (QVector<double>{-31, 7}));
+    QCOMPARE(axis(view, Qt::Vertical)->max(), 7.0);
+}
+
+void TestGraphicsBase::addsOffsets()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    view.updateChart(1, {0, -20});
+    view.setOffset(1, 5);
+    view.updateChart(1, {0, -20});
+    QCOMPARE(view.paths()[1]->points(), (Points{{0, -20}, {1, -15}}));
+}
+
+void TestGraphicsBase::clearsData()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    QVERIFY(ChartProbe::show(view));
+    for (int n = 0; n < 700; ++n)
+        view.updateChart(1, {n / 60.0, -20 + std::sin(n * 0.1)});
+    QVERIFY(
+        ChartProbe::showsCurve(view, ChartProbe::picture(view), 1, view.paths()[1]->points()[300]));
+    const QPointF place = view.paths()[1]->points()[300];
+    const QVector<double> before = shown(view);
+    view.clearChartData(1);
+    QCOMPARE(view.paths()[1]->series()->count(), 0);
+    QCOMPARE(shown(view), (QVector<double>{0, 10, before[2], before[3]}));
+    QVERIFY(!ChartProbe::showsCurve(view, ChartProbe::picture(view), 1, place));
+}
+
+void TestGraphicsBase::drawsTheFeedAtOnce()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    QVERIFY(ChartProbe::show(view, 900, 500));
+    const QSize size = view.size();
+    for (int n = 0; n < 400; ++n) {
+        view.updateChart(1, {n / 60.0, -20 + 5 * std::sin(n * 0.05)});
+        QCOMPARE(view.paths()[1]->pathItem()->drawnPoints().size(), n + 1);
+    }
+    QCOMPARE(view.size(), size);
+    const Points points = view.paths()[1]->points();
+    const QList<QPointF> drawn = view.paths()[1]->pathItem()->drawnPoints();
+    for (int i = 0; i < points.size(); ++i)
+        QCOMPARE(drawn[i], view.chart()->mapToPosition(points[i]));
+    const QImage picture = ChartProbe::picture(view);
+    for (int i = 0; i < points.size(); i += 20)
+        QVERIFY2(ChartProbe::showsCurve(view, picture, 1, points[i]),
+                 qPrintable(QString::number(i)));
+}
+
+void TestGraphicsBase::resetsTwiceAlike()
+{
+    GraphicsBase view(0, nullptr);
+    for (int round = 0; round < 2; ++round) {
+        view.resetChart({text("A"), text("B"), text("C")});
+        QCOMPARE(view.paths().keys(), (QList<int>{1, 2, 3}));
+        QCOMPARE(view.paths()[2]->name(), text("B"));
+        QCOMPARE(view.chart()->series().size(), 3);
+    }
+    // A click that was connected twice would hide the curve and show it again.
+    for (QLegendMarker *marker : view.chart()->legend()->markers())
+        emit marker->clicked();
+    for (const PathInfo *path : view.paths())
+        QVERIFY(path->isHidden());
+}
+
+void TestGraphicsBase::leavesAngularAxisAlone()
+{
+    GraphicsBase view(1, nullptr);
+    view.resetChart({text("A")});
+    const QRegularExpression complaint(text("needs a chart whose X range can change"));
+    for (int i = 0; i < 4; ++i)
+        QTest::ignoreMessage(QtWarningMsg, complaint);
+    view.setXRange(0, 5);
+    view.setXPeriod(3);
+    view.updateChart(1, {0, 0});
+    view.clearChartData(1);
+    QCOMPARE(axis(view, Qt::Horizontal)->min(), -180.0);
+    QCOMPARE(axis(view, Qt::Horizontal)->max(), 180.0);
+    view.setYRange(-40, 0, 4);
+    view.setLimitXY({0, -20}, 0.5);
+    view.panResetSlot();
+    QCOMPARE(shown(view), (QVector<double>{-180, 180, -30, -10}));
+    QCOMPARE(axis(view, Qt::Vertical)->min(), -30.0);
+}
+
+void TestGraphicsBase::mapsLikeTheChart_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("cartesian") << 0;
+    QTest::newRow("polar") << 1;
+}
+
+/// The positions are computed in closed form; every one has to be the chart's own, to the last bit.
+void TestGraphicsBase::mapsLikeTheChart()
+{
+    QFETCH(int, kind);
+    std::mt19937 random(11);
+    const auto between = [&random](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    for (int round = 0; round < 12; ++round) {
+        GraphicsBase view(kind, nullptr);
+        QVERIFY(ChartProbe::show(view, static_cast<int>(between(200, 1200)),
+                                 static_cast<int>(between(200, 900))));
+        if (kind == 0)
+            view.setXRange(between(-300, 0), between(1, 300));
+        view.setYRange(between(-100, 0), between(1, 50), 5);
+        Points points;
+        for (int i = 0; i < 500; ++i)
+            points.append({between(-400, 400), between(-150, 80)});
+        const PathInfo *path = view.addCurve(text("R"), points);
+        const ViewRange axes = view.shownRange();
+        const ChartMapping mapping{kind == 1 ? ChartMapping::Kind::Polar
+                                             : ChartMapping::Kind::Cartesian,
+                                   view.chart()->plotArea(), axes};
+        const QList<QPointF> drawn = path->pathItem()->drawnPoints();
+        for (int i = 0; i < points.size(); ++i) {
+            const QPointF expected = view.chart()->mapToPosition(points[i]);
+            const QPointF closedForm = mapping.toScene(points[i]);
+            QVERIFY(!(closedForm.x() < expected.x()) && !(closedForm.x() > expected.x()));
+            QVERIFY(!(closedForm.y() < expected.y()) && !(closedForm.y() > expected.y()));
+            QVERIFY(!(drawn[i].x() < expected.x()) && !(drawn[i].x() > expected.x()));
+            QVERIFY(!(drawn[i].y() < expected.y()) && !(drawn[i].y() > expected.y()));
+        }
+    }
+}
+
+/// The view keeps the chart's own line item in the dark about its points. Whoever changes a series
+/// past the view must not bring the two apart.
+void TestGraphicsBase::followsOutsideData()
+{
+    GraphicsBase view(0, nullptr);
+    view.resetChart({text("P")});
+    QVERIFY(ChartProbe::show(view));
+    QLineSeries *series = view.paths()[1]->series();
+    QSignalSpy replaced(series, &QXYSeries::pointsReplaced);
+    series->replace(Points{{0, 0}, {1, 1}, {2, 2}});
+    QCOMPARE(replaced.size(), 1);
+    view.updateChart(1, {3, 3});
+    series->append(4, 4);
+    view.setXRange(0, 5);
+    series->insert(5, {5, 5});
+    series->remove(0);
+    view.updateChart(1, {6, 6});
+    series->append(7, 7);
+    QCOMPARE(view.paths()[1]->points(),
+             (Points{{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 7}}));
+    view.rebuildPath(1);
+    QCOMPARE(view.paths()[1]->pathItem()->drawnPoints().size(), 7);
+}
+
+MZ_TEST_MAIN(TestGraphicsBase)
+
+#include "tst_graphicsbase.moc"
