@@ -121,6 +121,7 @@ QString GraphicsBase::seriesName() const
 void GraphicsBase::retitle()
 {
     ChartViewState &state = *m_state;
+    setAccessibleName(tr("Chart"));
     if (!state.stage.isPolar())
         setAxisXTitle(tr("Last %1 minutes").arg(state.period));
     setAxisYTitle(tr("Power[dBm]"));

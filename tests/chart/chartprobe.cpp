@@ -1,8 +1,8 @@
 #include "chartprobe.h"
 
-#include "2d/graphicsbase.h"
 #include "2d/pathinfo.h"
 
+#include <QTimer>
 #include <QtTest>
 
 #include <cmath>
@@ -73,3 +73,46 @@ Points sine(int count, double from, double to, double level)
 }
 
 } // namespace ChartProbe
+
+ChartBench::ChartBench(const ChartProbe::Points &points, int kind)
+    : view(kind, nullptr)
+    , ready(ChartProbe::show(view))
+{
+    if (kind == 0)
+        view.setXRange(0, 100);
+    view.setYRange(-40, 0, 4);
+    path = view.addCurve(QStringLiteral("A"), points);
+}
+
+void ChartBench::openMenu(const QPointF &value, const std::function<void(ChartMenu &)> &choose)
+{
+    bool seen = false;
+    QTimer::singleShot(0, &view, [&] {
+        auto *menu = view.findChild<ChartMenu *>();
+        seen = menu != nullptr;
+        if (!menu)
+            return;
+        choose(*menu);
+        menu->close();
+    });
+    const QPoint place = view.toScene(value).toPoint();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, view.mapToGlobal(place));
+    QCoreApplication::sendEvent(view.viewport(), &event);
+    QVERIFY(seen);
+}
+
+void ChartBench::chooseEntry(const QPointF &value, ChartMenu::Entry entry)
+{
+    openMenu(value, [entry](ChartMenu &menu) { menu.entry(entry)->trigger(); });
+}
+
+void ChartBench::addMark(double x)
+{
+    view.updatePathSelection(1);
+    chooseEntry({x, -20}, ChartMenu::Entry::AddMark);
+}
+
+MyMarkItem *ChartBench::mark(int number) const
+{
+    return view.marks().value(number);
+}

@@ -1,11 +1,17 @@
 #pragma once
 
+#include "2d/chartmenu.h"
+#include "2d/graphicsbase.h"
+
 #include <QImage>
 #include <QPointF>
 #include <QString>
 #include <QVector>
 
-class GraphicsBase;
+#include <functional>
+
+class MyMarkItem;
+class PathInfo;
 
 /// What the tests of the chart view do to a view and look for in its picture.
 namespace ChartProbe {
@@ -35,3 +41,22 @@ bool showsCurve(GraphicsBase &view, const QImage &picture, int pathId, const QPo
 Points sine(int count, double from, double to, double level);
 
 } // namespace ChartProbe
+
+/// A view that is shown, with levels from -40 to 0 (and x from 0 to 100 when cartesian) and one
+/// curve.
+struct ChartBench
+{
+    explicit ChartBench(const ChartProbe::Points &points, int kind = 0);
+
+    /// Opens the context menu at \a value, lets \a choose act on it, and closes it.
+    void openMenu(const QPointF &value, const std::function<void(ChartMenu &)> &choose);
+    void chooseEntry(const QPointF &value, ChartMenu::Entry entry);
+
+    /// Puts a marker on the curve at \a x by way of the menu.
+    void addMark(double x);
+    MyMarkItem *mark(int number) const;
+
+    GraphicsBase view;
+    PathInfo *path = nullptr;
+    bool ready = false;
+};
