@@ -56,6 +56,8 @@ void PatternWindow::connectActions()
     connect(ui->actionAboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);
     connect(ui->actionFit, &QAction::triggered, ui->listChart, &ListChart::fitToData);
     connect(ui->actionSymmetry, &QAction::triggered, ui->listChart, &ListChart::setSymmetry);
+    connect(ui->actionParameterLines, &QAction::toggled, ui->listChart,
+            &ListChart::setParameterLines);
     connect(ui->actionManageCurves, &QAction::triggered, ui->listChart, &ListChart::manageCurves);
     connect(ui->actionApplyUplink, &QAction::triggered, this,
             [this] { applyLoss(LossCorrection::Link::Up); });

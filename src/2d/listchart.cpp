@@ -65,6 +65,7 @@ ListChart::ListChart(QWidget *parent)
     connectParts();
     refresh();
     fitToData();
+    m_cartesian->setFocus();
 }
 
 ListChart::~ListChart() = default;
@@ -112,7 +113,6 @@ void ListChart::setUpTables()
     ui->pointTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->listSplitter->setSizes({200, 300});
     // The table is as high as its rows and one more, which its heading must not exceed.
-    ui->paraTable->setFrameShape(QFrame::NoFrame);
     ui->paraTable->horizontalHeader()->setMaximumHeight(
         ui->paraTable->verticalHeader()->defaultSectionSize());
 }
@@ -259,6 +259,12 @@ void ListChart::setSymmetry(bool on)
     }
 }
 
+void ListChart::setParameterLines(bool on)
+{
+    for (GraphicsBase *view : {m_polar, m_cartesian})
+        view->setParameterLinesVisible(on);
+}
+
 void ListChart::manageCurves()
 {
     ManagerGraph dialog(this);
@@ -317,6 +323,8 @@ void ListChart::refreshFigures()
     m_figures = figures;
     ui->paraTable->setRowCount(m_figures.size());
     ui->supplementaryTable->setRowCount(m_figures.size());
+    // Its scroll bar would hide a row; the area around it scrolls instead.
+    ui->paraTable->setMinimumWidth(ui->paraTable->horizontalHeader()->length());
     for (int row = 0; row < m_figures.size(); ++row) {
         const CurveFigures &one = m_figures.at(row);
         const QString name = m_curves->name(one.id);

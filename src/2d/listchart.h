@@ -60,6 +60,8 @@ public slots:
     void setLevels(double min, double max);
     /// Mirrors the drawing of all curves, or draws them as they are again.
     void setSymmetry(bool on);
+    /// Shows or hides the marker lines of the pattern parameters.
+    void setParameterLines(bool on);
     /// Lets the operator edit names, colours, line widths and visibility of all curves.
     void manageCurves();
 

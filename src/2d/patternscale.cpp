@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr double shownDepth = 40.0;
+constexpr double leastDepth = 30.0;
+constexpr double mostDepth = 40.0;
 constexpr int mostDivisions = 8;
 constexpr std::array<double, 3> roundDigits{1.0, 2.0, 5.0};
 
@@ -56,10 +57,10 @@ AxisScale levelScale(const QVector<QVector<QPointF>> &curves)
             curve.take(point.y());
         if (!curve.isEmpty()) {
             shown.take(curve.high);
-            shown.take(std::max(curve.low, curve.high - shownDepth));
+            shown.take(qBound(curve.high - mostDepth, curve.low, curve.high - leastDepth));
         }
     }
-    return shown.isEmpty() ? AxisScale{-shownDepth, 0.0, 4} : roundScale(shown);
+    return shown.isEmpty() ? AxisScale{-mostDepth, 0.0, 4} : roundScale(shown);
 }
 
 AxisScale angleScale(const QVector<QVector<QPointF>> &curves)

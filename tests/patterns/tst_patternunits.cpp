@@ -76,10 +76,10 @@ void TestPatternUnits::levelsAtFirstSight_data()
         << Curves{{{-10, -3}, {0, -300}, {10, 0}}} << Ends{-40, 0, 8};
     QTest::newRow("a weak curve beside a strong one")
         << Curves{cosinePattern(20.9, -60, -90, 90), cosinePattern(-20, -35, -90, 90)}
-        << Ends{-40, 30, 7};
-    QTest::newRow("a flat line") << Curves{{{0, -3}, {1, -3}}} << Ends{-8, 2, 5};
-    QTest::newRow("one point of zero") << Curves{{{0, 0}}} << Ends{-6, 6, 6};
-    QTest::newRow("huge values") << Curves{{{0, 1e9}, {1, 1e9 - 10}}} << Ends{1e9 - 10, 1e9, 5};
+        << Ends{-50, 30, 8};
+    QTest::newRow("a flat line") << Curves{{{0, -3}, {1, -3}}} << Ends{-35, 0, 7};
+    QTest::newRow("one point of zero") << Curves{{{0, 0}}} << Ends{-30, 0, 6};
+    QTest::newRow("huge values") << Curves{{{0, 1e9}, {1, 1e9 - 10}}} << Ends{1e9 - 30, 1e9, 6};
 }
 
 void TestPatternUnits::levelsAtFirstSight()
