@@ -3,21 +3,25 @@
 #   build   compiling the programs          run      running them
 #   virtual running them without a display  test     building and running the tests
 #   ci      the checks of .ci/run           bench    the benchmarks
+#   pictures making the documents' pictures
 set -euo pipefail
 
 declare -A sets=(
+    # The fonts are those of the manual.
     [build]="cmake g++ make ninja-build python3 qtbase5-dev libqt5charts5-dev libqt5serialport5-dev
-             libqt5svg5-dev qttools5-dev qttools5-dev-tools"
+             libqt5svg5-dev qttools5-dev qttools5-dev-tools
+             fonts-dejavu-core fonts-wqy-microhei"
     # Pictures in SVG, Qt's own texts in Chinese, and fonts for both languages.
     [run]="libqt5svg5 qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
     [virtual]="xvfb xauth imagemagick"
     [test]="xvfb xauth"
     [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix git libclang-rt-dev llvm shellcheck"
+    [pictures]="xvfb xauth imagemagick xdotool poppler-utils"
     [bench]="libqwt-qt5-dev libqcustomplot-dev"
 )
 
 usage() {
-    sed -n '2,5s/^# \?//p' "$0"
+    sed -n '2,6s/^# \?//p' "$0"
     echo "usage: $(basename "$0") SET..."
 }
 

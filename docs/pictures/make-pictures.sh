@@ -1,11 +1,14 @@
 #!/bin/bash
-# Makes the pictures of the documents from the running programs, on a virtual screen and against the
-# simulated instrument. Needs a finished build in build/; run it after changing how a window looks.
+# Makes the pictures of README and manual from the running programs, in both languages, on a virtual
+# screen and against the simulated instrument; run it after changing how a window looks.
+#   make-pictures.sh [FOLDER]    takes the programs from FOLDER, build/bin unless given
+# scripts/install-dependencies.sh installs what it needs as "pictures".
 set -euo pipefail
+programs=$(readlink -f "${1:-$(dirname "$0")/../../build/bin}")
 cd "$(dirname "$(readlink -f "$0")")/../.."
 
-readonly pictures=$PWD/docs/pictures
-readonly programs=$PWD/build/bin
+readonly programs pictures=$PWD/docs/pictures
+readonly instrument=127.0.0.77
 # Long enough for a chart that shows something.
 readonly measuring_seconds=100
 
@@ -21,7 +24,7 @@ clean_up() {
 trap clean_up EXIT
 trap 'exit 130' INT TERM
 
-# start_screen WIDTHxHEIGHT: a screen of its own, as large as the window that is to fill it.
+# start_screen WIDTHxHEIGHT: a screen of its own.
 start_screen() {
     Xvfb -displayfd 3 -screen 0 "${1}x24" -dpi 96 -nolisten tcp 3>"$work/display" 2>/dev/null &
     children+=($!)
@@ -31,24 +34,129 @@ start_screen() {
     export DISPLAY QT_QPA_PLATFORM=xcb
 }
 
-# console LANGUAGE PICTURE
+# start FOLDER PROGRAM ARGUMENT...: starts it there and waits for its window.
+start() {
+    (cd "$1" && exec "${@:2}") 2>/dev/null &
+    program=$!
+    children+=("$program")
+    until [[ -n $(top_window) ]]; do sleep 0.1; done
+    sleep 2
+}
+
+stop() {
+    kill "$program"
+    wait "$program" 2>/dev/null || true
+}
+
+# The window of the program that lies above its others. Nobody else gives it the keyboard here.
+top_window() {
+    local window
+    window=$(xdotool search --onlyvisible --pid "$program" '' 2>/dev/null | tail -n 1)
+    [[ -z $window ]] || xdotool windowfocus "$window"
+    echo "$window"
+}
+
+# press KEY...
+press() {
+    top_window >/dev/null
+    sleep 0.3
+    xdotool key --delay 60 "$@"
+    sleep 0.7
+}
+
+# take NAME [CROP]: a picture of the whole screen, or of a part WIDTHxHEIGHT+X+Y.
+take() {
+    import -window root "$work/picture.png"
+    convert "$work/picture.png" ${2:+-crop "$2" +repage} +dither -colors 128 "PNG8:$pictures/$1.png"
+}
+
+# take_window NAME: a picture of the top window, framed, with the corners that it leaves clear in white.
+take_window() {
+    import -window "$(top_window)" "$work/picture.png"
+    convert "$work/picture.png" -bordercolor black -border 1 -fuzz 8% -fill white \
+        -draw 'color 0,0 floodfill' -shave 1x1 -bordercolor '#b0b6c0' -border 1 \
+        +dither -colors 128 "PNG8:$pictures/$1.png"
+}
+
+# console LANGUAGE SUFFIX
 console() {
     local folder=$work/$1
     mkdir -p "$folder/DataRecord"
     cp "$programs/mz6218" "$folder/"
     printf 'language:%s\nIP:\nPath:%s\nInterval:1\nPeriod:2\n' "$1" "$folder/DataRecord" >"$folder/config.ini"
-    "$programs/mz6218-sim" --listen 127.0.0.77 --level -20 --noise 0.4 --seed 7 >"$work/simulator" &
+    "$programs/mz6218-sim" --listen "$instrument" --level -20 --noise 0.4 --seed 7 >"$work/simulator" &
     local simulator=$!
     children+=("$simulator")
-    until grep -q '^Listening' "$work/simulator"; do sleep 0.1; done
+    until grep -qs '^Listening' "$work/simulator"; do sleep 0.1; done
     start_screen 1120x800
-    (cd "$folder" && exec ./mz6218 --lan 127.0.0.77) 2>/dev/null &
-    local program=$!
-    children+=("$program")
+    start "$folder" ./mz6218 --lan "$instrument"
     sleep "$measuring_seconds"
-    import -window root "$pictures/$2"
-    kill "$program" "$simulator"
+    take "console$2"
+    press F7
+    take_window "wait$2"
+    sleep 4
+    press Return # the result
+    press ctrl+o
+    take_window "connect-lan$2"
+    press Escape
+    press alt+c Return # to the serial link
+    press ctrl+o
+    take_window "connect-serial$2"
+    stop
+    kill "$simulator"
 }
 
-console en console.png
-console cn console-cn.png
+# select_curve ROW: in the list of curves.
+select_curve() {
+    xdotool mousemove 100 $((160 + 30 * $1)) click 1
+    sleep 0.5
+}
+
+# menu_entry X Y NUMBER: chooses the entry that is the NUMBERth enabled one of the chart's menu.
+menu_entry() {
+    local -a downs
+    mapfile -t downs < <(yes Down | head -n "$3")
+    xdotool mousemove "$1" "$2" click 3
+    sleep 0.5
+    xdotool key --delay 60 "${downs[@]}" Return
+    sleep 0.5
+}
+
+# workbench LANGUAGE SUFFIX SIZE FILE...: starts it with a window that fills the screen.
+workbench() {
+    start_screen "${3}"
+    XDG_CONFIG_HOME=$work/settings start patterns/samples "$programs/mz6218-patterns" --language "$1" "${@:4}"
+    xdotool windowmove "$(top_window)" 0 0 windowsize "$(top_window)" "${3%x*}" "${3#*x}"
+    sleep 2
+}
+
+# patterns LANGUAGE SUFFIX
+patterns() {
+    workbench "$1" "$2" 1280x800 dipole.csv patch.csv horn.csv array.csv
+    take "workbench$2"
+    press alt+v
+    press m
+    take_window "manager$2"
+    stop
+}
+
+# markers LANGUAGE SUFFIX: markers, their table and the parameters on the cartesian chart.
+markers() {
+    workbench "$1" "$2" 1920x1080 horn.csv
+    select_curve 0
+    local x
+    for x in 1460 1501 1576; do # side lobes and a half-power point
+        menu_entry "$x" 180 3
+    done
+    menu_entry 1400 500 6
+    take "markers$2" 828x778+1088+104
+    stop
+}
+
+for language in en cn; do
+    suffix=
+    [[ $language == en ]] || suffix=-$language
+    console "$language" "$suffix"
+    patterns "$language" "$suffix"
+    markers "$language" "$suffix"
+done

@@ -4,23 +4,30 @@
 /// The program that opens the manual knows one file, so both languages stand in it, each from a
 /// page of its own. Pictures are looked for beside the source that names them.
 
+#include "manualstyle.h"
+
+#include <QAbstractTextDocumentLayout>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <QPdfWriter>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
-#include <QTextFrame>
-#include <QTextList>
 #include <QTextStream>
-#include <QTextTable>
 #include <QUrl>
 
 namespace {
 
-constexpr int pageWidth = 640; ///< pixels at 96 dpi between the margins of an A4 page
+constexpr int screenDpi = 96;
+constexpr int printDpi = 1200;
+constexpr QMarginsF pageMargins(20, 18, 20, 18); ///< millimetres
+constexpr QSize largestPicture(640, 400);        ///< pixels at screenDpi
+constexpr double pictureScale = 0.8;             ///< text on pictures as large as that around them
+constexpr int footerHeight = 30;                 ///< pixels at screenDpi
 
 QTextStream &complain()
 {
@@ -28,8 +35,26 @@ QTextStream &complain()
     return stream;
 }
 
-/// Loads the pictures that \a document names from \a folder, no wider than a page; false when one
-/// is missing, since a manual with a hole in it must not be shipped.
+QFont textFont()
+{
+    QFont font;
+    font.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("WenQuanYi Micro Hei"),
+                      QStringLiteral("Microsoft YaHei")});
+    font.setPointSizeF(9.5);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+QSize printedSize(const QSize &picture)
+{
+    const QSize size = picture * pictureScale;
+    const bool fits =
+        size.width() <= largestPicture.width() && size.height() <= largestPicture.height();
+    return fits ? size : size.scaled(largestPicture, Qt::KeepAspectRatio);
+}
+
+/// Loads the pictures that \a document names from \a folder; false when one is missing, since a
+/// manual with a hole in it must not be shipped.
 bool placePictures(QTextDocument &document, const QString &folder)
 {
     bool complete = true;
@@ -48,7 +73,9 @@ bool placePictures(QTextDocument &document, const QString &folder)
             // By its own address the picture is found again from the book that the text is put
             // into.
             format.setName(QUrl::fromLocalFile(path).toString());
-            format.setWidth(qMin(picture.width(), pageWidth));
+            const QSize size = printedSize(picture.size());
+            format.setWidth(size.width());
+            format.setHeight(size.height());
             QTextCursor cursor(&document);
             cursor.setPosition(part.fragment().position());
             cursor.setPosition(part.fragment().position() + part.fragment().length(),
@@ -59,54 +86,6 @@ bool placePictures(QTextDocument &document, const QString &folder)
     return complete;
 }
 
-/// Code is marked as of fixed pitch only; the font to print it in is named here.
-void setTypewriterParts(const QTextBlock &block)
-{
-    for (auto part = block.begin(); !part.atEnd(); ++part) {
-        if (!part.fragment().charFormat().fontFixedPitch())
-            continue;
-        QTextCharFormat format;
-        format.setFontFamilies({QStringLiteral("DejaVu Sans Mono"), QStringLiteral("monospace")});
-        QTextCursor cursor(block);
-        cursor.setPosition(part.fragment().position());
-        cursor.setPosition(part.fragment().position() + part.fragment().length(),
-                           QTextCursor::KeepAnchor);
-        cursor.mergeCharFormat(format);
-    }
-}
-
-/// Gives headings their space and tables a thin frame: the Markdown reader leaves both bare.
-void style(QTextDocument &document)
-{
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const int level = block.blockFormat().headingLevel();
-        QTextBlockFormat format = block.blockFormat();
-        if (level > 0) {
-            format.setTopMargin(level == 1 ? 0 : 18);
-            format.setBottomMargin(8);
-        } else if (!block.textList()) {
-            format.setBottomMargin(6);
-        }
-        format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
-        QTextCursor(block).setBlockFormat(format);
-        setTypewriterParts(block);
-    }
-    const QList<QTextFrame *> frames = document.rootFrame()->childFrames();
-    for (QTextFrame *frame : frames) {
-        if (auto *table = qobject_cast<QTextTable *>(frame)) {
-            QTextTableFormat format = table->format();
-            format.setBorder(1);
-            format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-            format.setBorderCollapse(true);
-            format.setBorderBrush(QColor(0xc8, 0xcc, 0xd4));
-            format.setCellPadding(4);
-            format.setTopMargin(6);
-            format.setBottomMargin(10);
-            table->setFormat(format);
-        }
-    }
-}
-
 bool readSource(const QString &path, QTextDocument &document)
 {
     QFile file(path);
@@ -115,6 +94,7 @@ bool readSource(const QString &path, QTextDocument &document)
         return false;
     }
     document.setMarkdown(QString::fromUtf8(file.readAll()), QTextDocument::MarkdownDialectGitHub);
+    ManualStyle::tidy(document);
     return placePictures(document, QFileInfo(path).absolutePath());
 }
 
@@ -123,12 +103,58 @@ void append(QTextDocument &book, const QTextDocument &source)
 {
     QTextCursor end(&book);
     end.movePosition(QTextCursor::End);
-    if (!book.isEmpty()) {
-        QTextBlockFormat newPage;
-        newPage.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-        end.insertBlock(newPage);
-    }
+    const bool isFirst = book.isEmpty();
+    const int start = end.position();
+    if (!isFirst)
+        end.insertBlock();
     end.insertFragment(QTextDocumentFragment(&source));
+    if (isFirst)
+        return;
+    QTextCursor title(book.findBlock(start + 1));
+    QTextBlockFormat newPage;
+    newPage.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    title.mergeBlockFormat(newPage);
+}
+
+void drawPage(QPainter &painter, QTextDocument &book, int page, double scale)
+{
+    const QSizeF size = book.pageSize();
+    painter.save();
+    painter.translate(0.0, -page * size.height());
+    const QRectF shown(QPointF(0.0, page * size.height()), size);
+    painter.setClipRect(shown);
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = shown;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    book.documentLayout()->draw(&painter, context);
+    painter.restore();
+    QFont small = textFont();
+    small.setPointSizeF(8);
+    painter.setFont(small);
+    painter.drawText(QRectF(0.0, size.height(), size.width(), footerHeight * scale),
+                     Qt::AlignHCenter | Qt::AlignBottom, QString::number(page + 1));
+}
+
+bool print(QTextDocument &book, const QString &path)
+{
+    QPdfWriter writer(path);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins(pageMargins, QPageLayout::Millimeter);
+    writer.setResolution(printDpi);
+    writer.setTitle(QStringLiteral("MZ6218 Power Meter"));
+    const double scale = double(printDpi) / screenDpi;
+    book.setDocumentMargin(0.0);
+    book.documentLayout()->setPaintDevice(&writer);
+    book.setPageSize(QSizeF(writer.width(), writer.height() - footerHeight * scale));
+    ManualStyle::keepTogether(book, scale);
+
+    QPainter painter(&writer);
+    for (int page = 0; page < book.pageCount(); ++page) {
+        if (page > 0)
+            writer.newPage();
+        drawPage(painter, book, page, scale);
+    }
+    return painter.end() && QFileInfo(path).size() > 0;
 }
 
 } // namespace
@@ -143,24 +169,18 @@ int main(int argc, char **argv)
         complain() << "usage: mz_manual OUTPUT.pdf SOURCE.md..." << Qt::endl;
         return 2;
     }
+    if (!QFontMetrics(textFont()).inFontUcs4(U'中'))
+        complain() << "mz_manual: no font for Chinese; install fonts-wqy-microhei" << Qt::endl;
 
     QTextDocument book;
-    QFont font(QStringLiteral("DejaVu Sans"), 10);
-    font.setStyleHint(QFont::SansSerif);
-    book.setDefaultFont(font);
+    book.setDefaultFont(textFont());
     for (const QString &path : arguments.mid(2)) {
         QTextDocument source;
-        source.setDefaultFont(font);
+        source.setDefaultFont(textFont());
         if (!readSource(path, source))
             return 1;
         append(book, source);
     }
-    style(book);
-
-    QPdfWriter writer(arguments.at(1));
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-    writer.setTitle(QStringLiteral("MZ6218 Power Meter"));
-    book.print(&writer);
-    return QFileInfo(arguments.at(1)).size() > 0 ? 0 : 1;
+    ManualStyle::apply(book);
+    return print(book, arguments.at(1)) ? 0 : 1;
 }
