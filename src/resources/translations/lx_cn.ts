@@ -347,6 +347,10 @@ correction</source>
         <source>Please select the target graph</source>
         <translation>请先选中目标曲线</translation>
     </message>
+    <message>
+        <source>Chart</source>
+        <translation>图表</translation>
+    </message>
 </context>
 <context>
     <name>LineEdit</name>
@@ -1426,6 +1430,38 @@ correction</source>
     <message>
         <source>&lt;h3&gt;Antenna Pattern Workbench&lt;/h3&gt;&lt;p&gt;Version %1, with Qt %2&lt;/p&gt;&lt;p&gt;Shows antenna patterns in a polar and a cartesian chart and tells gain, beam width, nulls and side lobes.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;天线方向图工作台&lt;/h3&gt;&lt;p&gt;版本 %1，Qt %2&lt;/p&gt;&lt;p&gt;以极坐标图和直角坐标图显示天线方向图，并给出增益、波束宽度、零点和副瓣。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Print Report</source>
+        <translation>打印报告</translation>
+    </message>
+    <message>
+        <source>Copy Parameter Table</source>
+        <translation>复制参数表</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Parameter Li&amp;nes</source>
+        <translation>参数线(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Parameter Lines</source>
+        <translation>参数线</translation>
+    </message>
+    <message>
+        <source>Shows peak, 3 dB points and first side lobes of every curve as lines</source>
+        <translation>以线条显示每条曲线的峰值、3 dB 点和第一副瓣</translation>
+    </message>
+    <message>
+        <source>Manage Curves</source>
+        <translation>曲线管理</translation>
     </message>
 </context>
 <context>

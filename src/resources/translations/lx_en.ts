@@ -347,6 +347,10 @@ correction</translation>
         <source>Please select the target graph</source>
         <translation>Please select the target graph</translation>
     </message>
+    <message>
+        <source>Chart</source>
+        <translation>Chart</translation>
+    </message>
 </context>
 <context>
     <name>LineEdit</name>
@@ -1426,6 +1430,38 @@ correction</translation>
     <message>
         <source>&lt;h3&gt;Antenna Pattern Workbench&lt;/h3&gt;&lt;p&gt;Version %1, with Qt %2&lt;/p&gt;&lt;p&gt;Shows antenna patterns in a polar and a cartesian chart and tells gain, beam width, nulls and side lobes.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Antenna Pattern Workbench&lt;/h3&gt;&lt;p&gt;Version %1, with Qt %2&lt;/p&gt;&lt;p&gt;Shows antenna patterns in a polar and a cartesian chart and tells gain, beam width, nulls and side lobes.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Print Report</source>
+        <translation>Print Report</translation>
+    </message>
+    <message>
+        <source>Copy Parameter Table</source>
+        <translation>Copy Parameter Table</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>Symmetry</translation>
+    </message>
+    <message>
+        <source>Parameter Li&amp;nes</source>
+        <translation>Parameter Li&amp;nes</translation>
+    </message>
+    <message>
+        <source>Parameter Lines</source>
+        <translation>Parameter Lines</translation>
+    </message>
+    <message>
+        <source>Shows peak, 3 dB points and first side lobes of every curve as lines</source>
+        <translation>Shows peak, 3 dB points and first side lobes of every curve as lines</translation>
+    </message>
+    <message>
+        <source>Manage Curves</source>
+        <translation>Manage Curves</translation>
     </message>
 </context>
 <context>
