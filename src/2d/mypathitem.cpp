@@ -259,11 +259,12 @@ void MyPathItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     if (m_valuePoints.isEmpty())
         return;
     painter->save();
-    if (m_clipped && m_chartKind == polarKind) {
+    const bool clipped = m_clipped || m_curveSelected; // the band reaches farther than the line
+    if (clipped && m_chartKind == polarKind) {
         QPainterPath circle;
         circle.addEllipse(m_plotArea);
         painter->setClipPath(circle, Qt::IntersectClip);
-    } else if (m_clipped) {
+    } else if (clipped) {
         painter->setClipRect(m_plotArea, Qt::IntersectClip);
     }
     const double pixelsPerUnit =

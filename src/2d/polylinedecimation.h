@@ -67,14 +67,15 @@ QLineF columnBar(const ThinnedLine &line, int column, double reach, const QRectF
 
 /// Hands the area between the lowest and the highest points of a solid stretch, with \a reach
 /// around it, to \a draw(const QPointF *outline, int count): a few columns at a time, since the
-/// filling of a large outline is dear too. Neighbouring pieces share a column.
+/// filling of a large outline is dear too.
 template<typename Draw>
 void forEachBand(const ThinnedLine &line, const ColumnStretch &stretch, double reach,
                  const QRectF &window, const Draw &draw)
 {
     constexpr int columnsPerBand = 16;
+    constexpr int sharedColumns = 2; // with one the smoothed edges of both would show
     std::array<QPointF, 2 * columnsPerBand> outline;
-    for (int from = stretch.from; from < stretch.to; from += columnsPerBand - 1) {
+    for (int from = stretch.from; from < stretch.to; from += columnsPerBand - sharedColumns) {
         const int count = std::min(columnsPerBand, stretch.to - from + 1);
         for (int i = 0; i < count; ++i) {
             const QLineF bar = columnBar(line, from + i, reach, window);
