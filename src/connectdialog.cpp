@@ -5,6 +5,7 @@
 
 #include <QDebug>
 #include <QSerialPortInfo>
+#include <QWindow>
 
 ConnectDialog::ConnectDialog(QWidget *parent)
     : QDialog(parent)
@@ -39,6 +40,20 @@ void ConnectDialog::retranslate()
     fillBaudRates();
     m_ui->baudRate->setCurrentText(chosenBaudRate);
     setWindowTitle(tr("Connection"));
+}
+
+void ConnectDialog::showEvent(QShowEvent *event)
+{
+    windowHandle()->installEventFilter(this);
+    QDialog::showEvent(event);
+}
+
+bool ConnectDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isInput = event->type() == QEvent::MouseButtonPress ||
+                         event->type() == QEvent::MouseButtonDblClick ||
+                         event->type() == QEvent::KeyPress;
+    return (isInput && !isVisible()) || QDialog::eventFilter(watched, event);
 }
 
 void ConnectDialog::setIP(QString ip)

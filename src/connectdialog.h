@@ -25,6 +25,10 @@ public:
     /// Shows all texts in the current language; the chosen baud rate stays.
     void retranslate();
 
+    /// Drops what was pressed while the connection was being made: it comes in when the dialog is
+    /// closed already, and would connect once more.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 public slots:
     /// Proposes \a ip as the address.
     void setIP(QString ip);
@@ -32,6 +36,9 @@ public slots:
 signals:
     /// The user's choice: serial port and baud rate, or IP address and TCP port.
     void openPort(QString port, int baudRate);
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private slots:
     void on_accept_clicked();

@@ -23,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 #include <QtCharts/QChart>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QValueAxis>
@@ -78,6 +79,7 @@ private slots:
     void chartStartsAgainAfterAnHour();
     void chartShowsThePeriod();
     void connectDialogAsksForItsMode();
+    void secondClickWhileConnectingIsDropped();
     void everyInputSpeaks();
 };
 
@@ -514,6 +516,24 @@ void TestConsoleWindow::connectDialogAsksForItsMode()
     port.clear();
     dialog.findChild<QPushButton *>(QStringLiteral("cancel"))->click();
     QVERIFY(port.isNull() && !dialog.isVisible());
+}
+
+void TestConsoleWindow::secondClickWhileConnectingIsDropped()
+{
+    ConnectDialog dialog;
+    int connections = 0;
+    connect(&dialog, &ConnectDialog::openPort, this, [&] { ++connections; });
+    auto *button = dialog.findChild<QPushButton *>(QStringLiteral("accept"));
+    dialog.show();
+    const QPoint place = button->mapTo(&dialog, button->rect().center());
+    for (int click = 0; click < 3; ++click)
+        QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, place);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+    QCOMPARE(connections, 1);
+
+    dialog.show();
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+    QCOMPARE(connections, 2);
 }
 
 void TestConsoleWindow::everyInputSpeaks()
