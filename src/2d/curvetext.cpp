@@ -110,30 +110,25 @@ bool hasTab(std::string_view line)
     return line.find('\t') != std::string_view::npos;
 }
 
-/// Appends the point of a pasted line; false when the line holds none.
-bool appendPasted(QVector<QPointF> &points, std::string_view line)
+/// Appends the point of a pasted line, if it holds one.
+void appendPasted(QVector<QPointF> &points, std::string_view line)
 {
-    if (const auto cells = twoFields(line, '\t')) {
+    if (const auto cells = twoFields(line, '\t'))
         appendFinite(points, cellNumber(cells->first), cellNumber(cells->second));
-        return true;
-    }
-    const auto fields = twoFields(line, ',');
-    if (fields)
+    else if (const auto fields = twoFields(line, ','))
         appendFinite(points, toNumber(fields->first), toNumber(fields->second));
-    return fields.has_value();
 }
 
-/// Whether a line is a row of two numeric cells: the first of a spreadsheet's columns that were
-/// copied without any heading.
-bool isNumericRow(std::string_view line)
+/// Whether both fields of a line are numbers.
+bool isNumericRow(std::string_view line, char separator)
 {
-    const auto cells = twoFields(line, '\t');
-    if (!cells)
+    const auto fields = twoFields(line, separator);
+    if (!fields)
         return false;
     bool xOk = false;
     bool yOk = false;
-    cellNumber(cells->first, &xOk);
-    cellNumber(cells->second, &yOk);
+    cellNumber(fields->first, &xOk);
+    cellNumber(fields->second, &yOk);
     return xOk && yOk;
 }
 
@@ -348,10 +343,12 @@ Curve fromClipboard(const QString &text)
     lines.next(line);
     bool headed = hasTab(line) && isHeader(line);
     bool isCurve = headed;
-    if (isNumericRow(line))
-        isCurve = appendPasted(curve.points, line);
-    else if (!headed)
+    if (isNumericRow(line, '\t')) {
+        isCurve = true;
+        appendPasted(curve.points, line);
+    } else if (!headed) {
         curve.name = decoded(line.substr(0, line.find('\t')));
+    }
 
     curve.points.reserve(lines.linesLeft());
     while (lines.next(line)) {
@@ -360,7 +357,8 @@ Curve fromClipboard(const QString &text)
             isCurve = true;
             continue;
         }
-        isCurve = appendPasted(curve.points, line) || isCurve;
+        isCurve = isCurve || isNumericRow(line, '\t') || isNumericRow(line, ',');
+        appendPasted(curve.points, line);
     }
     if (!isCurve)
         curve.status = Status::NoCurve;

@@ -20,7 +20,7 @@ using Progress = std::function<bool(qint64 done, qint64 total)>;
 enum class Status {
     Complete,    ///< name and points are valid
     WrongHeader, ///< the header line names no "Angle" or no "Power"; the points are empty
-    NoCurve,     ///< a plain text with neither header nor point
+    NoCurve,     ///< a plain text with neither a header nor a row of numbers
     Cancelled,   ///< the progress function returned false; the points are empty
 };
 

@@ -41,6 +41,7 @@ void MyCustomProxy::clearParaInfo()
 
 // The table reacts to no mouse. Were the events handed to it, it would swallow what moves the
 // panel.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 void MyCustomProxy::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     QGraphicsItem::mousePressEvent(event);
@@ -55,3 +56,4 @@ void MyCustomProxy::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
     QGraphicsItem::mouseReleaseEvent(event);
 }
+// NOLINTEND(bugprone-parent-virtual-call)

@@ -8,8 +8,8 @@
 namespace {
 
 constexpr int amplitudeColumn = 1;
-constexpr int leastColumnWidth = 96;
-constexpr int headerPadding = 24;
+constexpr int leastColumnWidth = 72;
+constexpr int headerPadding = 14;
 
 } // namespace
 
@@ -69,7 +69,7 @@ void ParaInfoTable::setColumns(Columns columns)
     nameColumns();
 }
 
-void ParaInfoTable::reset()
+void ParaInfoTable::resetRows()
 {
     m_isReset = true;
     setRowCount(1);

@@ -22,7 +22,7 @@ public:
     void setColumns(Columns columns);
 
     /// Leaves one row, which holds the column names until an update writes over it.
-    void reset();
+    void resetRows();
 
     /// Writes row \a count - 1 of \a count rows: \a frequency is shown as it is (MHz).
     void updateParaInfo(ParaInfo paraInfo, int count, QString frequency);

@@ -172,7 +172,7 @@ void TestParaTables::frequencyTableResets()
 {
     ParaInfoTable table;
     table.updateParaInfo(sampleInfo(), 3, text("2450"));
-    table.reset();
+    table.resetRows();
     QCOMPARE(table.rowCount(), 1);
     QCOMPARE(rowTexts(table, 0), standardHeadings);
     table.updateParaInfo(sampleInfo(), 1, text("2450"));

@@ -303,8 +303,8 @@ void TestCurveText::readsPastedText_data()
     row("spreadsheet's bare columns", "0\t-3.5\n90\t12\n", {}, points);
     row("spreadsheet with decimal commas", "F1\t\n0\t-3,5\n90\t12\n", name, points);
     row("some sentence", "Antennas\nare nice", QStringLiteral("Antennas"), {}, Status::NoCurve);
-    row("an address", "https://example.org/a,b", QStringLiteral("https://example.org/a,b"), {},
-        Status::NoCurve);
+    row("addresses of dropped files", "file:///a,b.csv\nfile:///c,d.csv",
+        QStringLiteral("file:///a,b.csv"), {{0, 0}}, Status::NoCurve);
 }
 
 void TestCurveText::readsPastedText()

@@ -38,9 +38,11 @@ constexpr std::array<Figure, 10> allFigures{{
     {"cross-polar ratio", &ParaInfo::crossPolarRatio},
 }};
 
-bool sameBits(double a, double b)
+quint64 bits(double value)
 {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    quint64 pattern = 0;
+    std::memcpy(&pattern, &value, sizeof pattern);
+    return pattern;
 }
 
 /// Names the first figure that differs by a single bit; empty when none does.
@@ -49,7 +51,7 @@ QByteArray difference(const ParaInfo &a, const ParaInfo &b)
     for (const Figure &figure : allFigures) {
         const Pair &p = a.*figure.pair;
         const Pair &q = b.*figure.pair;
-        if (!sameBits(p.first, q.first) || !sameBits(p.second, q.second)) {
+        if (bits(p.first) != bits(q.first) || bits(p.second) != bits(q.second)) {
             return QStringLiteral("%1: (%2, %3) against (%4, %5)")
                 .arg(QString::fromLatin1(figure.name))
                 .arg(p.first, 0, 'g', 17)
