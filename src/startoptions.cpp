@@ -8,19 +8,26 @@
 
 namespace {
 
+// Not QCommandLineParser's own help, which needs an application object and so a display.
+const QString usage = QStringLiteral(
+    "Usage: mz6218 [options]\n"
+    "Console of the MZ6218 RF power meter\n"
+    "\n"
+    "Options:\n"
+    "  -h, --help            Show this text.\n"
+    "  -v, --version         Show the version.\n"
+    "  --lan HOST            Connect to the instrument at HOST.\n"
+    "  --serial PORT[:BAUD]  Open the serial port PORT, at 115200 baud when no BAUD is given.\n"
+    "  --language en|cn      Start in this language.\n");
+
 /// The options that the console knows.
 struct Known
 {
-    QCommandLineOption lan{QStringLiteral("lan"),
-                           QStringLiteral("Connect to the instrument at HOST."),
-                           QStringLiteral("HOST")};
-    QCommandLineOption serial{
-        QStringLiteral("serial"),
-        QStringLiteral("Open the serial port PORT, at 115200 baud when no BAUD is given."),
-        QStringLiteral("PORT[:BAUD]")};
-    QCommandLineOption language{QStringLiteral("language"),
-                                QStringLiteral("Language of the program: en or cn."),
-                                QStringLiteral("en|cn")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}};
+    QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")}};
+    QCommandLineOption lan{QStringLiteral("lan"), {}, QStringLiteral("HOST")};
+    QCommandLineOption serial{QStringLiteral("serial"), {}, QStringLiteral("PORT[:BAUD]")};
+    QCommandLineOption language{QStringLiteral("language"), {}, QStringLiteral("en|cn")};
 };
 
 /// Takes PORT[:BAUD] apart; what is wrong with it, or nothing. Names of ports hold colons as well
@@ -75,24 +82,24 @@ StartOptions StartOptions::read(const QStringList &arguments)
 {
     const Known known;
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Console of the MZ6218 RF power meter"));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    parser.addOptions({known.lan, known.serial, known.language});
+    parser.addOptions({known.help, known.version, known.lan, known.serial, known.language});
 
     StartOptions options;
+    std::optional<QString> wrong;
     if (!parser.parse(arguments)) {
-        options.wish = Wish::Refuse;
-        options.text = parser.errorText() + QStringLiteral("\n\n") + parser.helpText();
-    } else if (parser.isSet(help)) {
+        wrong = parser.errorText();
+    } else if (parser.isSet(known.help)) {
         options.wish = Wish::Print;
-        options.text = parser.helpText();
-    } else if (parser.isSet(version)) {
+        options.text = usage;
+    } else if (parser.isSet(known.version)) {
         options.wish = Wish::Print;
         options.text = QStringLiteral("mz6218 " MZ_VERSION "\n");
-    } else if (const auto wrong = readValues(parser, known, options)) {
+    } else {
+        wrong = readValues(parser, known, options);
+    }
+    if (wrong) {
         options.wish = Wish::Refuse;
-        options.text = *wrong + QStringLiteral("\n\n") + parser.helpText();
+        options.text = *wrong + QStringLiteral("\n\n") + usage;
     }
     return options;
 }

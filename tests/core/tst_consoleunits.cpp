@@ -178,7 +178,7 @@ void TestConsoleUnits::commandLine_data()
     QTest::newRow("stray word") << words("10.0.0.2") << Wish::Refuse << none << none << usual
                                 << "'10.0.0.2'";
     QTest::newRow("help") << words("--help") << Wish::Print << none << none << usual
-                          << "--serial <PORT";
+                          << "--serial PORT";
     QTest::newRow("version") << words("--version") << Wish::Print << none << none << usual
                              << MZ_VERSION;
 }
