@@ -125,8 +125,8 @@ void ManagerGraph::addColorCell(int column, const PathInfo &path)
 {
     auto *button = new MyPushButton(column);
     button->setBackgroundColor(path.color());
-    button->setToolTip(tr("Choose the line colour"));
-    button->setAccessibleName(tr("Line colour of %1").arg(path.name()));
+    button->setToolTip(tr("Choose the line color"));
+    button->setAccessibleName(tr("Line color of %1").arg(path.name()));
     ui->tableWidget->setCellWidget(ColorRow, column, button);
     connect(button, &MyPushButton::selectColor, this, &ManagerGraph::colorSelected);
     m_colorCells.insert(column, button);
