@@ -20,15 +20,17 @@ foreach(layout system portable)
 endforeach()
 
 if(UNIX)
+    # The console keeps its files beside itself and is started through a launcher; the other two write
+    # nothing by themselves.
     set(MZ_INSTALLED "/usr/lib/mz6218")
-    foreach(launcher mz6218 mz6218-patterns)
-        configure_file(packaging/linux/${launcher}.in "${CMAKE_BINARY_DIR}/packaging/${launcher}" @ONLY)
-        install(PROGRAMS "${CMAKE_BINARY_DIR}/packaging/${launcher}" DESTINATION bin COMPONENT system)
-    endforeach()
+    configure_file(packaging/linux/mz6218.in "${CMAKE_BINARY_DIR}/packaging/mz6218" @ONLY)
+    install(PROGRAMS "${CMAKE_BINARY_DIR}/packaging/mz6218" DESTINATION bin COMPONENT system)
     install(CODE [[
-        set(link "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/mz6218-sim")
-        file(MAKE_DIRECTORY "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
-        file(CREATE_LINK ../lib/mz6218/bin/mz6218-sim "${link}" SYMBOLIC)]] COMPONENT system)
+        set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
+        file(MAKE_DIRECTORY "${folder}")
+        foreach(program mz6218-sim mz6218-patterns)
+            file(CREATE_LINK "../lib/mz6218/bin/${program}" "${folder}/${program}" SYMBOLIC)
+        endforeach()]] COMPONENT system)
     install(FILES packaging/linux/mz6218.desktop packaging/linux/mz6218-patterns.desktop
             DESTINATION share/applications COMPONENT system)
     install(DIRECTORY packaging/icons/hicolor DESTINATION share/icons COMPONENT system)
