@@ -3,7 +3,7 @@
 # screen and against the simulated instrument; run it after changing how a window looks.
 #   make-pictures.sh [FOLDER]    takes the programs from FOLDER, build/bin unless given
 # scripts/install-dependencies.sh installs what it needs as "pictures".
-set -euo pipefail
+set -Eeuo pipefail
 programs=$(readlink -f "${1:-$(dirname "$0")/../../build/bin}")
 cd "$(dirname "$(readlink -f "$0")")/../.."
 
@@ -23,6 +23,7 @@ clean_up() {
 }
 trap clean_up EXIT
 trap 'exit 130' INT TERM
+trap 'echo "Line $LINENO failed; the pictures are not complete." >&2' ERR
 
 # start_screen WIDTHxHEIGHT: a screen of its own.
 start_screen() {
@@ -51,8 +52,9 @@ stop() {
 # The window of the program that lies above its others. Nobody else gives it the keyboard here.
 top_window() {
     local window
-    window=$(xdotool search --onlyvisible --pid "$program" '' 2>/dev/null | tail -n 1)
-    [[ -z $window ]] || xdotool windowfocus "$window"
+    window=$(xdotool search --onlyvisible --pid "$program" '' 2>/dev/null | tail -n 1) || true
+    # A window that has just come may not take the keyboard yet.
+    [[ -z $window ]] || until xdotool windowfocus "$window" 2>/dev/null; do sleep 0.1; done
     echo "$window"
 }
 
@@ -114,25 +116,24 @@ select_curve() {
 
 # menu_entry X Y NUMBER: chooses the entry that is the NUMBERth enabled one of the chart's menu.
 menu_entry() {
-    local -a downs
-    mapfile -t downs < <(yes Down | head -n "$3")
     xdotool mousemove "$1" "$2" click 3
     sleep 0.5
-    xdotool key --delay 60 "${downs[@]}" Return
+    xdotool key --delay 60 --repeat "$3" Down
+    xdotool key Return
     sleep 0.5
 }
 
-# workbench LANGUAGE SUFFIX SIZE FILE...: starts it with a window that fills the screen.
+# workbench LANGUAGE SIZE FILE...: starts it with a window that fills the screen.
 workbench() {
-    start_screen "${3}"
-    XDG_CONFIG_HOME=$work/settings start patterns/samples "$programs/mz6218-patterns" --language "$1" "${@:4}"
-    xdotool windowmove "$(top_window)" 0 0 windowsize "$(top_window)" "${3%x*}" "${3#*x}"
+    start_screen "$2"
+    XDG_CONFIG_HOME=$work/settings start patterns/samples "$programs/mz6218-patterns" --language "$1" "${@:3}"
+    xdotool windowmove "$(top_window)" 0 0 windowsize "$(top_window)" "${2%x*}" "${2#*x}"
     sleep 2
 }
 
 # patterns LANGUAGE SUFFIX
 patterns() {
-    workbench "$1" "$2" 1280x800 dipole.csv patch.csv horn.csv array.csv
+    workbench "$1" 1280x800 dipole.csv patch.csv horn.csv array.csv
     take "workbench$2"
     press alt+v
     press m
@@ -142,7 +143,7 @@ patterns() {
 
 # markers LANGUAGE SUFFIX: markers, their table and the parameters on the cartesian chart.
 markers() {
-    workbench "$1" "$2" 1920x1080 horn.csv
+    workbench "$1" 1920x1080 horn.csv
     select_curve 0
     local x
     for x in 1460 1501 1576; do # side lobes and a half-power point
@@ -153,6 +154,25 @@ markers() {
     stop
 }
 
+# The parameter lines, and a report on paper; in English.
+lines_and_report() {
+    workbench en 1280x800 array.csv
+    press alt+v
+    press n
+    select_curve 0
+    take workbench-lines
+    stop
+    workbench en 1280x800 dipole.csv patch.csv horn.csv
+    press ctrl+r
+    press ctrl+a
+    xdotool type "$work/report.pdf"
+    press Return
+    until [[ -s $work/report.pdf ]]; do sleep 0.2; done
+    pdftoppm -r 80 -png -singlefile "$work/report.pdf" "$work/report"
+    convert "$work/report.png" +dither -colors 128 "PNG8:$pictures/workbench-report.png"
+    stop
+}
+
 for language in en cn; do
     suffix=
     [[ $language == en ]] || suffix=-$language
@@ -160,3 +180,4 @@ for language in en cn; do
     patterns "$language" "$suffix"
     markers "$language" "$suffix"
 done
+lines_and_report
