@@ -898,10 +898,6 @@ correction</source>
         <translation>曲线</translation>
     </message>
     <message>
-        <source>Restore state, colour and width as they were when this window was opened</source>
-        <translation>将状态、颜色和线宽恢复为打开本窗口时的设置</translation>
-    </message>
-    <message>
         <source>Default</source>
         <translation>恢复默认</translation>
     </message>
@@ -922,16 +918,20 @@ correction</source>
         <translation>显示 %1</translation>
     </message>
     <message>
-        <source>Choose the line colour</source>
+        <source>Line width of %1</source>
+        <translation>%1 的线宽</translation>
+    </message>
+    <message>
+        <source>Restore state, color and width as they were when this window was opened</source>
+        <translation>将状态、颜色和线宽恢复为打开本窗口时的设置</translation>
+    </message>
+    <message>
+        <source>Choose the line color</source>
         <translation>选择线条颜色</translation>
     </message>
     <message>
-        <source>Line colour of %1</source>
+        <source>Line color of %1</source>
         <translation>%1 的线条颜色</translation>
-    </message>
-    <message>
-        <source>Line width of %1</source>
-        <translation>%1 的线宽</translation>
     </message>
 </context>
 <context>

@@ -898,10 +898,6 @@ correction</translation>
         <translation>Curves</translation>
     </message>
     <message>
-        <source>Restore state, colour and width as they were when this window was opened</source>
-        <translation>Restore state, colour and width as they were when this window was opened</translation>
-    </message>
-    <message>
         <source>Default</source>
         <translation>Default</translation>
     </message>
@@ -922,16 +918,20 @@ correction</translation>
         <translation>Show %1</translation>
     </message>
     <message>
-        <source>Choose the line colour</source>
-        <translation>Choose the line colour</translation>
-    </message>
-    <message>
-        <source>Line colour of %1</source>
-        <translation>Line colour of %1</translation>
-    </message>
-    <message>
         <source>Line width of %1</source>
         <translation>Line width of %1</translation>
+    </message>
+    <message>
+        <source>Restore state, color and width as they were when this window was opened</source>
+        <translation>Restore state, color and width as they were when this window was opened</translation>
+    </message>
+    <message>
+        <source>Choose the line color</source>
+        <translation>Choose the line color</translation>
+    </message>
+    <message>
+        <source>Line color of %1</source>
+        <translation>Line color of %1</translation>
     </message>
 </context>
 <context>
