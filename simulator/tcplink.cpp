@@ -5,6 +5,14 @@
 
 namespace sim {
 
+namespace {
+
+// A client that sends on and on and reads nothing is made to wait by its own connection, since
+// everything that is not taken from it, or by it, stays here.
+constexpr int mostWaiting = 64 * 1024; // bytes each way
+
+} // namespace
+
 TcpLink::TcpLink(QTcpSocket *socket, QObject *parent)
     : Link(parent)
     , m_socket(socket)
@@ -14,7 +22,10 @@ TcpLink::TcpLink(QTcpSocket *socket, QObject *parent)
     socket->setParent(this);
     // The pieces of a reply must leave as pieces.
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    socket->setReadBufferSize(mostWaiting);
     connect(socket, &QTcpSocket::readyRead, this, &TcpLink::readWaiting);
+    // Queued, so that no command is taken in from within the sending of a reply.
+    connect(socket, &QTcpSocket::bytesWritten, this, &TcpLink::readWaiting, Qt::QueuedConnection);
     connect(socket, &QTcpSocket::disconnected, this, &Link::closed);
 }
 
@@ -33,9 +44,8 @@ void TcpLink::drop()
 
 void TcpLink::readWaiting()
 {
-    const QByteArray bytes = m_socket->readAll();
-    if (!bytes.isEmpty())
-        emit received(bytes);
+    if (m_socket->bytesAvailable() > 0 && m_socket->bytesToWrite() <= mostWaiting)
+        emit received(m_socket->readAll());
 }
 
 } // namespace sim

@@ -18,7 +18,7 @@ public:
     QByteArray name() const override { return m_name; }
     void send(const QByteArray &bytes) override;
     void drop() override;
-    /// Hands on what the client sent before anybody listened.
+    /// Hands on what the client has sent, unless it has to read its replies first.
     void readWaiting();
 
 private:
