@@ -89,7 +89,8 @@ bool SerialLogic::openPort(const QString &name, const int &value)
 
 bool SerialLogic::openSerial(const QString &name, int baudRate)
 {
-    qInfo().noquote() << QStringLiteral("Open port: %1, baud rate: %2").arg(name).arg(baudRate);
+    qInfo().noquote()
+        << QStringLiteral("Open port: %1, baud rate: %2").arg(name, QString::number(baudRate));
     emit displayLog(QStringLiteral("Open serial port"));
     startClean();
     if (m_port->isOpen())
@@ -116,7 +117,7 @@ bool SerialLogic::openTcp(const QString &host, int port)
         m_socket->connectToHost(host, quint16(port), QIODevice::ReadWrite,
                                 QAbstractSocket::AnyIPProtocol);
     };
-    const auto isConnected = [this] {
+    const auto waitUntilConnected = [this] {
         const BusyPointer busy;
         return m_socket->waitForConnected(m_waits.connecting);
     };
@@ -124,10 +125,10 @@ bool SerialLogic::openTcp(const QString &host, int port)
     startClean();
     beginConnecting();
     qDebug() << "connectToHost: " << host << port;
-    if (isConnected())
+    if (waitUntilConnected())
         return true;
     beginConnecting();
-    if (isConnected())
+    if (waitUntilConnected())
         return true;
     emit errors(tr("Failed to connect %1").arg(host));
     return false;
@@ -211,8 +212,10 @@ bool SerialLogic::sendTcp(const QByteArray &cmd)
         if (m_socket->state() != QAbstractSocket::ConnectedState)
             continue;
         m_socket->write(cmd);
-        if (waitShowingBusy(m_waits.tcpWriting,
-                            [this](int ms) { return m_socket->waitForBytesWritten(ms); }))
+        if (waitShowingBusy(m_waits.tcpWriting, [this](int ms) {
+                return m_socket->state() == QAbstractSocket::ConnectedState &&
+                       m_socket->waitForBytesWritten(ms);
+            }))
             return true;
         if (++unconfirmedWrites > tolerableUnconfirmedWrites) {
             unconfirmedWrites = 0;
@@ -438,11 +441,14 @@ void SerialLogic::calibrate()
 void SerialLogic::startTask(const QByteArray &command)
 {
     discardInput();
+    // A result must not be told from inside the wait for the write: a receiver that asks the user
+    // something there keeps it waiting until the write counts as unconfirmed and goes out again. So
+    // the flag stays down for as long as the command is being sent.
     if (!sendCmd(command))
         return;
     m_asyncReply = true;
-    // A result that came in with the confirmation of the write announces itself no more. It is told
-    // from the event loop, since who started the task may not wait for the result yet.
+    // What came in meanwhile announces itself no more; it is told from the event loop, since who
+    // started the task may not wait for the result yet.
     if (const QIODevice *device = openDevice(); device && device->bytesAvailable() > 0)
         QMetaObject::invokeMethod(this, &SerialLogic::readDataSlot, Qt::QueuedConnection);
 }

@@ -79,6 +79,8 @@ private slots:
 
     void lostLine_data();
     void lostLine();
+    void lineLostUnnoticed_data();
+    void lineLostUnnoticed();
     void unconfirmedWrites();
     void logAndDisplay_data();
     void logAndDisplay();
@@ -296,6 +298,31 @@ void TestLinkTransport::lostLine()
     bench.link.queryOffset();
     QCOMPARE(bench.values.last(), text("offset 0"));
     QCOMPARE(bench.errors.size(), errors + 1);
+}
+
+void TestLinkTransport::lineLostUnnoticed_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<Action>("action");
+    for (const int mode : {serial, tcp}) {
+        newRow(mode, "before a query") << Action(&SerialLogic::queryOffset);
+        newRow(mode, "before a task") << Action(&SerialLogic::setZero);
+    }
+}
+
+void TestLinkTransport::lineLostUnnoticed()
+{
+    QFETCH(int, mode);
+    QFETCH(Action, action);
+    LinkBench bench(mode);
+    QVERIFY(bench.open());
+    // The event loop does not run in between, so the command itself has to find out.
+    bench.instrument.hangUp();
+    action(bench.link);
+    QCOMPARE(bench.values, QStringList());
+    QCOMPARE(bench.errors.size(), 1);
+    QVERIFY(!bench.link.awaitsResult());
+    QVERIFY(!bench.isUp());
 }
 
 void TestLinkTransport::unconfirmedWrites()

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::array<const char *, 17> forbiddenMarks{
+constexpr std::array<const char *, 19> forbiddenMarks{
     "connectSlotsByName",
     "QObject::connect",
     "QObject::disconnect",
@@ -27,6 +27,8 @@ constexpr std::array<const char *, 17> forbiddenMarks{
     "QCssParser",
     "QMetaObject",
     "QSocketNotifier",
+    "QAbstractSocket::",
+    "device not open",
     "Cannot open file ':/",
 };
 
