@@ -69,7 +69,7 @@ press() {
 # take NAME [CROP]: a picture of the whole screen, or of a part WIDTHxHEIGHT+X+Y.
 take() {
     import -window root "$work/picture.png"
-    convert "$work/picture.png" ${2:+-crop "$2" +repage} +dither -colors 128 "PNG8:$pictures/$1.png"
+    convert "$work/picture.png" ${2:+-crop "$2" +repage} -strip +dither -colors 128 "PNG8:$pictures/$1.png"
 }
 
 # take_window NAME: a picture of the top window, framed, with the corners that it leaves clear in white.
@@ -77,7 +77,7 @@ take_window() {
     import -window "$(top_window)" "$work/picture.png"
     convert "$work/picture.png" -bordercolor black -border 1 -fuzz 8% -fill white \
         -draw 'color 0,0 floodfill' -shave 1x1 -bordercolor '#b0b6c0' -border 1 \
-        +dither -colors 128 "PNG8:$pictures/$1.png"
+        -strip +dither -colors 128 "PNG8:$pictures/$1.png"
 }
 
 # console LANGUAGE SUFFIX
@@ -169,7 +169,7 @@ lines_and_report() {
     press Return
     until [[ -s $work/report.pdf ]]; do sleep 0.2; done
     pdftoppm -r 80 -png -singlefile "$work/report.pdf" "$work/report"
-    convert "$work/report.png" +dither -colors 128 "PNG8:$pictures/workbench-report.png"
+    convert "$work/report.png" -strip +dither -colors 128 "PNG8:$pictures/workbench-report.png"
     stop
 }
 
