@@ -1252,10 +1252,6 @@ correction</source>
         <translation>镜像(&amp;S)</translation>
     </message>
     <message>
-        <source>Draws every curve mirrored; the values stay</source>
-        <translation>以镜像方式绘制所有曲线，数值不变</translation>
-    </message>
-    <message>
         <source>&amp;Manage Curves...</source>
         <translation>曲线管理(&amp;M)...</translation>
     </message>
@@ -1444,10 +1440,6 @@ correction</source>
         <translation>复制参数表</translation>
     </message>
     <message>
-        <source>Symmetry</source>
-        <translation>镜像</translation>
-    </message>
-    <message>
         <source>Parameter Li&amp;nes</source>
         <translation>参数线(&amp;N)</translation>
     </message>
@@ -1462,6 +1454,14 @@ correction</source>
     <message>
         <source>Manage Curves</source>
         <translation>曲线管理</translation>
+    </message>
+    <message>
+        <source>Draws every curve mirrored until the ranges change; the values stay</source>
+        <translation>以镜像方式绘制所有曲线，直到显示范围改变；数值不变</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Symmetry</source>
+        <translation>撤销镜像(&amp;U)</translation>
     </message>
 </context>
 <context>

@@ -1252,10 +1252,6 @@ correction</translation>
         <translation>&amp;Symmetry</translation>
     </message>
     <message>
-        <source>Draws every curve mirrored; the values stay</source>
-        <translation>Draws every curve mirrored; the values stay</translation>
-    </message>
-    <message>
         <source>&amp;Manage Curves...</source>
         <translation>&amp;Manage Curves...</translation>
     </message>
@@ -1444,10 +1440,6 @@ correction</translation>
         <translation>Copy Parameter Table</translation>
     </message>
     <message>
-        <source>Symmetry</source>
-        <translation>Symmetry</translation>
-    </message>
-    <message>
         <source>Parameter Li&amp;nes</source>
         <translation>Parameter Li&amp;nes</translation>
     </message>
@@ -1462,6 +1454,14 @@ correction</translation>
     <message>
         <source>Manage Curves</source>
         <translation>Manage Curves</translation>
+    </message>
+    <message>
+        <source>Draws every curve mirrored until the ranges change; the values stay</source>
+        <translation>Draws every curve mirrored until the ranges change; the values stay</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Symmetry</source>
+        <translation>&amp;Undo Symmetry</translation>
     </message>
 </context>
 <context>
