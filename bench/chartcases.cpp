@@ -44,6 +44,15 @@ double paintedStepMs(ChartHost &chart, const Measure::Step &step,
     return time;
 }
 
+double zoomMs(CurveChart &chart)
+{
+    bool widen = true;
+    return paintedStepMs(chart, [&] {
+        chart.zoom(widen);
+        widen = !widen;
+    });
+}
+
 CurveTimes timesOf(CurveChart &chart, const QVector<QPointF> &points)
 {
     CurveTimes times;
@@ -61,11 +70,7 @@ CurveTimes timesOf(CurveChart &chart, const QVector<QPointF> &points)
             chart.settle();
         });
 
-    bool widen = true;
-    times.zoom = paintedStepMs(chart, [&] {
-        chart.zoom(widen);
-        widen = !widen;
-    });
+    times.zoom = zoomMs(chart);
 
     bool narrow = true;
     times.resize = paintedStepMs(chart, [&] {
@@ -77,7 +82,7 @@ CurveTimes timesOf(CurveChart &chart, const QVector<QPointF> &points)
     constexpr double degrees = 12.0;
     bool beside = false;
     times.press = Measure::medianMs([&] {
-        chart.press(QPointF(degrees, testLevel(degrees) + (beside ? 15 : 0)));
+        chart.press(QPointF(degrees, testLevel(CurveShape::Pattern, degrees) + (beside ? 15 : 0)));
         beside = !beside;
     });
     return times;
@@ -86,11 +91,6 @@ CurveTimes timesOf(CurveChart &chart, const QVector<QPointF> &points)
 QString points(int count)
 {
     return QLocale(QLocale::English).toString(count) + QStringLiteral(" points");
-}
-
-void progress(const QString &text)
-{
-    QTextStream(stderr) << text << '\n';
 }
 
 using MakeChart = std::unique_ptr<CurveChart> (*)();
@@ -104,11 +104,10 @@ struct Makers
     MakeChart qwt;
 };
 
-QVector<ReportRow> curveRows(const QString &kind, const Makers &makers)
+void curveRows(const QString &kind, const Makers &makers, const ChartSink &sink)
 {
-    QVector<ReportRow> rows;
     for (const int count : {361, 3601, 36001, 100000, 1000000}) {
-        const QVector<QPointF> curve = testCurve(count);
+        const QVector<QPointF> curve = testCurve(CurveShape::Pattern, count);
         const auto run = [&](MakeChart make) -> std::optional<CurveTimes> {
             if (!make)
                 return std::nullopt;
@@ -122,16 +121,49 @@ QVector<ReportRow> curveRows(const QString &kind, const Makers &makers)
             const auto pick = [time](const std::optional<CurveTimes> &times) {
                 return times ? std::optional<double>(*times.*time) : std::nullopt;
             };
-            rows.append({QStringLiteral("%1 %2, %3").arg(kind, work, points(count)), pick(own),
-                         pick(qcp), pick(qcpFast), pick(qwt)});
+            sink({QStringLiteral("%1 %2, %3").arg(kind, work, points(count)), pick(own), pick(qcp),
+                  pick(qcpFast), pick(qwt)});
         };
         add(QStringLiteral("load"), &CurveTimes::load);
         add(QStringLiteral("zoom step"), &CurveTimes::zoom);
         add(QStringLiteral("resize"), &CurveTimes::resize);
         add(QStringLiteral("press"), &CurveTimes::press);
-        progress(QStringLiteral("%1, %2: done").arg(kind, points(count)));
     }
-    return rows;
+}
+
+Makers cartesianMakers()
+{
+    Makers makers{};
+    makers.own = []() -> std::unique_ptr<CurveChart> { return std::make_unique<OwnCurveChart>(0); };
+    makers.qcp = []() -> std::unique_ptr<CurveChart> {
+        return std::make_unique<QcpCurveChart>(false);
+    };
+    makers.qcpFast = []() -> std::unique_ptr<CurveChart> {
+        return std::make_unique<QcpCurveChart>(true);
+    };
+    makers.qwt = []() -> std::unique_ptr<CurveChart> { return std::make_unique<QwtCurveChart>(); };
+    return makers;
+}
+
+/// How the shape of a curve counts.
+void shapeRows(const Makers &makers, const ChartSink &sink)
+{
+    for (const int count : {3601, 100000}) {
+        for (const CurveShape shape : {CurveShape::Smooth, CurveShape::Noise}) {
+            const QVector<QPointF> curve = testCurve(shape, count);
+            const auto run = [&curve](MakeChart make) {
+                const std::unique_ptr<CurveChart> chart = make();
+                chart->prepare(curve);
+                chart->load();
+                chart->settle();
+                return zoomMs(*chart);
+            };
+            const QString name = shape == CurveShape::Smooth ? QStringLiteral("smooth curve")
+                                                             : QStringLiteral("noise");
+            sink({QStringLiteral("%1 zoom step, %2").arg(name, points(count)), run(makers.own),
+                  run(makers.qcp), run(makers.qcpFast), run(makers.qwt)});
+        }
+    }
 }
 
 double tickMs(TimeChart &&chart)
@@ -153,7 +185,7 @@ double tickMs(TimeChart &&chart)
 
 namespace Cases {
 
-QVector<ReportRow> timeChart()
+void timeChart(const ChartSink &add)
 {
     ReportRow row;
     row.work = QStringLiteral("time chart, tick at 601 points");
@@ -161,24 +193,20 @@ QVector<ReportRow> timeChart()
     row.qcp = tickMs(QcpTimeChart(false));
     row.qcpFast = tickMs(QcpTimeChart(true));
     row.qwt = tickMs(QwtTimeChart());
-    return {row};
+    add(row);
 }
 
-QVector<ReportRow> cartesianCurves()
+void cartesianCurves(const ChartSink &add)
 {
-    Makers makers{};
-    makers.own = []() -> std::unique_ptr<CurveChart> { return std::make_unique<OwnCurveChart>(0); };
-    makers.qcp = []() -> std::unique_ptr<CurveChart> {
-        return std::make_unique<QcpCurveChart>(false);
-    };
-    makers.qcpFast = []() -> std::unique_ptr<CurveChart> {
-        return std::make_unique<QcpCurveChart>(true);
-    };
-    makers.qwt = []() -> std::unique_ptr<CurveChart> { return std::make_unique<QwtCurveChart>(); };
-    return curveRows(QStringLiteral("cartesian"), makers);
+    curveRows(QStringLiteral("cartesian"), cartesianMakers(), add);
 }
 
-QVector<ReportRow> polarCurves()
+void curveShapes(const ChartSink &add)
+{
+    shapeRows(cartesianMakers(), add);
+}
+
+void polarCurves(const ChartSink &add)
 {
     Makers makers{};
     makers.own = []() -> std::unique_ptr<CurveChart> { return std::make_unique<OwnCurveChart>(1); };
@@ -188,7 +216,7 @@ QVector<ReportRow> polarCurves()
     makers.qcpFast = []() -> std::unique_ptr<CurveChart> {
         return std::make_unique<QcpPolarChart>(true);
     };
-    return curveRows(QStringLiteral("polar"), makers);
+    curveRows(QStringLiteral("polar"), makers, add);
 }
 
 } // namespace Cases

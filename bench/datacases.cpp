@@ -105,11 +105,11 @@ double walkDown(const QMap<double, double> &map, double frequency)
 
 namespace Cases {
 
-QVector<DuelRow> curveFiles()
+void curveFiles(const DuelSink &add)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("curve.csv"));
-    const QVector<QPointF> points = testCurve(fileRows);
+    const QVector<QPointF> points = testCurve(CurveShape::Pattern, fileRows);
     const QString title = QStringLiteral("title");
     const QString name = QStringLiteral("curve");
 
@@ -131,12 +131,13 @@ QVector<DuelRow> curveFiles()
         if (readBySplit(path) != fileRows)
             qFatal("the curve file was not read");
     });
-    return {writing, reading};
+    add(writing);
+    add(reading);
 }
 
-QVector<DuelRow> patternAnalysis()
+void patternAnalysis(const DuelSink &add)
 {
-    const QVector<QPointF> points = testCurve(100000);
+    const QVector<QPointF> points = testCurve(CurveShape::Pattern, 100000);
     QVector<QPointF> sorted = points;
     DuelRow row{QStringLiteral("analyse a pattern of 100,000 points"),
                 0.0,
@@ -152,16 +153,16 @@ QVector<DuelRow> patternAnalysis()
                       [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
         },
         [&] { sorted = points; });
-    return {row};
+    add(row);
 }
 
-QVector<DuelRow> lossTable()
+void lossTable(const DuelSink &add)
 {
     constexpr int frequencies = 10000;
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("losses.csv")));
     if (!file.open(QIODevice::WriteOnly))
-        return {};
+        return;
     file.write(bigLossTable(frequencies, 100));
     file.close();
 
@@ -182,7 +183,8 @@ QVector<DuelRow> lossTable()
     asking.rivalTime = Measure::medianMs([&] { sum += walkDown(calc->upsideMap(), next()); });
     if (sum == 0.0)
         qFatal("the loss table did not answer");
-    return {loading, asking};
+    add(loading);
+    add(asking);
 }
 
 } // namespace Cases

@@ -3,44 +3,56 @@
 #include <QApplication>
 #include <QTextStream>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
-const QStringList &groups()
+/// A group of cases, which can be asked for by its name.
+struct Group
 {
-    static const QStringList names{
-        QStringLiteral("tick"),  QStringLiteral("curves"),  QStringLiteral("polar"),
-        QStringLiteral("files"), QStringLiteral("pattern"), QStringLiteral("losses"),
-        QStringLiteral("start"),
-    };
-    return names;
+    QString name;
+    std::function<void(Report &)> run;
+};
+
+Group chartGroup(const QString &name, void (*run)(const ChartSink &))
+{
+    return {name,
+            [run](Report &report) { run([&report](const ReportRow &row) { report.add(row); }); }};
 }
 
-void run(const QStringList &wanted, QTextStream &out)
+Group duelGroup(const QString &name, void (*run)(const DuelSink &))
 {
-    const auto wants = [&wanted](int group) { return wanted.contains(groups().at(group)); };
-    QVector<ReportRow> charts;
-    if (wants(0))
-        charts += Cases::timeChart();
-    if (wants(1))
-        charts += Cases::cartesianCurves();
-    if (wants(2))
-        charts += Cases::polarCurves();
-    QVector<DuelRow> duels;
-    if (wants(3))
-        duels += Cases::curveFiles();
-    if (wants(4))
-        duels += Cases::patternAnalysis();
-    if (wants(5))
-        duels += Cases::lossTable();
-    if (wants(6))
-        duels += Cases::startUp(QStringLiteral(MZ_BENCH_STARTER));
+    return {name,
+            [run](Report &report) { run([&report](const DuelRow &row) { report.add(row); }); }};
+}
 
-    if (!charts.isEmpty())
-        Report::printCharts(out, charts);
-    if (!duels.isEmpty()) {
-        out << '\n';
-        Report::printDuels(out, duels);
-    }
+void measureStart(const DuelSink &add)
+{
+    Cases::startUp(QStringLiteral(MZ_BENCH_STARTER), add);
+}
+
+const QVector<Group> &groups()
+{
+    static const QVector<Group> all{
+        chartGroup(QStringLiteral("tick"), Cases::timeChart),
+        chartGroup(QStringLiteral("curves"), Cases::cartesianCurves),
+        chartGroup(QStringLiteral("shapes"), Cases::curveShapes),
+        chartGroup(QStringLiteral("polar"), Cases::polarCurves),
+        duelGroup(QStringLiteral("files"), Cases::curveFiles),
+        duelGroup(QStringLiteral("pattern"), Cases::patternAnalysis),
+        duelGroup(QStringLiteral("losses"), Cases::lossTable),
+        duelGroup(QStringLiteral("start"), measureStart),
+    };
+    return all;
+}
+
+bool knowsAll(const QStringList &wanted)
+{
+    return std::all_of(wanted.begin(), wanted.end(), [](const QString &name) {
+        return std::any_of(groups().begin(), groups().end(),
+                           [&name](const Group &group) { return group.name == name; });
+    });
 }
 
 } // namespace
@@ -56,17 +68,18 @@ int main(int argc, char **argv)
             QTextStream(stderr) << text << '\n';
     });
 
-    QStringList wanted = app.arguments().mid(1);
-    for (const QString &group : qAsConst(wanted)) {
-        if (!groups().contains(group)) {
-            QTextStream(stderr) << "usage: mz_bench [" << groups().join(QStringLiteral(" | "))
-                                << "] ...\n";
-            return 2;
-        }
+    const QStringList wanted = app.arguments().mid(1);
+    if (!knowsAll(wanted)) {
+        QTextStream(stderr)
+            << "usage: mz_bench [tick | curves | shapes | polar | files | pattern | "
+               "losses | start] ...\n";
+        return 2;
     }
-    if (wanted.isEmpty())
-        wanted = groups();
     QTextStream out(stdout);
-    run(wanted, out);
+    Report report(out);
+    for (const Group &group : groups()) {
+        if (wanted.isEmpty() || wanted.contains(group.name))
+            group.run(report);
+    }
     return 0;
 }

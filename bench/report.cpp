@@ -20,35 +20,36 @@ QString ratio(const std::optional<double> &own, const std::optional<double> &pee
     return own && peer && *peer > 0 ? QString::number(*own / *peer, 'f', 2) : QStringLiteral("-");
 }
 
-void printRow(QTextStream &out, const QStringList &cells)
-{
-    out << "| " << cells.join(QStringLiteral(" | ")) << " |\n";
-    out.flush();
-}
-
 } // namespace
 
-namespace Report {
-
-void printCharts(QTextStream &out, const QVector<ReportRow> &rows)
+void Report::add(const ReportRow &row)
 {
-    out << "| Work (ms) | ours | QCP | QCP fast | Qwt | ours / QCP | ours / QCP fast | ours / Qwt "
-           "|\n"
-           "|---|---|---|---|---|---|---|---|\n";
-    for (const ReportRow &row : rows) {
-        printRow(out,
-                 {row.work, cell(row.own), cell(row.qcp), cell(row.qcpFast), cell(row.qwt),
-                  ratio(row.own, row.qcp), ratio(row.own, row.qcpFast), ratio(row.own, row.qwt)});
-    }
+    begin(Table::Charts,
+          QStringLiteral("| Work (ms) | ours | QCP | QCP fast | Qwt | ours / QCP | "
+                         "ours / QCP fast | ours / Qwt |\n|---|---|---|---|---|---|---|---|\n"));
+    print({row.work, cell(row.own), cell(row.qcp), cell(row.qcpFast), cell(row.qwt),
+           ratio(row.own, row.qcp), ratio(row.own, row.qcpFast), ratio(row.own, row.qwt)});
 }
 
-void printDuels(QTextStream &out, const QVector<DuelRow> &rows)
+void Report::add(const DuelRow &row)
 {
-    out << "| Work (ms) | ours | beside it | takes | ratio |\n|---|---|---|---|---|\n";
-    for (const DuelRow &row : rows) {
-        printRow(out, {row.work, cell(row.own), row.rival, cell(row.rivalTime),
-                       ratio(row.own, row.rivalTime)});
-    }
+    begin(Table::Duels, QStringLiteral("| Work (ms) | ours | beside it | takes | ratio |\n"
+                                       "|---|---|---|---|---|\n"));
+    print({row.work, cell(row.own), row.rival, cell(row.rivalTime), ratio(row.own, row.rivalTime)});
 }
 
-} // namespace Report
+void Report::begin(Table table, const QString &heading)
+{
+    if (table == m_table)
+        return;
+    if (m_table != Table::None)
+        m_out << '\n';
+    m_out << heading;
+    m_table = table;
+}
+
+void Report::print(const QStringList &cells)
+{
+    m_out << "| " << cells.join(QStringLiteral(" | ")) << " |\n";
+    m_out.flush();
+}

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <QVector>
+#include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class QTextStream;
@@ -26,10 +27,27 @@ struct DuelRow
     std::optional<double> rivalTime;
 };
 
+/// Takes the lines of a table one by one, as soon as they are known.
+using ChartSink = std::function<void(const ReportRow &)>;
+using DuelSink = std::function<void(const DuelRow &)>;
+
 /// Prints the results as tables that a Markdown page can take as they are.
-namespace Report {
+class Report
+{
+public:
+    explicit Report(QTextStream &out)
+        : m_out(out)
+    {}
 
-void printCharts(QTextStream &out, const QVector<ReportRow> &rows);
-void printDuels(QTextStream &out, const QVector<DuelRow> &rows);
+    void add(const ReportRow &row);
+    void add(const DuelRow &row);
 
-} // namespace Report
+private:
+    enum class Table { None, Charts, Duels };
+
+    void begin(Table table, const QString &heading);
+    void print(const QStringList &cells);
+
+    QTextStream &m_out;
+    Table m_table = Table::None;
+};
