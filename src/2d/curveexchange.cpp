@@ -122,7 +122,6 @@ void CurveExchange::importData()
         bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         qWarning().noquote() << tr("open file error: %1").arg(file.errorString());
-        tell(tr("Open file failed"), Failure);
         return;
     }
     rememberFolder(fileName);

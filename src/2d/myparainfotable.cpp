@@ -18,6 +18,7 @@ enum Column { NameColumn, AngleColumn, LevelColumn };
 MyParaInfoTable::MyParaInfoTable(QWidget *parent)
     : QTableWidget(floatingTableRows, columns, parent)
 {
+    qRegisterMetaType<ParaInfo>("ParaInfo"); // by name, for connections across threads
     setUpHeaders();
     setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);

@@ -21,11 +21,13 @@ MessageDialog::MessageDialog(const QString &title, const QString &mainInfo,
     if (!mainInfo.isEmpty())
         ui->label_MainInfo->setText(mainInfo);
     ui->label_OtherInfo->setVisible(!otherInfo.isEmpty());
-    ui->label_OtherInfo->setText(otherInfo);
+    if (!otherInfo.isEmpty())
+        ui->label_OtherInfo->setText(otherInfo);
     if (!okText.isEmpty())
         ui->okBtn->setText(okText);
     ui->cancelBtn->setVisible(!cancelText.isEmpty());
-    ui->cancelBtn->setText(cancelText);
+    if (!cancelText.isEmpty())
+        ui->cancelBtn->setText(cancelText);
     setFrequencyRowVisible(false);
 }
 
