@@ -48,13 +48,10 @@ private slots:
     void isLabelledWithoutCurves();
     void showsCurves();
     void editsAtOnce();
-    void offersWidths();
-    void asksForColor_data();
     void asksForColor();
     void restoresEverything();
     void writesNamesBack_data();
     void writesNamesBack();
-    void keepsNamesFromBeingEmptied();
     void opensFromTheView();
 
 private:
@@ -118,23 +115,14 @@ void TestManagerGraph::showsCurves()
     QTableWidgetItem *id = table()->item(IdRow, 1);
     QCOMPARE(id->text(), text("3"));
     QVERIFY(!id->flags().testFlag(Qt::ItemIsEditable));
-    QCOMPARE(id->foreground().color(), QColor(Qt::black));
     QCOMPARE(table()->item(DescriptionRow, 1)->text(), text("F3"));
     QVERIFY(table()->item(DescriptionRow, 1)->flags().testFlag(Qt::ItemIsEditable));
-    QCOMPARE(table()->editTriggers(), QAbstractItemView::DoubleClicked);
 
-    auto *state = cell<MyCheckBox>(StateRow, 0);
-    QVERIFY(state->isChecked());
-    QCOMPARE(state->text(), text("Show"));
-    QCOMPARE(state->size(), QSize(70, 30));
+    QVERIFY(cell<MyCheckBox>(StateRow, 0)->isChecked());
     auto *swatch = cell<MyPushButton>(ColorRow, 0);
     QCOMPARE(swatch->palette().button().color(), QColor(10, 20, 30));
-    QVERIFY(swatch->autoFillBackground() && swatch->isFlat());
     QCOMPARE(swatch->grab().toImage().pixelColor(swatch->rect().center()), QColor(10, 20, 30));
-    auto *width = cell<MyComboBox>(WidthRow, 0);
-    QCOMPARE(width->currentText(), text("2"));
-    QCOMPARE(width->minimumHeight(), 30);
-    QCOMPARE(width->maximumHeight(), 30);
+    QCOMPARE(cell<MyComboBox>(WidthRow, 0)->currentText(), text("2"));
 }
 
 void TestManagerGraph::editsAtOnce()
@@ -142,54 +130,35 @@ void TestManagerGraph::editsAtOnce()
     cell<MyCheckBox>(StateRow, 0)->click();
     cell<MyCheckBox>(StateRow, 1)->click();
     QVERIFY(curve(1)->isHidden() && !curve(2)->isHidden());
-    cell<MyComboBox>(WidthRow, 1)->setCurrentIndex(4);
-    QCOMPARE(curve(2)->lineWidth(), 5);
-    QCOMPARE(curve(1)->lineWidth(), 2);
-}
 
-void TestManagerGraph::offersWidths()
-{
     auto *width = cell<MyComboBox>(WidthRow, 0);
-    QStringList texts;
-    for (int i = 0; i < width->count(); ++i)
-        texts.append(width->itemText(i));
-    QCOMPARE(texts.join(QLatin1Char(' ')), text("1 2 3 4 5 6 9 8 9"));
-    width->setCurrentIndex(6);
-    QCOMPARE(curve(1)->lineWidth(), 9);
-    width->setCurrentIndex(7);
-    QCOMPARE(curve(1)->lineWidth(), 8);
-    width->setCurrentIndex(8);
-    QCOMPARE(curve(1)->lineWidth(), 9);
-}
-
-void TestManagerGraph::asksForColor_data()
-{
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("chosen") << true;
-    QTest::newRow("cancelled") << false;
+    QList<int> widths;
+    for (int i = width->count() - 1; i >= 0; --i) {
+        width->setCurrentIndex(i);
+        widths.append(curve(1)->lineWidth());
+    }
+    QCOMPARE(widths, QList<int>({9, 8, 9, 6, 5, 4, 3, 2, 1}));
+    QCOMPARE(curve(2)->lineWidth(), 2);
 }
 
 void TestManagerGraph::asksForColor()
 {
-    QFETCH(const bool, accepted);
     auto *swatch = cell<MyPushButton>(ColorRow, 0);
-    const QSignalSpy chosen(swatch, &MyPushButton::selectColor);
-    QColor first;
-    const ModalScript script({[&](QWidget *window) {
-        auto *dialog = qobject_cast<QColorDialog *>(window);
-        QVERIFY(dialog);
-        first = dialog->currentColor();
-        dialog->setCurrentColor(QColor(200, 0, 0));
-        static_cast<QDialog *>(dialog)->done(accepted ? QDialog::Accepted : QDialog::Rejected);
-    }});
-    swatch->click();
-    QVERIFY(script.isDone());
-    QCOMPARE(first, QColor(Qt::white));
-    QCOMPARE(chosen.size(), accepted ? 1 : 0);
-    const QColor expected = accepted ? QColor(200, 0, 0) : QColor(10, 20, 30);
-    QCOMPARE(curve(1)->color(), expected);
-    QCOMPARE(swatch->palette().button().color(), expected);
-    QVERIFY(curve(2)->color() != expected);
+    const QColor before = curve(1)->color();
+    for (const bool accepted : {false, true}) {
+        const ModalScript script({[accepted](QWidget *window) {
+            auto *dialog = qobject_cast<QColorDialog *>(window);
+            QVERIFY(dialog);
+            QCOMPARE(dialog->currentColor(), QColor(Qt::white));
+            dialog->setCurrentColor(QColor(200, 0, 0));
+            static_cast<QDialog *>(dialog)->done(accepted);
+        }});
+        swatch->click();
+        QVERIFY(script.isDone());
+        const QColor expected = accepted ? QColor(200, 0, 0) : before;
+        QCOMPARE(curve(1)->color(), expected);
+        QCOMPARE(swatch->palette().button().color(), expected);
+    }
 }
 
 void TestManagerGraph::restoresEverything()
@@ -220,13 +189,10 @@ void TestManagerGraph::writesNamesBack_data()
     QTest::addColumn<Steps>("answers");
     QTest::addColumn<QString>("names");
     QTest::addColumn<bool>("closed");
-    QTest::newRow("untouched") << text("F1|F2|F3") << Steps() << text("F1|F2|F3") << true;
-    QTest::newRow("edited") << text("A|F2|C") << Steps() << text("A|F2|C") << true;
+    QTest::newRow("untouched or emptied") << text("F1||F3") << Steps() << text("F1|F2|F3") << true;
     QTest::newRow("two curves swap names")
         << text("F2|F1|F3") << Steps() << text("F2|F1|F3") << true;
-    QTest::newRow("a taken name is refused")
-        << text("F1|F3|F3") << Steps{rename("B")} << text("F1|B|F3") << true;
-    QTest::newRow("and refused again")
+    QTest::newRow("a taken name is refused, and again")
         << text("F1|F3|F3") << Steps{rename("F1"), rename("B")} << text("F1|B|F3") << true;
     QTest::newRow("cancelled: back to the table")
         << text("A|F3|F3") << Steps{rename(nullptr)} << text("F1|F2|F3") << false;
@@ -252,26 +218,16 @@ void TestManagerGraph::writesNamesBack()
     QCOMPARE(resized.size(), closed ? 1 : 0);
 }
 
-void TestManagerGraph::keepsNamesFromBeingEmptied()
-{
-    table()->item(DescriptionRow, 1)->setText(QString());
-    QCOMPARE(table()->item(DescriptionRow, 1)->text(), text("F2"));
-}
-
 void TestManagerGraph::opensFromTheView()
 {
     m_dialog->hide();
-    QString title;
-    int columns = 0;
-    const ModalScript script({[&](QWidget *window) {
-        title = window->windowTitle();
-        columns = window->findChild<QTableWidget *>(text("tableWidget"))->columnCount();
-        window->findChild<QPushButton *>(text("pushButtonOK"))->click();
+    const ModalScript script({[](QWidget *window) {
+        QCOMPARE(window->windowTitle(), text("Manage Graph"));
+        QCOMPARE(window->findChild<QTableWidget *>(text("tableWidget"))->columnCount(), 3);
+        window->close();
     }});
     QVERIFY(QMetaObject::invokeMethod(m_view.get(), "managerGraphicsSlot"));
     QVERIFY(script.isDone());
-    QCOMPARE(title, text("Manage Graph"));
-    QCOMPARE(columns, 3);
 }
 
 MZ_TEST_MAIN(TestManagerGraph)

@@ -8,9 +8,7 @@ class TestParaTableText : public QObject
 private slots:
     void fillsTheFloatingTable();
     void fillsTheFrequencyTable();
-    void marksCrossPolarData_data();
     void marksCrossPolarData();
-    void printsUndefinedRatios_data();
     void printsUndefinedRatios();
 };
 
@@ -61,46 +59,28 @@ void TestParaTableText::fillsTheFrequencyTable()
     QCOMPARE(amplitudeCell(sampleInfo()), QStringLiteral("10.0000"));
 }
 
-void TestParaTableText::marksCrossPolarData_data()
-{
-    QTest::addColumn<double>("ratio");
-    QTest::addColumn<QString>("cell");
-    QTest::newRow("no data") << 255.0 << QStringLiteral("nan");
-    QTest::newRow("just within") << 255.0000009 << QStringLiteral("nan");
-    QTest::newRow("just outside") << 254.9999 << QStringLiteral("254.9999");
-    QTest::newRow("a ratio") << -25.5 << QStringLiteral("-25.5000");
-}
-
 void TestParaTableText::marksCrossPolarData()
 {
-    QFETCH(const double, ratio);
-    ParaInfo info;
-    info.crossPolarRatio.second = ratio;
-    QTEST(frequencyTableCells(info, {}).last(), "cell");
-}
-
-void TestParaTableText::printsUndefinedRatios_data()
-{
-    QTest::addColumn<double>("gain");
-    QTest::addColumn<double>("back");
-    QTest::addColumn<QString>("floating");
-    QTest::addColumn<QString>("frequency");
-    const QString nan = QStringLiteral("nan");
-    QTest::newRow("equal levels") << 5.0 << 5.0 << QStringLiteral("inf") << QStringLiteral("-inf");
-    QTest::newRow("gain below the back lobe") << -5.0 << 5.0 << nan << nan;
-    QTest::newRow("back lobe at 0")
-        << 10.0 << 0.0 << QStringLiteral("0.00") << QStringLiteral("20.0000");
+    QStringList cells;
+    for (const double ratio : {255.0, 255.0000009, 254.9999, -25.5}) {
+        ParaInfo info;
+        info.crossPolarRatio.second = ratio;
+        cells.append(frequencyTableCells(info, {}).last());
+    }
+    QCOMPARE(cells, texts({"nan", "nan", "254.9999", "-25.5000"}));
 }
 
 void TestParaTableText::printsUndefinedRatios()
 {
-    QFETCH(const double, gain);
-    QFETCH(const double, back);
-    ParaInfo info;
-    info.gain.second = gain;
-    info.backLobe.second = back;
-    QTEST(floatingTableCells(info)[8].level, "floating");
-    QTEST(frequencyTableCells(info, {})[5], "frequency");
+    const auto ratios = [](double gain, double back) {
+        ParaInfo info;
+        info.gain.second = gain;
+        info.backLobe.second = back;
+        return QStringList{floatingTableCells(info)[8].level, frequencyTableCells(info, {})[5]};
+    };
+    QCOMPARE(ratios(5, 5), texts({"inf", "-inf"}));
+    QCOMPARE(ratios(-5, 5), texts({"nan", "nan"}));
+    QCOMPARE(ratios(10, 0), texts({"0.00", "20.0000"}));
 }
 
 MZ_TEST_GUILESS_MAIN(TestParaTableText)
