@@ -55,7 +55,10 @@ void PatternWindow::connectActions()
     connect(ui->actionQuit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
     connect(ui->actionAboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);
     connect(ui->actionFit, &QAction::triggered, ui->listChart, &ListChart::fitToData);
-    connect(ui->actionSymmetry, &QAction::triggered, ui->listChart, &ListChart::setSymmetry);
+    connect(ui->actionSymmetry, &QAction::triggered, ui->listChart,
+            [this] { ui->listChart->setSymmetry(true); });
+    connect(ui->actionUndoSymmetry, &QAction::triggered, ui->listChart,
+            [this] { ui->listChart->setSymmetry(false); });
     connect(ui->actionParameterLines, &QAction::toggled, ui->listChart,
             &ListChart::setParameterLines);
     connect(ui->actionManageCurves, &QAction::triggered, ui->listChart, &ListChart::manageCurves);
@@ -110,8 +113,9 @@ void PatternWindow::updateActions()
     const bool any = !form().curves().ids().isEmpty();
     const bool selected = form().curves().selected() != 0;
     const bool losses = selected && !LossCorrection::tableName().isEmpty();
-    for (QAction *action : {ui->actionSavePicture, ui->actionSaveReport, ui->actionPrint,
-                            ui->actionCopyParameters, ui->actionSymmetry, ui->actionManageCurves})
+    for (QAction *action :
+         {ui->actionSavePicture, ui->actionSaveReport, ui->actionPrint, ui->actionCopyParameters,
+          ui->actionSymmetry, ui->actionUndoSymmetry, ui->actionManageCurves})
         action->setEnabled(any);
     for (QAction *action : {ui->actionSaveCurve, ui->actionCopyCurve, ui->actionRemoveCurve})
         action->setEnabled(selected);

@@ -1,6 +1,8 @@
 #include "2d/curvetext.h"
 #include "2d/graphicsbase.h"
 #include "2d/listchart.h"
+#include "2d/mypathitem.h"
+#include "2d/pathinfo.h"
 #include "modaldialogs.h"
 #include "patterns/curveimport.h"
 #include "patterns/patternwindow.h"
@@ -96,6 +98,7 @@ private slots:
     void curveTravelsBetweenWindows();
     void windowsShareRecentFiles();
     void actionsFollowTheSelection();
+    void viewActionsReachBothCharts();
     void closedWindowIsGone();
     void commandLineOfTheProgram_data();
     void commandLineOfTheProgram();
@@ -386,6 +389,29 @@ void TestPatternWindow::actionsFollowTheSelection()
     QVERIFY(curves().ids().isEmpty());
     QVERIFY(!action("actionSaveCurve").isEnabled());
     QVERIFY(!action("actionSaveReport").isEnabled());
+}
+
+void TestPatternWindow::viewActionsReachBothCharts()
+{
+    m_window->openFiles({sample(QStringLiteral("horn.csv"))});
+    const QList<GraphicsBase *> views{&m_window->form().polarChart(),
+                                      &m_window->form().cartesianChart()};
+    const auto drawn = [](const GraphicsBase *view) {
+        return view->paths().value(1)->pathItem()->drawnPoints();
+    };
+    QVector<QList<QPointF>> before;
+    for (const GraphicsBase *view : views)
+        before.append(drawn(view));
+    action("actionSymmetry").trigger();
+    for (int i = 0; i < views.size(); ++i)
+        QVERIFY(drawn(views.at(i)) != before.at(i));
+    QCOMPARE(curves().points(1).first(), QPointF(-180, -60));
+    action("actionUndoSymmetry").trigger();
+    for (int i = 0; i < views.size(); ++i)
+        QCOMPARE(drawn(views.at(i)), before.at(i));
+    action("actionParameterLines").setChecked(true);
+    for (const GraphicsBase *view : views)
+        QVERIFY(view->parameterLinesVisible());
 }
 
 void TestPatternWindow::closedWindowIsGone()
