@@ -71,8 +71,8 @@ void TestCurveText::writesTheLayout()
     QCOMPARE(CurveText::toClipboard(QStringLiteral("F1"), points),
              QStringLiteral("F1\nAngle,Power\n0,-3.5\n90,12\n"));
     // A title or name of two lines would shift all lines below it.
-    QCOMPARE(CurveText::toFile(QStringLiteral("a\nb"), QStringLiteral("c\nd"), {}),
-             QByteArray("a b\nc d\nAngle,Power\n"));
+    QCOMPARE(CurveText::toFile(QStringLiteral("a\nb"), QStringLiteral("天\n线"), {}),
+             QByteArray("a b\n天 线\nAngle,Power\n"));
 }
 
 /// The figures that a reader of the files sees; anyDoubleSurvives() asks Qt about all others.
@@ -144,11 +144,6 @@ void TestCurveText::readsFiles_data()
         << fileWith("\n0,-3.5\n7\n\n90,12\n\n") << name << points;
     QTest::newRow("fields that are no numbers") << fileWith(",5\n5,\nAntenna,horn\n1,2,\n") << name
                                                 << Points{{0, 5}, {5, 0}, {0, 0}, {1, 2}};
-    QTest::newRow("NaN and infinities")
-        << fileWith("nan,1\n0,-3.5\n1,inf\n-inf,2\n1,1e999\n90,12\n") << name << points;
-    QTest::newRow("decimal commas") << fileWith("0,5;-3,2\n") << name << Points{{0, 0}};
-    QTest::newRow("name in Chinese") << QStringLiteral("图\n天线 一\nAngle,Power\n1,2\n").toUtf8()
-                                     << QStringLiteral("天线 一") << Points{{1, 2}};
     const QString text = QString::fromLatin1(plain);
     QByteArray wide("\xFF\xFE", 2);
     for (const QChar c : text)
@@ -167,15 +162,10 @@ void TestCurveText::readsFiles()
 
 void TestCurveText::refusesFiles()
 {
-    const QVector<QByteArray> files{{},
-                                    "Angle,Power",
-                                    "T\nAngle,Power\n",
-                                    "T\nF1\nangle,power\n0,1\n",
-                                    "T\nF1\nAngle,Level\n0,1\n",
-                                    "T\nF1\n\nAngle,Power\n0,1\n"};
-    for (const QByteArray &bytes : files) {
-        const Curve curve = CurveText::fromFile(bytes);
-        QVERIFY2(curve.status == Status::WrongHeader && curve.points.isEmpty(), bytes.constData());
+    for (const char *bytes :
+         {"", "T\nAngle,Power\n", "T\nF1\nangle,power\n0,1\n", "T\nF1\nAngle,Level\n0,1\n"}) {
+        const Curve curve = CurveText::fromFile(QByteArray(bytes));
+        QVERIFY2(curve.status == Status::WrongHeader && curve.points.isEmpty(), bytes);
     }
 }
 
@@ -197,7 +187,6 @@ void TestCurveText::readsPastedText_data()
     row("a second header is text", "F1\nAngle,Power\n0,-3.5\nAngle,Power\n", name,
         {{0, -3.5}, {0, 0}});
     row("spreadsheet", "F1\t\nAngle\tPower\n0\t-3.5\n90\t12\n", name, points);
-    row("spreadsheet's bare columns", "0\t-3.5\n90\t12\n", {}, points);
     row("spreadsheet with decimal commas", "F1\t\n0\t-3,5\n90\t12\n", name, points);
     row("some sentence", "Antennas\nare nice", QStringLiteral("Antennas"), {}, Status::NoCurve);
     row("addresses of dropped files", "file:///a,b.csv\nfile:///c,d.csv",

@@ -79,18 +79,7 @@ void TestPatternAnalysis::findsFigures_data()
     const auto row = [](const char *name, const Points &points, int figure, Pair expected) {
         QTest::newRow(name) << points << figure << expected;
     };
-    enum {
-        Gain,
-        HalfLeft,
-        HalfRight,
-        NullLeft,
-        NullRight,
-        LobeLeft,
-        LobeRight,
-        Back,
-        Axial,
-        Cross
-    };
+    enum { Gain, HalfLeft, HalfRight, NullLeft, NullRight, LobeLeft, LobeRight, Back, Axial };
 
     const Points lobes = every10Degrees({-9, -4, -12, -6, 0, -6, -13, -5, -8}, -40);
     row("gain", lobes, Gain, {0, 0});
@@ -102,7 +91,6 @@ void TestPatternAnalysis::findsFigures_data()
     row("side lobe right", lobes, LobeRight, {30, -5});
     row("no back lobe in a half circle", lobes, Back, {-100, -100});
     row("axial ratio", lobes, Axial, {0, 13});
-    row("cross-polar ratio stays open", lobes, Cross, {0, 0});
 
     const Points falling = every10Degrees({0, -4, -9, -6, -12});
     row("peak first: null left is the peak", falling, NullLeft, {0, 0});
@@ -117,6 +105,7 @@ void TestPatternAnalysis::findsFigures_data()
 
     const Points early = every10Degrees({-40, 0, -40, -50});
     row("crossing left of index 1 is interpolated", early, HalfLeft, {9.25, -3});
+    row("crossing at index 2 is interpolated", early, HalfRight, {10.75, -3});
     const Points flatPeak = {{-10, -20}, {0, -20}, {0, 0}, {10, -20}};
     row("equal angles are not interpolated", flatPeak, HalfLeft, {0, -3});
     row("crossing right at index 1 is that point's angle", every10Degrees({0, -40, -41}), HalfRight,
@@ -128,6 +117,12 @@ void TestPatternAnalysis::findsFigures_data()
         every10Degrees({-3, -12, -5, -20, -4, -12, 0, -12}), LobeLeft, {0, -3});
     row("a level left of the peak does not mislead the right one",
         every10Degrees({-3, -12, -5, 0, -12, -4, -20}), LobeRight, {50, -4});
+
+    const Points plateaus = every10Degrees({-3, -5, -5, -12, -12, 0, -12, -12, -5, -5, -3});
+    row("equal levels end the fall to the left null", plateaus, NullLeft, {40, -12});
+    row("equal levels end the fall to the right null", plateaus, NullRight, {60, -12});
+    row("equal levels end the rise to the left side lobe", plateaus, LobeLeft, {20, -5});
+    row("equal levels end the rise to the right side lobe", plateaus, LobeRight, {80, -5});
 
     row("back of a peak at 0 is +180", {{-180, -30}, {0, 0}, {180, -20}}, Back, {180, -20});
     row("back of a peak at 10 is -170", {{-180, -30}, {-160, -10}, {10, 0}}, Back, {-170, -20});
