@@ -16,11 +16,12 @@
 
 namespace {
 
-QVector<QPointF> cosinePattern(double peak, double floor, double from, double to)
+QVector<QPointF> cosinePattern(double peak, double floor, int from, int to)
 {
     QVector<QPointF> points;
-    for (double angle = from; angle <= to; angle += 1.0)
-        points.append({angle, floor + (peak - floor) * std::abs(std::cos(angle / 57.2957795))});
+    for (int angle = from; angle <= to; ++angle)
+        points.append(
+            {double(angle), floor + (peak - floor) * std::abs(std::cos(angle / 57.2957795))});
     return points;
 }
 
