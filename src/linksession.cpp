@@ -7,7 +7,6 @@
 #include <QDebug>
 #include <QTimer>
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -87,10 +86,12 @@ bool LinkSession::queryInstrument()
         &SerialLogic::queryIDN,          &SerialLogic::queryFrequency,
         &SerialLogic::queryAverageCount, &SerialLogic::queryMeasureState,
         &SerialLogic::queryOffset,       &SerialLogic::queryPowerUnit};
-    return std::all_of(queries.begin(), queries.end(), [this](Query query) {
+    for (const Query query : queries) {
         (m_link->*query)();
-        return m_state == State::Opening; // otherwise an error has ended it
-    });
+        if (m_state != State::Opening)
+            return false; // an error has ended it
+    }
+    return true;
 }
 
 bool LinkSession::failOpening(const QString &port, int value)

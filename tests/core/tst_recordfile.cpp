@@ -154,6 +154,8 @@ void TestRecordFile::failureIsLogged()
     QFETCH(QString, message);
     if (path == QStringLiteral("/dev/full") && !QFile::exists(path))
         QSKIP("this system has no device that is always full");
+    if (path == QStringLiteral("/dev/full")) // what Qt says of appending to a device
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("sequential")));
     QTest::ignoreMessage(type, QRegularExpression(message));
     RecordFile::append(path, QStringLiteral("row\n"));
 }
