@@ -96,7 +96,6 @@ void MainWindow::begin(const StartOptions &options)
 }
 
 // --- Assembly
-// -------------------------------------------------------------------------------------
 
 void MainWindow::connectLink()
 {
@@ -138,7 +137,6 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 }
 
 // --- The link
-// -------------------------------------------------------------------------------------
 
 bool MainWindow::openPort(const QString &port, const int &baudRate)
 {
@@ -223,7 +221,6 @@ void MainWindow::on_actionCommunication_by_LAN_triggered(bool checked)
 }
 
 // --- The settings panel
-// ---------------------------------------------------------------------------
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
@@ -337,7 +334,6 @@ void MainWindow::updateRelState(QString state)
 }
 
 // --- Zeroing and calibration
-// ----------------------------------------------------------------------
 
 void MainWindow::on_btnSetZero_clicked()
 {
@@ -407,7 +403,6 @@ void MainWindow::updateCalibrationFailed()
 }
 
 // --- Readings, chart and records
-// ------------------------------------------------------------------
 
 void MainWindow::readValue()
 {
@@ -466,7 +461,6 @@ void MainWindow::on_btnPath_clicked()
 }
 
 // --- Settings file, language and help
-// -------------------------------------------------------------
 
 void MainWindow::writeSettings() const
 {
