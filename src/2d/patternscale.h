@@ -12,9 +12,9 @@ struct AxisScale
 };
 
 /// The level axis that shows \a curves sensibly at first sight: round ends and round ticks, every
-/// peak inside, and of each curve between 30 and 40 dB below its peak. So one deep null does not press
-/// all patterns against the rim, and an almost round one looks almost round. -40 to 0 without any
-/// point.
+/// peak inside, and of each curve between 30 and 40 dB below its peak. So one deep null does not
+/// press all patterns against the rim, and an almost round one looks almost round. -40 to 0 without
+/// any point.
 AxisScale levelScale(const QVector<QVector<QPointF>> &curves);
 
 /// The angle axis that shows \a curves: the half circle, the circle from -180 or from 0 degrees, or
