@@ -121,7 +121,8 @@ void drawPage(QPainter &painter, QTextDocument &book, int page, double scale)
     const QSizeF size = book.pageSize();
     painter.save();
     painter.translate(0.0, -page * size.height());
-    const QRectF shown(QPointF(0.0, page * size.height()), size);
+    // Half a pixel less: pictures at the head of a page reach over its edge by their rounding.
+    const QRectF shown(0.0, page * size.height(), size.width(), size.height() - 0.5 * scale);
     painter.setClipRect(shown);
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = shown;

@@ -189,6 +189,14 @@ void breakBefore(const QTextBlock &block)
     layOutAgain(*cursor.document());
 }
 
+/// What \a block needs on its page: a heading what follows too, a picture itself.
+double roomNeeded(const QTextBlock &block, const Pages &pages, double scale)
+{
+    if (block.blockFormat().headingLevel() > 1)
+        return std::max(pages.heightOf(block) + pages.heightOf(block.next()), headingRoom * scale);
+    return holdsPicture(block) ? pages.heightOf(block) : 0.0;
+}
+
 void keepTableTogether(QTextTable &table, const Pages &pages, double scale)
 {
     const QTextBlock first = table.firstCursorPosition().block();
@@ -251,9 +259,7 @@ void keepTogether(QTextDocument &document, double scale)
         QTextTable *table = QTextCursor(block).currentTable();
         const bool isNewTable = table && table != current;
         current = table;
-        const bool isHeading = block.blockFormat().headingLevel() > 1;
-        const double needed = pages.heightOf(block) + pages.heightOf(block.next());
-        if (isHeading && pages.roomAt(block) < std::max(needed, headingRoom * scale))
+        if (pages.roomAt(block) < roomNeeded(block, pages, scale))
             breakBefore(block);
         else if (isNewTable)
             keepTableTogether(*table, pages, scale);
