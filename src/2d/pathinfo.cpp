@@ -255,7 +255,7 @@ void PathInfo::placeDisplayItem()
     const QRectF area = m_drawnMapping.plotArea;
     const QPointF *highest = nullptr;
     for (const QPointF &position : positions) {
-        if (area.contains(position) && (!highest || position.y() < highest->y()))
+        if ((!highest || position.y() < highest->y()) && area.contains(position))
             highest = &position;
     }
     m_displayItem->setAnchor(highest ? *highest : area.center(), area);
