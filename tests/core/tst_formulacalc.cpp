@@ -9,11 +9,9 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <functional>
 #include <iterator>
-#include <limits>
 
 using LossMap = QMap<double, double>;
 
@@ -72,9 +70,27 @@ struct Cell
 };
 
 constexpr Cell cells[] = {
-    {"1.25", 1.25}, {"-0.5", -0.5},   {" 2 ", 2.0}, {"+3", 3.0},  {"4e2", 400.0},
-    {"0.1", 0.1},   {".5", 0.5},      {"7.", 7.0},  {"", 0.0},    {"n/a", 0.0},
-    {"1-2", 0.0},   {"\"5.0\"", 0.0}, {"nan", 0.0}, {"inf", 0.0}, {"12dB", 0.0},
+    {"1.25", 1.25},
+    {"-0.5", -0.5},
+    {" 2 ", 2.0},
+    {"+3", 3.0},
+    {"4e2", 400.0},
+    {"0.1", 0.1},
+    {".5", 0.5},
+    {"7.", 7.0},
+    {"", 0.0},
+    {"n/a", 0.0},
+    {"1-2", 0.0},
+    {"\"5.0\"", 0.0},
+    {"nan", 0.0},
+    {"inf", 0.0},
+    {"12dB", 0.0},
+    {"-", 0.0},
+    {"--1", 0.0},
+    {"1..2", 0.0},
+    {"9007199254740993", 9007199254740992.0},
+    {"0.30000000000000004441", 0.30000000000000004441},
+    {"00000000000000000000000000000000012.5", 12.5},
 };
 
 } // namespace
@@ -86,18 +102,13 @@ class TestFormulaCalc : public QObject
 private slots:
     void lookup_data();
     void lookup();
-    void lookupEqualsTheWalk_data();
     void lookupEqualsTheWalk();
     void lookupWarnsOfASingleKey();
     void category_data();
     void category();
     void files_data();
     void files();
-    void cellsReadAsNumbers_data();
-    void cellsReadAsNumbers();
     void randomTables();
-    void bigTable();
-    void unreadableFileKeepsTheTable_data();
     void unreadableFileKeepsTheTable();
     void documentedExample();
 
@@ -123,20 +134,14 @@ void TestFormulaCalc::lookup_data()
     QTest::addColumn<double>("frequency");
     QTest::addColumn<double>("loss");
     const LossMap table{{700, 1.0}, {800, 2.0}, {1000, 6.0}};
-    const double nan = std::numeric_limits<double>::quiet_NaN();
 
     QTest::newRow("no table") << LossMap() << 700.0 << 0.0;
-    QTest::newRow("tabulated") << table << 800.0 << 2.0;
-    QTest::newRow("only tabulated frequency") << LossMap{{700, 1.5}} << 700.0 << 1.5;
     QTest::newRow("between two") << table << 750.0 << 1.5;
     QTest::newRow("above the table") << table << 1100.0 << 8.0;
     QTest::newRow("below the table") << table << 650.0 << 0.5;
     QTest::newRow("tabulated at 0") << LossMap{{0, 3.0}, {10, 4.0}} << 0.0 << 3.0;
-    QTest::newRow("next to 0 lies on the same line")
-        << LossMap{{0, 1}, {10, 2}, {20, 9}} << 5.0 << 1.5;
     // The key above is 0 and counts as missing, so that the two largest keys decide.
     QTest::newRow("below a key of 0") << LossMap{{-10, 1}, {0, 2}, {10, 9}} << -5.0 << -1.5;
-    QTest::newRow("not a frequency") << table << nan << nan;
 }
 
 void TestFormulaCalc::lookup()
@@ -145,38 +150,32 @@ void TestFormulaCalc::lookup()
     QFETCH(double, frequency);
     QFETCH(double, loss);
     const double found = m_calc->getValueFromMap(frequency, map);
-    QVERIFY2(std::isnan(loss) ? std::isnan(found) : qAbs(found - loss) < 1e-12,
-             qPrintable(QString::number(found)));
-}
-
-void TestFormulaCalc::lookupEqualsTheWalk_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("lowest");  // of the keys, which are whole numbers ...
-    QTest::addColumn<double>("unit"); // ... of this unit
-    QTest::newRow("two keys") << 2 << 700 << 1.0;
-    QTest::newRow("few keys about 0") << 5 << -6 << 1.0;
-    QTest::newRow("keys from 0 up") << 20 << 0 << 0.1;
-    QTest::newRow("frequencies in Hz") << 200 << 1 << 1e6 / 3;
+    QVERIFY2(qAbs(found - loss) < 1e-12, qPrintable(QString::number(found)));
 }
 
 void TestFormulaCalc::lookupEqualsTheWalk()
 {
-    QFETCH(int, size);
-    QFETCH(int, lowest);
-    QFETCH(double, unit);
-    QRandomGenerator random{quint32(size)};
-    for (int round = 0; round < 50; ++round) {
-        LossMap map;
-        while (map.size() < size)
-            map.insert((lowest + random.bounded(3 * size)) * unit, random.bounded(100.0) - 50);
-        for (int query = 0; query < 100; ++query) {
-            const bool tabulated = query % 4 == 0;
-            const double frequency = (lowest - size + random.bounded(5 * size)) * unit +
-                                     (tabulated ? 0.0 : random.bounded(unit));
-            const double found = m_calc->getValueFromMap(frequency, map);
-            QVERIFY2(sameBits(found, walk(frequency, map)),
-                     qPrintable(QStringLiteral("round %1 at %2").arg(round).arg(frequency)));
+    // Whole multiples of a unit: about 0, from 0 up, and frequencies in Hz.
+    struct Keys
+    {
+        int count;
+        int lowest;
+        double unit;
+    };
+    QRandomGenerator random(6218);
+    for (const Keys &keys : {Keys{2, 700, 1}, {5, -6, 1}, {20, 0, 0.1}, {200, 1, 1e6 / 3}}) {
+        for (int round = 0; round < 50; ++round) {
+            LossMap map;
+            while (map.size() < keys.count)
+                map.insert((keys.lowest + random.bounded(3 * keys.count)) * keys.unit,
+                           random.bounded(100.0) - 50);
+            for (int query = 0; query < 100; ++query) {
+                const int step = keys.lowest - keys.count + random.bounded(5 * keys.count);
+                const double off = query % 4 ? random.bounded(keys.unit) : 0.0;
+                const double frequency = step * keys.unit + off;
+                QVERIFY2(sameBits(m_calc->getValueFromMap(frequency, map), walk(frequency, map)),
+                         qPrintable(QString::number(frequency, 'g', 17)));
+            }
         }
     }
 }
@@ -192,10 +191,8 @@ void TestFormulaCalc::category_data()
     QTest::addColumn<QString>("category");
     QTest::addColumn<double>("loss");
     QTest::newRow("radiated power") << "TRP" << 1.0;
-    QTest::newRow("sensitivity") << "TIS" << 5.0;
     QTest::newRow("within other text, small letters") << "lte tis b7" << 5.0;
     QTest::newRow("both: radiated power first") << "TIS/TRP" << 1.0;
-    QTest::newRow("neither") << "EIRP" << 0.0;
 }
 
 void TestFormulaCalc::category()
@@ -221,7 +218,6 @@ void TestFormulaCalc::files_data()
     QTest::newRow("losses of a path add up") << example << up << down;
     QTest::newRow("Windows line ends") << QByteArray(example).replace("\n", "\r\n") << up << down;
     QTest::newRow("byte-order mark") << "\xEF\xBB\xBF" + example << up << down;
-    QTest::newRow("last line without an end") << example.chopped(1) << up << down;
     QTest::newRow("comments and blank lines")
         << "\xE6\x8D\x9F\xE8\x80\x97\n\n" + example + "\n,,,,9,9,9\n"
         << up << down;
@@ -233,24 +229,15 @@ void TestFormulaCalc::files_data()
     QTest::newRow("word in quotes is no heading, a path in quotes is one")
         << QByteArray("\"category\",,,,600\ncategory,,,,700,800\n,\"upside\",,,\"1\",2\n")
         << LossMap{{700, 0}, {800, 2}} << zeros;
-    QTest::newRow("a row feeds both paths")
-        << QByteArray("category,,,,700,800\nupside,downside,,,1,2\n") << LossMap{{700, 1}, {800, 2}}
-        << LossMap{{700, 1}, {800, 2}};
     QTest::newRow("short, long and bare rows")
         << QByteArray("category,,,,700,800\nupside,,,,1\nupside,,,,1,2,3,4\nupside\nupside,,,\n")
         << LossMap{{700, 2}, {800, 2}} << zeros;
-    QTest::newRow("row before any heading")
-        << QByteArray(",upside,,,5,5\ncategory,,,,700,800\n") << zeros << zeros;
     QTest::newRow("later heading names the columns anew")
         << QByteArray("category,,,,700,800\n,upside,,,1,2\ncategory,,,,900\n,upside,,,4,8\n")
         << LossMap{{700, 1}, {800, 2}, {900, 4}} << LossMap{{700, 0}, {800, 0}, {900, 0}};
-    QTest::newRow("later heading starts its frequencies again")
-        << QByteArray("category,,,,700,800\n,upside,,,1,2\ncategory,,,,800\n")
-        << LossMap{{700, 1}, {800, 0}} << zeros;
     QTest::newRow("frequency named twice takes both columns")
         << QByteArray("category,,,,700,700\n,upside,,,1,2\n") << LossMap{{700, 3}}
         << LossMap{{700, 0}};
-    QTest::newRow("empty file") << QByteArray() << LossMap() << LossMap();
 }
 
 void TestFormulaCalc::files()
@@ -260,48 +247,6 @@ void TestFormulaCalc::files()
     load(text);
     QTEST(m_calc->upsideMap(), "up");
     QTEST(m_calc->downsideMap(), "down");
-}
-
-void TestFormulaCalc::cellsReadAsNumbers_data()
-{
-    QTest::addColumn<QString>("text");
-    for (const char *text : {"0",
-                             "-0",
-                             ".5",
-                             "-.5",
-                             "5.",
-                             "-",
-                             ".",
-                             "-.",
-                             "1..2",
-                             "1-2",
-                             "--1",
-                             "00012.50",
-                             "0.1",
-                             "3.14159265358979",
-                             "9007199254740993",
-                             "1e5",
-                             "1E-5",
-                             "2.5e+3",
-                             "0x10",
-                             "1 2",
-                             "\t7 ",
-                             "123456789012345678901234567890.123456789",
-                             "12345678901234567890123456789012",
-                             "0.30000000000000004441",
-                             "1.7976931348623157e308",
-                             "4.9e-324",
-                             "\xEF\xBC\x91"})
-        QTest::newRow(text) << QString::fromUtf8(text);
-}
-
-void TestFormulaCalc::cellsReadAsNumbers()
-{
-    QFETCH(QString, text);
-    load("category,,,," + text.toUtf8() + ",7\nupside,,,,0," + text.toUtf8() + '\n');
-    const double number = text.toDouble();
-    QVERIFY(m_calc->upsideMap().contains(number));
-    QVERIFY(sameBits(m_calc->upsideMap().value(7), 0.0 + number));
 }
 
 void TestFormulaCalc::randomTables()
@@ -337,37 +282,13 @@ void TestFormulaCalc::randomTables()
     }
 }
 
-void TestFormulaCalc::bigTable()
-{
-    constexpr int columns = 10000;
-    constexpr int rows = 100;
-    QByteArray text = "category,path,desc,unit";
-    QByteArray row = "\npart,upside,,dB";
-    for (int column = 0; column < columns; ++column) {
-        text += ',' + QByteArray::number(columns - column);
-        row += ',' + QByteArray::number((columns - column) * 0.25);
-    }
-    text += row.repeated(rows);
-    load(text);
-    QCOMPARE(m_calc->upsideMap().size(), columns);
-    for (const double frequency : {1.0, 5000.5, 10000.0, 20000.0})
-        QCOMPARE(m_calc->queryLossCompensation(QStringLiteral("TRP"), frequency),
-                 frequency * 0.25 * rows);
-}
-
-void TestFormulaCalc::unreadableFileKeepsTheTable_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("missing") << m_folder.filePath(QStringLiteral("none.csv"));
-    QTest::newRow("a folder") << m_folder.path();
-}
-
 void TestFormulaCalc::unreadableFileKeepsTheTable()
 {
     load("category,,,,700\n,upside,,,1.5\n");
-    QFETCH(QString, path);
-    QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("Open %1 failed!").arg(path)));
-    m_calc->queryLossCompensationFromFile(path);
+    for (const QString &path : {m_folder.filePath(QStringLiteral("none.csv")), m_folder.path()}) {
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("Open %1 failed!").arg(path)));
+        m_calc->queryLossCompensationFromFile(path);
+    }
     QCOMPARE(m_calc->upsideMap(), (LossMap{{700, 1.5}}));
 }
 
