@@ -62,10 +62,6 @@ void ConsoleSettings::save(const QString &path) const
 {
     // A full disk must not leave an empty file behind, which would read as Chinese and one minute.
     QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(toText());
-        if (!file.commit())
-            qWarning().noquote() << "Settings not written to" << path << ":" << file.errorString();
-    }
+    if (!file.open(QIODevice::WriteOnly) || file.write(toText()) < 0 || !file.commit())
+        qWarning().noquote() << "Settings not written to" << path << ":" << file.errorString();
 }

@@ -14,6 +14,7 @@ private slots:
     void anyFileIsRead();
     void whatIsWrittenIsReadBack();
     void unwritableFileIsNoSettings();
+    void oldFileSurvivesWithoutRoomForTheNew();
 };
 
 void TestConsoleSettings::anyFileIsRead_data()
@@ -95,6 +96,22 @@ void TestConsoleSettings::unwritableFileIsNoSettings()
         ConsoleSettings{QStringLiteral("en"), {}, {}, 1, 1}.save(path);
         QVERIFY2(!ConsoleSettings::load(path), qPrintable(path));
     }
+}
+
+void TestConsoleSettings::oldFileSurvivesWithoutRoomForTheNew()
+{
+    const QTemporaryDir place;
+    // No name is left for the file that is to take the old one's place.
+    const QString path = place.filePath(QString(250, QLatin1Char('c')));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("language:en\n");
+    file.close();
+
+    ConsoleSettings{QStringLiteral("cn"), {}, {}, 1, 1}.save(path);
+    const auto read = ConsoleSettings::load(path);
+    QVERIFY(read);
+    QCOMPARE(read->language, QStringLiteral("en"));
 }
 
 MZ_TEST_GUILESS_MAIN(TestConsoleSettings)
