@@ -14,7 +14,7 @@ declare -A sets=(
     # Pictures in SVG, Qt's own texts in Chinese, and fonts for both languages.
     [run]="libqt5svg5 qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
     [virtual]="xvfb xauth imagemagick"
-    [test]="xvfb xauth"
+    [test]="xvfb xauth xclip xdotool imagemagick"
     [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix git libclang-rt-dev llvm shellcheck"
     [pictures]="xvfb xauth imagemagick xdotool poppler-utils"
     [bench]="libqwt-qt5-dev libqcustomplot-dev"
