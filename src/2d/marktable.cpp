@@ -112,6 +112,7 @@ MarkTablePanel::MarkTablePanel(QGraphicsItem *parent)
 }
 
 // The table reacts to no mouse; were it handed the events, it would swallow what moves the panel.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 void MarkTablePanel::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     QGraphicsItem::mousePressEvent(event);
@@ -126,3 +127,4 @@ void MarkTablePanel::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
     QGraphicsItem::mouseReleaseEvent(event);
 }
+// NOLINTEND(bugprone-parent-virtual-call)

@@ -124,7 +124,8 @@ void MyMarkItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     m_grip = event->scenePos() - tip();
     m_listener.markPressed(*this);
-    event->accept();
+    // The release of a right press goes to the menu: the marker would hold the mouse for ever.
+    event->setAccepted(event->button() == Qt::LeftButton);
 }
 
 void MyMarkItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)

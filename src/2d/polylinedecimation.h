@@ -72,11 +72,12 @@ template<typename Draw>
 void forEachBand(const ThinnedLine &line, const ColumnStretch &stretch, double reach,
                  const QRectF &window, const Draw &draw)
 {
-    constexpr int columnsPerBand = 16;
+    constexpr std::size_t columnsPerBand = 16;
     constexpr int sharedColumns = 2; // with one the smoothed edges of both would show
     std::array<QPointF, 2 * columnsPerBand> outline;
-    for (int from = stretch.from; from < stretch.to; from += columnsPerBand - sharedColumns) {
-        const int count = std::min(columnsPerBand, stretch.to - from + 1);
+    constexpr int wholeBand = columnsPerBand;
+    for (int from = stretch.from; from < stretch.to; from += wholeBand - sharedColumns) {
+        const int count = std::min(wholeBand, stretch.to - from + 1);
         for (int i = 0; i < count; ++i) {
             const QLineF bar = columnBar(line, from + i, reach, window);
             outline[static_cast<std::size_t>(i)] = bar.p1();

@@ -52,7 +52,6 @@ private slots:
     void toggledTables();
     void obeysKeys_data();
     void obeysKeys();
-    void acceptsTextOnly();
 };
 
 void TestChartInteraction::zoomsOnlyInZoomMode()
@@ -195,27 +194,10 @@ void TestChartInteraction::enablesTheMenu()
     ChartBench bench(flat);
     QVERIFY(bench.ready);
     QApplication::clipboard()->clear();
-    const auto enabled = [&bench](ChartMenu::Entry entry) {
-        bool result = false;
-        bench.openMenu({50, -30},
-                       [&](ChartMenu &menu) { result = menu.entry(entry)->isEnabled(); });
-        return result;
-    };
     using Entry = ChartMenu::Entry;
-    QVERIFY(!enabled(Entry::Copy));
-    QVERIFY(!enabled(Entry::Paste));
-    QVERIFY(!enabled(Entry::Symmetry));
-    bench.view.updatePathSelection(1);
-    QVERIFY(enabled(Entry::Copy));
-    bench.chooseEntry({50, -30}, Entry::Copy);
-    QVERIFY(enabled(Entry::Paste));
-    QVERIFY(!enabled(Entry::ParameterTable));
-    bench.view.finishUpdateChart();
-    QVERIFY(enabled(Entry::ParameterTable));
-    QVERIFY(enabled(Entry::Symmetry));
-    bench.chooseEntry({50, -30}, Entry::ClearSelection);
-    QVERIFY(!enabled(Entry::ExportImage));
     bench.openMenu({50, -30}, [](ChartMenu &menu) {
+        for (const Entry entry : {Entry::Copy, Entry::Paste, Entry::DeleteMark, Entry::Symmetry})
+            QVERIFY(!menu.entry(entry)->isEnabled());
         for (const auto &[entry, name] :
              {std::pair(Entry::ExportData, "Export Graphics As CSV"),
               std::pair(Entry::ExportImage, "Export Graphics As Image"),
@@ -223,6 +205,15 @@ void TestChartInteraction::enablesTheMenu()
               std::pair(Entry::Reset, "Reset")})
             QCOMPARE(menu.entry(entry)->text(), text(name));
     });
+    bench.addMark(50);
+    bench.chooseEntry({50, -30}, Entry::Copy);
+    bench.view.finishUpdateChart();
+    bench.openMenu({50, -30}, [](ChartMenu &menu) {
+        for (const Entry entry : {Entry::Copy, Entry::Paste, Entry::DeleteMark, Entry::Symmetry})
+            QVERIFY(menu.entry(entry)->isEnabled());
+    });
+    bench.chooseEntry({50, -30}, Entry::ClearSelection);
+    QVERIFY(!bench.view.selectedPath());
 }
 
 void TestChartInteraction::endsModesWithTheMenu()
@@ -311,25 +302,6 @@ void TestChartInteraction::obeysKeys()
     QApplication::clipboard()->clear();
     QTest::keyClick(&bench.view, Qt::Key_C, Qt::ControlModifier);
     QVERIFY(QApplication::clipboard()->text().startsWith(text("A\nAngle,Power\n")));
-}
-
-void TestChartInteraction::acceptsTextOnly()
-{
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
-    for (const bool isText : {true, false}) {
-        QMimeData data;
-        if (isText)
-            data.setText(text("B\nAngle,Power\n0,1\n"));
-        else
-            data.setColorData(QColor(Qt::red));
-        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(bench.view.viewport(), &enter);
-        QCOMPARE(enter.isAccepted(), isText);
-        QDragMoveEvent move({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(bench.view.viewport(), &move);
-        QCOMPARE(move.isAccepted(), isText);
-    }
 }
 
 MZ_TEST_MAIN(TestChartInteraction)

@@ -6,6 +6,7 @@
 #include "modalscript.h"
 #include "testmain.h"
 
+#include <QGraphicsScene>
 #include <QHeaderView>
 #include <QLabel>
 
@@ -104,6 +105,11 @@ void TestChartMarkers::numbersMarkers()
     QCOMPARE(bench.view.selectedMark(), bench.mark(1));
     ChartProbe::click(bench.view, bench.mark(2)->pos());
     QCOMPARE(bench.view.selectedMark(), bench.mark(2));
+    ChartProbe::click(bench.view, bench.mark(1)->pos());
+    QTest::mousePress(bench.view.viewport(), Qt::RightButton, Qt::NoModifier,
+                      bench.mark(2)->pos().toPoint());
+    QCOMPARE(bench.view.selectedMark(), bench.mark(2));
+    QVERIFY(!bench.view.scene()->mouseGrabberItem()); // no release will come
     ChartProbe::click(bench.view, bench.mark(1)->pos());
     ChartProbe::run(bench.view, "deleteMarkSlot");
     QCOMPARE(bench.view.marks().keys(), (QList<int>{2}));

@@ -1,17 +1,12 @@
 #include "2d/chartmenustate.h"
 #include "2d/curvemaths.h"
 #include "2d/polylinedecimation.h"
-#include "2d/viewrange.h"
 #include "testmain.h"
 
-#include <QSet>
-
 #include <cmath>
-#include <limits>
 #include <random>
 
 using Points = QVector<QPointF>;
-Q_DECLARE_METATYPE(ViewRange)
 Q_DECLARE_METATYPE(ChartSituation)
 
 namespace {
@@ -52,13 +47,6 @@ class TestChartUnits : public QObject
 private slots:
     void interpolates_data();
     void interpolates();
-    void mirrors_data();
-    void mirrors();
-    void scalesAboutAPoint();
-    void followsTime_data();
-    void followsTime();
-    void autoscales_data();
-    void autoscales();
     void keepsExtremesOfEveryColumn();
     void thinsWithoutMovingPoints_data();
     void thinsWithoutMovingPoints();
@@ -103,96 +91,6 @@ void TestChartUnits::interpolates()
     QCOMPARE(result.has_value(), found);
     if (found)
         QCOMPARE(*result, y);
-}
-
-void TestChartUnits::mirrors_data()
-{
-    QTest::addColumn<QPointF>("from");
-    QTest::addColumn<QPointF>("to");
-    QTest::addColumn<QPointF>("point");
-    QTest::addColumn<QPointF>("image");
-
-    const QPointF origin(0, 0);
-    QTest::newRow("falling diagonal")
-        << QPointF(-1, 1) << origin << QPointF(10, -20) << QPointF(20, -10);
-    QTest::newRow("falling diagonal, y axis")
-        << QPointF(-1, 1) << origin << QPointF(0, 5) << QPointF(-5, 0);
-    QTest::newRow("point on the line")
-        << QPointF(-1, 1) << origin << QPointF(3, -3) << QPointF(3, -3);
-    QTest::newRow("rising line off the origin")
-        << QPointF(0, 1) << QPointF(1, 2) << QPointF(0, 3) << QPointF(2, 1);
-}
-
-void TestChartUnits::mirrors()
-{
-    QFETCH(QPointF, from);
-    QFETCH(QPointF, to);
-    QFETCH(QPointF, point);
-    QFETCH(QPointF, image);
-    QCOMPARE(MirrorLine(from, to).image(point), image);
-}
-
-void TestChartUnits::scalesAboutAPoint()
-{
-    const ViewRange range{0, 10, -80, 20};
-    const ViewRange once = range.scaledAbout({5, -30}, 1.05);
-    QCOMPARE(once.xMin, 5 - 5 * 1.05);
-    QCOMPARE(once.yMax, -30 + 1.05 * 50);
-    const ViewRange twice = once.scaledAbout({5, -30}, 1.05);
-    QCOMPARE(twice.xMax - twice.xMin, 10 * 1.05 * 1.05);
-    QCOMPARE(twice.yMax - twice.yMin, 100 * 1.05 * 1.05);
-    const ViewRange aside = range.scaledAbout({0, 20}, 0.5);
-    QCOMPARE(aside.xMin, 0.0);
-    QCOMPARE(aside.xMax, 5.0);
-    QCOMPARE(aside.yMin, -30.0);
-    QCOMPARE(aside.yMax, 20.0);
-}
-
-void TestChartUnits::followsTime_data()
-{
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("xMin");
-    QTest::addColumn<double>("xMax");
-
-    QTest::newRow("inside: the window stays") << 9.9 << 0.0 << 10.0;
-    QTest::newRow("at the end: the window stays") << 10.0 << 0.0 << 10.0;
-    QTest::newRow("past the end: the window scrolls") << 12.5 << 2.5 << 12.5;
-    QTest::newRow("no reading") << std::numeric_limits<double>::quiet_NaN() << 0.0 << 10.0;
-}
-
-void TestChartUnits::followsTime()
-{
-    QFETCH(double, x);
-    ViewRange range{0, 10, 0, 0};
-    range.followTime(x, 10);
-    QTEST(range.xMin, "xMin");
-    QTEST(range.xMax, "xMax");
-    // A window that was zoomed to less than the period never begins before the recording does.
-    ViewRange narrow{0, 1, 0, 0};
-    narrow.followTime(2, 10);
-    QCOMPARE(narrow.xMin, 0.0);
-    QCOMPARE(narrow.xMax, 2.0);
-}
-
-void TestChartUnits::autoscales_data()
-{
-    QTest::addColumn<Points>("points");
-    QTest::addColumn<double>("low");
-    QTest::addColumn<double>("high");
-
-    QTest::newRow("nothing yet: upside down") << Points() << 989.0 << -989.0;
-    QTest::newRow("one reading") << Points{{0, -20.3}} << -31.0 << -10.0;
-    QTest::newRow("whole units") << Points{{0, -20}, {1, 5}} << -30.0 << 15.0;
-    QTest::newRow("beyond the start values")
-        << Points{{0, 1500}, {1, -1500.5}} << -1511.0 << 1510.0;
-}
-
-void TestChartUnits::autoscales()
-{
-    QFETCH(Points, points);
-    const ValueSpan span = autoscaledSpan(points);
-    QTEST(span.low, "low");
-    QTEST(span.high, "high");
 }
 
 void TestChartUnits::keepsExtremesOfEveryColumn()
