@@ -57,7 +57,8 @@ void styleChart(QChart &chart)
 {
     chart.setContentsMargins(0, 0, 0, 0);
     chart.setMargins(QMargins(0, 0, 0, 0));
-    chart.setBackgroundRoundness(0.0);
+    // The view paints the ground.
+    chart.setBackgroundVisible(false);
     chart.setTitleFont(titleFont());
     chart.setAcceptHoverEvents(true);
     QLegend *legend = chart.legend();
