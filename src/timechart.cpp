@@ -23,10 +23,8 @@ void TimeChart::feed(const QString &shownPower)
 {
     if (m_elapsedSeconds > longestRun)
         clear();
-    bool isReading = false;
-    const double power = shownPower.toDouble(&isReading);
-    if (isReading)
-        m_view->updateChart(powerPath, QPointF(m_elapsedSeconds / secondsPerMinute, power));
+    m_view->updateChart(powerPath,
+                        QPointF(m_elapsedSeconds / secondsPerMinute, shownPower.toDouble()));
     m_elapsedSeconds += 1.0;
 }
 

@@ -13,8 +13,8 @@ public:
     /// Puts the chart first into \a layout; the window of \a parent owns it.
     TimeChart(QWidget *parent, QBoxLayout *layout);
 
-    /// Adds one second with the power as it is shown, in dBm. Before the first reading nothing is
-    /// shown that could be drawn.
+    /// Adds the point of one second, with the power as it is shown, in dBm. What is no number (the
+    /// display before the first reading) is drawn as 0.
     void feed(const QString &shownPower);
 
     /// Empties the chart and starts again at 0.
