@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
 #include <QTimer>
 #include <QtCharts/QChart>
 #include <QtCharts/QLineSeries>
@@ -118,4 +119,18 @@ QStringList settingsOf(SimulatorProcess &simulator)
     QStringList commands = simulator.commands();
     commands.removeAll(QStringLiteral("GET?"));
     return commands;
+}
+
+const QStringList startUpQueries{QStringLiteral("*IDN?"),      QStringLiteral("FREQ?"),
+                                 QStringLiteral("AVER:COUN?"), QStringLiteral("REL?"),
+                                 QStringLiteral("OFFS?"),      QStringLiteral("UNIT:POW?")};
+
+ModalScript::Step readBox(QStringList &seen)
+{
+    return [&seen](QWidget *window) {
+        const auto *box = qobject_cast<QMessageBox *>(window);
+        seen.append(box != nullptr ? box->windowTitle() + QStringLiteral(": ") + box->text()
+                                   : QStringLiteral("no message box"));
+        window->close();
+    };
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "mainwindow.h"
+#include "modalscript.h"
 
 #include <QStringList>
 
 #include <memory>
 
-class ModalScript;
 class QAbstractButton;
 class QPoint;
 class QTimer;
@@ -64,3 +64,9 @@ private:
 
 /// The commands that \a simulator has heard, without the polls.
 QStringList settingsOf(SimulatorProcess &simulator);
+
+/// The commands that a console sends when it opens the link, in their order.
+extern const QStringList startUpQueries;
+
+/// A step that reads a message box into \a seen as "title: text" and closes it.
+ModalScript::Step readBox(QStringList &seen);

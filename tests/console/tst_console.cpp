@@ -1,5 +1,4 @@
 #include "consoletester.h"
-#include "modalscript.h"
 #include "simulatorprocess.h"
 #include "testmain.h"
 
@@ -7,7 +6,6 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QMessageBox>
 #include <QRadioButton>
 #include <QTimer>
 
@@ -17,36 +15,9 @@ namespace {
 
 using Deed = std::function<void(const ConsoleTester &)>;
 
-const QStringList startUpQueries{QStringLiteral("*IDN?"),      QStringLiteral("FREQ?"),
-                                 QStringLiteral("AVER:COUN?"), QStringLiteral("REL?"),
-                                 QStringLiteral("OFFS?"),      QStringLiteral("UNIT:POW?")};
-
 QStringList lines(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-}
-
-/// A step that reads a message box into \a seen as "title: text" and closes it.
-ModalScript::Step readBox(QStringList &seen)
-{
-    return [&seen](QWidget *window) {
-        const auto *box = qobject_cast<QMessageBox *>(window);
-        seen.append(box != nullptr ? box->windowTitle() + QStringLiteral(": ") + box->text()
-                                   : QStringLiteral("no message box"));
-        window->close();
-    };
-}
-
-/// A step that reads the line of the wait dialog into \a seen, and then does \a deed.
-ModalScript::Step readWait(
-    QStringList &seen, std::function<void()> deed = [] {})
-{
-    return [&seen, deed](QWidget *window) {
-        const auto *label = window->findChild<QLabel *>(QStringLiteral("labelText"));
-        seen.append(label != nullptr ? label->text() : QStringLiteral("no wait dialog"));
-        ModalScript::leaveOpen(window);
-        deed();
-    };
 }
 
 void press(const ConsoleTester &console, const char *box, Qt::Key key)
@@ -63,6 +34,141 @@ void setFrequency(const ConsoleTester &console, const char *unit, double value)
 } // namespace
 
 Q_DECLARE_METATYPE(Deed)
+
+namespace {
+
+void addRow(const char *name, const Deed &deed, const char *wire, const Deed &check,
+            const char *fault = "")
+{
+    QTest::newRow(name) << QString::fromLatin1(fault) << deed << lines(wire) << check;
+}
+
+void addFrequencyRows()
+{
+    const auto shows = [](const char *unit, double value) -> Deed {
+        return [unit, value](const ConsoleTester &console) {
+            QCOMPARE(console.find<QComboBox>("comboBoxUnit")->currentText(), QLatin1String(unit));
+            QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxFreq")->value(), value);
+        };
+    };
+    addRow(
+        "frequency in GHz",
+        [](const ConsoleTester &console) {
+            setFrequency(console, "GHz", 2.45);
+            console.click("btnSetFreq");
+        },
+        "FREQ 2.45GHz|FREQ?", shows("GHz", 2.45));
+    addRow(
+        "Enter in the frequency box",
+        [](const ConsoleTester &console) {
+            setFrequency(console, "MHz", 1500.125);
+            press(console, "doubleSpinBoxFreq", Qt::Key_Enter);
+        },
+        "FREQ 1500.125MHz|FREQ?", shows("MHz", 1500.125));
+    addRow(
+        "whole kHz",
+        [](const ConsoleTester &console) {
+            setFrequency(console, "KHz", 1500);
+            console.click("btnSetFreq");
+        },
+        "FREQ 1500KHz|FREQ?", shows("KHz", 1500));
+    addRow(
+        "instrument that knows GHz numbers only",
+        [](const ConsoleTester &console) {
+            setFrequency(console, "MHz", 2450);
+            console.click("btnSetFreq");
+        },
+        "FREQ 2450MHz|FREQ 2.45|FREQ?", [](const ConsoleTester &) {}, "numeric-frequency");
+}
+
+void addNumberRows()
+{
+    addRow(
+        "offset",
+        [](const ConsoleTester &console) {
+            console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->setValue(-3.5);
+            console.click("btnSetOffset");
+        },
+        "OFFS -3.50|OFFS?",
+        [](const ConsoleTester &console) {
+            QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->value(), -3.5);
+        });
+    addRow(
+        "Return in the offset box",
+        [](const ConsoleTester &console) {
+            console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->setValue(100);
+            press(console, "doubleSpinBoxOffset", Qt::Key_Return);
+        },
+        "OFFS 100.00|OFFS?", [](const ConsoleTester &) {});
+    addRow(
+        "average count",
+        [](const ConsoleTester &console) {
+            console.find<QSpinBox>("spinBoxAverageCount")->setValue(1024);
+            console.click("btnSetAverageCount");
+        },
+        "AVER:COUN 1024|AVER:COUN?",
+        [](const ConsoleTester &console) {
+            QCOMPARE(console.find<QSpinBox>("spinBoxAverageCount")->value(), 1024);
+        });
+    addRow(
+        "typed count and Return",
+        [](const ConsoleTester &console) {
+            auto *box = console.find<QSpinBox>("spinBoxAverageCount");
+            box->selectAll();
+            QTest::keyClicks(box, QStringLiteral("16"));
+            press(console, "spinBoxAverageCount", Qt::Key_Return);
+        },
+        "AVER:COUN 16|AVER:COUN?", [](const ConsoleTester &) {});
+    addRow(
+        "refused setting is not asked for",
+        [](const ConsoleTester &console) {
+            console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->setValue(7);
+            console.click("btnSetOffset");
+            QVERIFY(!console.isRunning("readTimer"));
+        },
+        "OFFS 7.00", [](const ConsoleTester &) {}, "refuse");
+}
+
+void addChoiceRows()
+{
+    const auto checks = [](const char *button, bool unitEnabled) -> Deed {
+        return [button, unitEnabled](const ConsoleTester &console) {
+            QVERIFY(console.find<QRadioButton>(button)->isChecked());
+            QCOMPARE(console.isEnabled("groupBoxUnit"), unitEnabled);
+        };
+    };
+    addRow(
+        "relative on sends twice",
+        [](const ConsoleTester &console) { console.click("radioButtonRelativeON"); },
+        "REL ON|REL?|REL ON|REL?", checks("radioButtonRelativeON", false));
+    addRow(
+        "relative update",
+        [](const ConsoleTester &console) {
+            console.window().updateRelState(QStringLiteral("ON"));
+            console.click("radioButtonRelativeON");
+        },
+        "REL ON|REL?", checks("radioButtonRelativeON", false));
+    addRow(
+        "relative off",
+        [](const ConsoleTester &console) {
+            console.window().updateRelState(QStringLiteral("ON"));
+            console.click("radioButtonRelativeOFF");
+        },
+        "REL OFF|REL?", checks("radioButtonRelativeOFF", true));
+    addRow(
+        "watts", [](const ConsoleTester &console) { console.click("radioButtonW"); },
+        "UNIT:POW W|UNIT:POW?", checks("radioButtonW", true));
+    addRow(
+        "dBm",
+        [](const ConsoleTester &console) {
+            console.window().updatePowerUnit(QStringLiteral("dbm")); // not dBm: the case counts
+            QVERIFY(console.find<QRadioButton>("radioButtonW")->isChecked());
+            console.click("radioButtondBm");
+        },
+        "UNIT:POW dBm|UNIT:POW?", checks("radioButtondBm", true));
+}
+
+} // namespace
 
 /// The console measures: it drives a simulated instrument over a real wire.
 class TestConsole : public QObject
@@ -84,12 +190,6 @@ private slots:
     void lineCutWhileQueryingEndsTheOpen_data();
     void lineCutWhileQueryingEndsTheOpen();
     void lineCutWhileMeasuringIsToldOnce();
-    void zeroingAndCalibrationTellTheirResult_data();
-    void zeroingAndCalibrationTellTheirResult();
-    void zeroingThatNeverEndsTimesOut();
-    void waitCannotBeDismissed();
-    void closingTheWindowEndsTheWait();
-    void zeroingOnALostLinkShowsNoWait();
     void connectingElsewhereDropsTheOldLink();
     void chartGetsOnePointASecond();
 };
@@ -122,124 +222,9 @@ void TestConsole::settingGoesOutOnceAndComesBack_data()
     QTest::addColumn<QStringList>("wire");
     QTest::addColumn<Deed>("check");
 
-    const auto row = [](const char *name, const Deed &deed, const char *wire, const Deed &check,
-                        const char *fault = "") {
-        QTest::newRow(name) << QString::fromLatin1(fault) << deed << lines(wire) << check;
-    };
-    const auto shows = [](const char *unit, double value) -> Deed {
-        return [unit, value](const ConsoleTester &console) {
-            QCOMPARE(console.find<QComboBox>("comboBoxUnit")->currentText(), QLatin1String(unit));
-            QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxFreq")->value(), value);
-        };
-    };
-    const auto checks = [](const char *button, bool unitEnabled) -> Deed {
-        return [button, unitEnabled](const ConsoleTester &console) {
-            QVERIFY(console.find<QRadioButton>(button)->isChecked());
-            QCOMPARE(console.isEnabled("groupBoxUnit"), unitEnabled);
-        };
-    };
-
-    row(
-        "frequency in GHz",
-        [](const ConsoleTester &console) {
-            setFrequency(console, "GHz", 2.45);
-            console.click("btnSetFreq");
-        },
-        "FREQ 2.45GHz|FREQ?", shows("GHz", 2.45));
-    row(
-        "Enter in the frequency box",
-        [](const ConsoleTester &console) {
-            setFrequency(console, "MHz", 1500.125);
-            press(console, "doubleSpinBoxFreq", Qt::Key_Enter);
-        },
-        "FREQ 1500.125MHz|FREQ?", shows("MHz", 1500.125));
-    row(
-        "whole kHz",
-        [](const ConsoleTester &console) {
-            setFrequency(console, "KHz", 1500);
-            console.click("btnSetFreq");
-        },
-        "FREQ 1500KHz|FREQ?", shows("KHz", 1500));
-    row(
-        "instrument that knows GHz numbers only",
-        [](const ConsoleTester &console) {
-            setFrequency(console, "MHz", 2450);
-            console.click("btnSetFreq");
-        },
-        "FREQ 2450MHz|FREQ 2.45|FREQ?", [](const ConsoleTester &) {}, "numeric-frequency");
-    row(
-        "offset",
-        [](const ConsoleTester &console) {
-            console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->setValue(-3.5);
-            console.click("btnSetOffset");
-        },
-        "OFFS -3.50|OFFS?",
-        [](const ConsoleTester &console) {
-            QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->value(), -3.5);
-        });
-    row(
-        "Return in the offset box",
-        [](const ConsoleTester &console) {
-            console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->setValue(100);
-            press(console, "doubleSpinBoxOffset", Qt::Key_Return);
-        },
-        "OFFS 100.00|OFFS?", [](const ConsoleTester &) {});
-    row(
-        "average count",
-        [](const ConsoleTester &console) {
-            console.find<QSpinBox>("spinBoxAverageCount")->setValue(1024);
-            console.click("btnSetAverageCount");
-        },
-        "AVER:COUN 1024|AVER:COUN?",
-        [](const ConsoleTester &console) {
-            QCOMPARE(console.find<QSpinBox>("spinBoxAverageCount")->value(), 1024);
-        });
-    row(
-        "typed count and Return",
-        [](const ConsoleTester &console) {
-            auto *box = console.find<QSpinBox>("spinBoxAverageCount");
-            box->selectAll();
-            QTest::keyClicks(box, QStringLiteral("16"));
-            press(console, "spinBoxAverageCount", Qt::Key_Return);
-        },
-        "AVER:COUN 16|AVER:COUN?", [](const ConsoleTester &) {});
-    row(
-        "relative on sends twice",
-        [](const ConsoleTester &console) { console.click("radioButtonRelativeON"); },
-        "REL ON|REL?|REL ON|REL?", checks("radioButtonRelativeON", false));
-    row(
-        "relative update",
-        [](const ConsoleTester &console) {
-            console.window().updateRelState(QStringLiteral("ON"));
-            console.click("radioButtonRelativeON");
-        },
-        "REL ON|REL?", checks("radioButtonRelativeON", false));
-    row(
-        "relative off",
-        [](const ConsoleTester &console) {
-            console.window().updateRelState(QStringLiteral("ON"));
-            console.click("radioButtonRelativeOFF");
-        },
-        "REL OFF|REL?", checks("radioButtonRelativeOFF", true));
-    row(
-        "watts", [](const ConsoleTester &console) { console.click("radioButtonW"); },
-        "UNIT:POW W|UNIT:POW?", checks("radioButtonW", true));
-    row(
-        "dBm",
-        [](const ConsoleTester &console) {
-            console.window().updatePowerUnit(QStringLiteral("dbm")); // not dBm: the case counts
-            QVERIFY(console.find<QRadioButton>("radioButtonW")->isChecked());
-            console.click("radioButtondBm");
-        },
-        "UNIT:POW dBm|UNIT:POW?", checks("radioButtondBm", true));
-    row(
-        "refused setting is not asked for",
-        [](const ConsoleTester &console) {
-            console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->setValue(7);
-            console.click("btnSetOffset");
-            QVERIFY(!console.isRunning("readTimer"));
-        },
-        "OFFS 7.00", [](const ConsoleTester &) {}, "refuse");
+    addFrequencyRows();
+    addNumberRows();
+    addChoiceRows();
 }
 
 void TestConsole::settingGoesOutOnceAndComesBack()
@@ -418,140 +403,6 @@ void TestConsole::lineCutWhileMeasuringIsToldOnce()
     console.find<QTimer>("readTimer")->start(0);
     QTRY_VERIFY(!console.isRunning("readTimer"));
     QVERIFY(script.isDone());
-}
-
-void TestConsole::zeroingAndCalibrationTellTheirResult_data()
-{
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("wait");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("command");
-
-    const QString none;
-    QTest::newRow("zeroing") << none << "btnSetZero"
-                             << "Set zero,waiting...30 s"
-                             << "Info: Set zero success!"
-                             << "CAL:ZERO";
-    QTest::newRow("zeroing fails") << "cal-fail"
-                                   << "btnSetZero"
-                                   << "Set zero,waiting...30 s"
-                                   << "Warning: Set zero failed!"
-                                   << "CAL:ZERO";
-    QTest::newRow("calibration") << none << "btnCalibration"
-                                 << "Calibration,waiting...30 s"
-                                 << "Info: Calibration success!"
-                                 << "CAL";
-    QTest::newRow("calibration fails") << "cal-fail"
-                                       << "btnCalibration"
-                                       << "Calibration,waiting...30 s"
-                                       << "Warning: Calibration failed!"
-                                       << "CAL";
-}
-
-void TestConsole::zeroingAndCalibrationTellTheirResult()
-{
-    QFETCH(QString, fault);
-    QFETCH(QString, button);
-    QFETCH(QString, wait);
-    QFETCH(QString, box);
-    QFETCH(QString, command);
-    SimulatorProcess simulator;
-    QStringList options{QStringLiteral("--calibration-time"), QStringLiteral("0.2")};
-    if (!fault.isEmpty())
-        options << QStringLiteral("--fault") << fault;
-    QVERIFY(simulator.start(options));
-    const ConsoleTester console;
-    QVERIFY(console.connectTo(simulator));
-
-    // The second run begins where the first began.
-    for (int run = 1; run <= 2; ++run) {
-        QStringList seen;
-        const ModalScript script(
-            {readWait(seen, [&console] { QVERIFY(!console.isRunning("readTimer")); }),
-             readBox(seen)});
-        console.click(button.toLatin1().constData());
-        QCOMPARE(seen, (QStringList{wait, box}));
-        QVERIFY(script.isDone());
-        QVERIFY(console.isRunning("readTimer") && !console.isRunning("loadingTimer"));
-        QCOMPARE(console.faultsOfState(true), QStringList());
-        const int polls = simulator.commands().count(QStringLiteral("GET?"));
-        QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), polls + 1));
-    }
-    QCOMPARE(settingsOf(simulator), (startUpQueries + QStringList{command, command}));
-}
-
-void TestConsole::zeroingThatNeverEndsTimesOut()
-{
-    SimulatorProcess simulator;
-    QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
-    const ConsoleTester console;
-    QVERIFY(console.connectTo(simulator));
-    const auto hurry = [&console] { console.find<QTimer>("loadingTimer")->setInterval(1); };
-    QStringList seen;
-    {
-        const ModalScript script({readWait(seen, hurry), readBox(seen)});
-        console.click("btnSetZero");
-        QVERIFY(script.isDone());
-    }
-    QCOMPARE(seen, (QStringList{QStringLiteral("Set zero,waiting...30 s"),
-                                QStringLiteral("Note: Set zero time out!")}));
-    QCOMPARE(console.faultsOfState(false), QStringList());
-    QCOMPARE(console.text("labelLink"), QStringLiteral("<font color = red>Close</font>"));
-
-    seen.clear();
-    QVERIFY(console.connectTo(simulator));
-    const ModalScript script({readWait(seen, hurry), readBox(seen)});
-    console.click("btnCalibration");
-    QCOMPARE(seen, (QStringList{QStringLiteral("Calibration,waiting...30 s"),
-                                QStringLiteral("Note: Calibration time out!")}));
-    QVERIFY(script.isDone());
-}
-
-void TestConsole::waitCannotBeDismissed()
-{
-    SimulatorProcess simulator;
-    QVERIFY(simulator.start({QStringLiteral("--calibration-time"), QStringLiteral("0.3")}));
-    const ConsoleTester console;
-    QVERIFY(console.connectTo(simulator));
-    QStringList seen;
-    const ModalScript script({[&seen](QWidget *dialog) {
-                                  QTest::keyClick(dialog, Qt::Key_Escape);
-                                  seen.append(QString::number(dialog->isVisible()));
-                                  ModalScript::leaveOpen(dialog);
-                              },
-                              readBox(seen)});
-    console.click("btnSetZero");
-    QCOMPARE(seen, (QStringList{QStringLiteral("1"), QStringLiteral("Info: Set zero success!")}));
-    QVERIFY(script.isDone());
-}
-
-void TestConsole::closingTheWindowEndsTheWait()
-{
-    SimulatorProcess simulator;
-    QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
-    const ConsoleTester console;
-    QVERIFY(console.connectTo(simulator));
-    QStringList seen;
-    const ModalScript script({readWait(seen, [&console] { console.window().close(); })});
-    console.click("btnSetZero");
-    QCOMPARE(seen, QStringList(QStringLiteral("Set zero,waiting...30 s")));
-    QVERIFY(script.isDone() && !console.isRunning("loadingTimer"));
-}
-
-void TestConsole::zeroingOnALostLinkShowsNoWait()
-{
-    SimulatorProcess simulator;
-    QVERIFY(simulator.start());
-    const ConsoleTester console;
-    QVERIFY(console.connectTo(simulator));
-    simulator.stop();
-    QStringList seen;
-    const ModalScript script({readBox(seen)});
-    console.click("btnSetZero");
-    QCOMPARE(seen, QStringList(QStringLiteral("Note: Please connect first.")));
-    QVERIFY(script.isDone());
-    QCOMPARE(console.faultsOfState(false), QStringList());
 }
 
 void TestConsole::connectingElsewhereDropsTheOldLink()

@@ -1,0 +1,179 @@
+#include "consoletester.h"
+#include "simulatorprocess.h"
+#include "testmain.h"
+
+#include <QLabel>
+#include <QTimer>
+
+#include <functional>
+
+namespace {
+
+/// A step that reads the line of the wait dialog into \a seen, and then does \a deed.
+ModalScript::Step readWait(
+    QStringList &seen, const std::function<void()> &deed = [] {})
+{
+    return [&seen, deed](QWidget *window) {
+        const auto *label = window->findChild<QLabel *>(QStringLiteral("labelText"));
+        seen.append(label != nullptr ? label->text() : QStringLiteral("no wait dialog"));
+        ModalScript::leaveOpen(window);
+        deed();
+    };
+}
+
+} // namespace
+
+/// Zeroing and calibration, which take the instrument seconds: the wait, its end and what may
+/// befall it.
+class TestZeroing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { ConsoleTester::cleanFolder(); }
+    void cleanupTestCase() { ConsoleTester::cleanFolder(); }
+
+    void zeroingAndCalibrationTellTheirResult_data();
+    void zeroingAndCalibrationTellTheirResult();
+    void zeroingThatNeverEndsTimesOut();
+    void waitCannotBeDismissed();
+    void closingTheWindowEndsTheWait();
+    void zeroingOnALostLinkShowsNoWait();
+};
+
+void TestZeroing::zeroingAndCalibrationTellTheirResult_data()
+{
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("wait");
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("command");
+
+    const QString none;
+    QTest::newRow("zeroing") << none << "btnSetZero"
+                             << "Set zero,waiting...30 s"
+                             << "Info: Set zero success!"
+                             << "CAL:ZERO";
+    QTest::newRow("zeroing fails") << "cal-fail"
+                                   << "btnSetZero"
+                                   << "Set zero,waiting...30 s"
+                                   << "Warning: Set zero failed!"
+                                   << "CAL:ZERO";
+    QTest::newRow("calibration") << none << "btnCalibration"
+                                 << "Calibration,waiting...30 s"
+                                 << "Info: Calibration success!"
+                                 << "CAL";
+    QTest::newRow("calibration fails") << "cal-fail"
+                                       << "btnCalibration"
+                                       << "Calibration,waiting...30 s"
+                                       << "Warning: Calibration failed!"
+                                       << "CAL";
+}
+
+void TestZeroing::zeroingAndCalibrationTellTheirResult()
+{
+    QFETCH(QString, fault);
+    QFETCH(QString, button);
+    QFETCH(QString, wait);
+    QFETCH(QString, box);
+    QFETCH(QString, command);
+    SimulatorProcess simulator;
+    QStringList options{QStringLiteral("--calibration-time"), QStringLiteral("0.2")};
+    if (!fault.isEmpty())
+        options << QStringLiteral("--fault") << fault;
+    QVERIFY(simulator.start(options));
+    const ConsoleTester console;
+    QVERIFY(console.connectTo(simulator));
+
+    // The second run begins where the first began.
+    for (int run = 1; run <= 2; ++run) {
+        QStringList seen;
+        const ModalScript script(
+            {readWait(seen, [&console] { QVERIFY(!console.isRunning("readTimer")); }),
+             readBox(seen)});
+        console.click(button.toLatin1().constData());
+        QCOMPARE(seen, (QStringList{wait, box}));
+        QVERIFY(script.isDone());
+        QVERIFY(console.isRunning("readTimer") && !console.isRunning("loadingTimer"));
+        QCOMPARE(console.faultsOfState(true), QStringList());
+        const int polls = simulator.commands().count(QStringLiteral("GET?"));
+        QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), polls + 1));
+    }
+    QCOMPARE(settingsOf(simulator), (startUpQueries + QStringList{command, command}));
+}
+
+void TestZeroing::zeroingThatNeverEndsTimesOut()
+{
+    SimulatorProcess simulator;
+    QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
+    const ConsoleTester console;
+    QVERIFY(console.connectTo(simulator));
+    const auto hurry = [&console] { console.find<QTimer>("loadingTimer")->setInterval(1); };
+    QStringList seen;
+    {
+        const ModalScript script({readWait(seen, hurry), readBox(seen)});
+        console.click("btnSetZero");
+        QVERIFY(script.isDone());
+    }
+    QCOMPARE(seen, (QStringList{QStringLiteral("Set zero,waiting...30 s"),
+                                QStringLiteral("Note: Set zero time out!")}));
+    QCOMPARE(console.faultsOfState(false), QStringList());
+    QCOMPARE(console.text("labelLink"), QStringLiteral("<font color = red>Close</font>"));
+
+    seen.clear();
+    QVERIFY(console.connectTo(simulator));
+    const ModalScript script({readWait(seen, hurry), readBox(seen)});
+    console.click("btnCalibration");
+    QCOMPARE(seen, (QStringList{QStringLiteral("Calibration,waiting...30 s"),
+                                QStringLiteral("Note: Calibration time out!")}));
+    QVERIFY(script.isDone());
+}
+
+void TestZeroing::waitCannotBeDismissed()
+{
+    SimulatorProcess simulator;
+    QVERIFY(simulator.start({QStringLiteral("--calibration-time"), QStringLiteral("0.3")}));
+    const ConsoleTester console;
+    QVERIFY(console.connectTo(simulator));
+    QStringList seen;
+    const ModalScript script({[&seen](QWidget *dialog) {
+                                  QTest::keyClick(dialog, Qt::Key_Escape);
+                                  seen.append(QString::number(dialog->isVisible()));
+                                  ModalScript::leaveOpen(dialog);
+                              },
+                              readBox(seen)});
+    console.click("btnSetZero");
+    QCOMPARE(seen, (QStringList{QStringLiteral("1"), QStringLiteral("Info: Set zero success!")}));
+    QVERIFY(script.isDone());
+}
+
+void TestZeroing::closingTheWindowEndsTheWait()
+{
+    SimulatorProcess simulator;
+    QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
+    const ConsoleTester console;
+    QVERIFY(console.connectTo(simulator));
+    QStringList seen;
+    const ModalScript script({readWait(seen, [&console] { console.window().close(); })});
+    console.click("btnSetZero");
+    QCOMPARE(seen, QStringList(QStringLiteral("Set zero,waiting...30 s")));
+    QVERIFY(script.isDone() && !console.isRunning("loadingTimer"));
+}
+
+void TestZeroing::zeroingOnALostLinkShowsNoWait()
+{
+    SimulatorProcess simulator;
+    QVERIFY(simulator.start());
+    const ConsoleTester console;
+    QVERIFY(console.connectTo(simulator));
+    simulator.stop();
+    QStringList seen;
+    const ModalScript script({readBox(seen)});
+    console.click("btnSetZero");
+    QCOMPARE(seen, QStringList(QStringLiteral("Note: Please connect first.")));
+    QVERIFY(script.isDone());
+    QCOMPARE(console.faultsOfState(false), QStringList());
+}
+
+MZ_TEST_MAIN(TestZeroing)
+#include "tst_zeroing.moc"
