@@ -16,6 +16,7 @@ MarkSet::MarkSet(const ChartStage &stage, QGraphicsScene &scene, const Paths &pa
     , m_scene(scene)
     , m_paths(paths)
     , m_shown(std::move(shown))
+    , m_guides(scene)
 {}
 
 MarkSet::~MarkSet()
@@ -34,6 +35,7 @@ void MarkSet::select(const MyMarkItem *mark)
 {
     for (MyMarkItem *each : qAsConst(m_marks))
         each->setMarkSelected(each == mark);
+    placeGuides();
 }
 
 MyMarkItem *MarkSet::add(const QPointF &position, const QColor &color)
@@ -51,18 +53,21 @@ MyMarkItem *MarkSet::add(const QPointF &position, const QColor &color)
 void MarkSet::remove(int markId)
 {
     delete m_marks.take(markId);
+    placeGuides();
 }
 
 void MarkSet::clear()
 {
     qDeleteAll(m_marks);
     m_marks.clear();
+    placeGuides();
 }
 
 void MarkSet::reposition()
 {
     for (MyMarkItem *mark : qAsConst(m_marks))
         place(*mark);
+    placeGuides();
 }
 
 void MarkSet::place(MyMarkItem &mark)
@@ -70,6 +75,15 @@ void MarkSet::place(MyMarkItem &mark)
     mark.setTip(m_stage.toScene(mark.valuePoint()));
     const PathInfo *path = pathOf(mark);
     mark.setVisible(m_shown().contains(mark.valuePoint()) && !(path && path->isHidden()));
+}
+
+void MarkSet::placeGuides()
+{
+    const MyMarkItem *mark = selected();
+    if (mark && mark->isVisible())
+        m_guides.show(mark->valuePoint(), mark->color(), m_stage, m_shown());
+    else
+        m_guides.hide();
 }
 
 void MarkSet::snap(const PathInfo &path)
@@ -86,6 +100,7 @@ void MarkSet::snap(const PathInfo &path)
             place(*mark);
         }
     }
+    placeGuides();
 }
 
 PathInfo *MarkSet::pathOf(const MyMarkItem &mark) const
@@ -122,5 +137,6 @@ void MarkSet::markDragged(MyMarkItem &mark, const QPointF &position)
         return;
     mark.setValuePoint({x, *y});
     place(mark);
+    placeGuides();
     path->updateMarkInfo(m_marks);
 }

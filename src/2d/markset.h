@@ -1,5 +1,6 @@
 #pragma once
 
+#include "2d/guidelines.h"
 #include "2d/mymarkitem.h"
 
 #include <QMap>
@@ -49,10 +50,13 @@ public:
 private:
     PathInfo *pathOf(const MyMarkItem &mark) const;
     void place(MyMarkItem &mark);
+    /// Leads from the selected marker, if it is seen, to the axes.
+    void placeGuides();
 
     const ChartStage &m_stage;
     QGraphicsScene &m_scene;
     const Paths &m_paths;
     std::function<ViewRange()> m_shown;
     QMap<int, MyMarkItem *> m_marks;
+    GuideLines m_guides;
 };
