@@ -82,6 +82,8 @@ PathInfo *ChartViewState::newPath(const QString &name)
             view.updatePathSelection(0);
         updateLegend();
         updateMarks(*path);
+        if (parameterLinesVisible)
+            recompute(*path);
         emit view.curvesChanged();
     });
     return path;

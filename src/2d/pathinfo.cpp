@@ -374,9 +374,12 @@ bool PathInfo::getParaTableDataStatus()
 
 void PathInfo::setLineItemVisible(bool b)
 {
+    if (b == m_linesVisible)
+        return;
     m_linesVisible = b;
     if (!b)
         m_lines.hide();
+    emit lookChanged();
 }
 
 void PathInfo::updataSize(QSizeF size)

@@ -100,7 +100,7 @@ public:
 signals:
     void selectPathId(int pathId);
     void setAcceptDropsStatus(bool status);
-    /// Colour or visibility has changed.
+    /// Name, colour, width or visibility has changed.
     void lookChanged();
 
 public slots:

@@ -14,7 +14,6 @@
 #include <QLegendMarker>
 #include <QLineSeries>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QtMath>
 
 #include <cmath>
@@ -49,7 +48,6 @@ class TestChartCurves : public QObject
 
 private slots:
     void numbersCurves();
-    void wiresNewCurves();
     void keepsDataWhole();
     void keepsOutlineWithoutPoints();
     void skipsRebuildsThatChangeNothing();
@@ -59,8 +57,6 @@ private slots:
     void dimsHiddenCurvesInTheLegend();
     void stacksPanels();
     void analysesOnlyWhatIsShown();
-    void tellsOfEveryChange();
-    void leavesNothingBehind_data();
     void leavesNothingBehind();
     void keepsColorsApart();
 };
@@ -76,26 +72,6 @@ void TestChartCurves::numbersCurves()
     view.clearChart(99);
     QCOMPARE(view.paths().size(), 4);
     QCOMPARE(view.chart()->series().size(), 4);
-}
-
-void TestChartCurves::wiresNewCurves()
-{
-    GraphicsBase view(1, nullptr);
-    PathInfo *path = view.createPath(text("A"));
-    QCOMPARE(path->lineWidth(), 2);
-    QCOMPARE(path->pathItem()->chartKind(), 1);
-    QCOMPARE(path->pathItem()->viewRange().xMin, -180.0);
-    QCOMPARE(path->series()->name(), text("A"));
-    QCOMPARE(path->series()->attachedAxes().size(), 2);
-    QCOMPARE(path->furtherItems().size(), 8);
-    QCOMPARE(path->pathItem()->scene(), view.scene());
-    QCOMPARE(path->displayItem()->scene(), view.scene());
-    for (const QGraphicsItem *item : path->furtherItems())
-        QCOMPARE(item->scene(), view.scene());
-    emit path->pathItem()->setAcceptDropsStatus(false);
-    QVERIFY(!view.acceptDrops());
-    emit path->pathItem()->setAcceptDropsStatus(true);
-    QVERIFY(view.acceptDrops());
 }
 
 void TestChartCurves::keepsDataWhole()
@@ -265,68 +241,45 @@ void TestChartCurves::analysesOnlyWhatIsShown()
     view.addCurve(text("B"), pattern(181));
     view.clearChart(1); // now ids and places in the legend differ
     QCOMPARE(view.patternParameters(2).gain.second, -5.0);
+    view.setParameterLinesVisible(true);
+    const QGraphicsItem *peakLine = view.paths()[2]->furtherItems().constFirst();
+    QVERIFY(peakLine->isVisible());
     view.paths()[2]->setHidden(true);
     QCOMPARE(view.patternParameters(2).gain.second, 0.0);
+    QVERIFY(!peakLine->isVisible());
+    view.paths()[2]->setHidden(false);
+    QVERIFY(peakLine->isVisible());
+    view.paths()[2]->setLineItemVisible(false);
+    QVERIFY(!peakLine->isVisible());
+    view.paths()[2]->setLineItemVisible(true);
+    QVERIFY(peakLine->isVisible());
+    view.paths()[2]->setHidden(true);
     QCOMPARE(view.patternParameters(99).gain.second, 0.0);
     view.createPath(text("empty"));
     QCOMPARE(view.patternParameters(1).axialRatio.second, 0.0);
 }
 
-void TestChartCurves::tellsOfEveryChange()
-{
-    GraphicsBase view(0, nullptr);
-    QSignalSpy changed(&view, &GraphicsBase::curvesChanged);
-    QSignalSpy selected(&view, &GraphicsBase::selectionChanged);
-    QSignalSpy cleared(&view, &GraphicsBase::clearParaInfoToTable);
-    view.addCurve(text("A"), {{0, 0}, {1, 1}});
-    QCOMPARE(changed.size(), 1);
-    view.paths()[1]->setColor(Qt::red);
-    view.paths()[1]->setName(text("B"));
-    view.paths()[1]->setLineWidth(4);
-    view.paths()[1]->setHidden(true);
-    QCOMPARE(changed.size(), 5);
-    view.paths()[1]->setHidden(false);
-    view.updatePathSelection(1);
-    QCOMPARE(selected.size(), 1);
-    view.clearChart(1);
-    QCOMPARE(selected.size(), 2);
-    QCOMPARE(cleared.size(), 1);
-    QCOMPARE(changed.size(), 7);
-}
-
-void TestChartCurves::leavesNothingBehind_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("clearFirst");
-    QTest::newRow("cartesian") << 0 << false;
-    QTest::newRow("polar") << 1 << false;
-    QTest::newRow("curves removed first") << 0 << true;
-}
-
 void TestChartCurves::leavesNothingBehind()
 {
-    QFETCH(int, kind);
-    QFETCH(bool, clearFirst);
-    auto view = std::make_unique<GraphicsBase>(kind, nullptr);
+    auto view = std::make_unique<GraphicsBase>(1, nullptr);
     QVERIFY(ChartProbe::show(*view));
     view->addCurve(text("A"), pattern(361));
     view->addCurve(text("B"), pattern(361));
     view->addMark(view->toScene({0, -10}), Qt::red);
-    const QVector<QPointer<QObject>> parts{view->scene(),
-                                           view->chart(),
-                                           view->paths()[1],
-                                           view->paths()[1]->series(),
-                                           view->paths()[1]->pathItem(),
-                                           view->paths()[1]->markTablePanel()};
-    if (clearFirst) {
-        view->clearChart();
-        QVERIFY(view->marks().isEmpty());
-        QVERIFY(view->chart()->series().isEmpty());
-        for (int i = 2; i < parts.size(); ++i)
-            QVERIFY(parts[i].isNull());
-    }
+    const auto partsOf = [&view](int id) {
+        return QVector<QPointer<QObject>>{view->paths()[id], view->paths()[id]->series(),
+                                          view->paths()[id]->pathItem(),
+                                          view->paths()[id]->markTablePanel()};
+    };
+    const QVector<QPointer<QObject>> removed = partsOf(1);
+    view->clearChart(1);
+    QCOMPARE(view->chart()->series().size(), 1);
+    for (const QPointer<QObject> &part : removed)
+        QVERIFY(part.isNull());
+    QVector<QPointer<QObject>> parts = partsOf(2);
+    parts << view->scene() << view->chart();
     view.reset();
-    for (const QPointer<QObject> &part : parts)
+    for (const QPointer<QObject> &part : qAsConst(parts))
         QVERIFY(part.isNull());
 }
 
