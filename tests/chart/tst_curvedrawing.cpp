@@ -123,10 +123,8 @@ void TestCurveDrawing::staysInsideThePlot_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<Points>("points");
-    QTest::newRow("cartesian, sparse") << 0 << pattern(200);
     QTest::newRow("cartesian, dense") << 0 << pattern(50000);
     QTest::newRow("cartesian, solid") << 0 << noise(50000);
-    QTest::newRow("polar, sparse") << 1 << pattern(200);
     QTest::newRow("polar, dense") << 1 << pattern(50000);
 }
 
@@ -163,10 +161,8 @@ void TestCurveDrawing::survivesAnyZoom_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<double>("factor");
-    QTest::newRow("cartesian, in") << 0 << 1e-3;
     QTest::newRow("cartesian, out") << 0 << 1e3;
     QTest::newRow("polar, in") << 1 << 1e-3;
-    QTest::newRow("polar, out") << 1 << 1e3;
 }
 
 void TestCurveDrawing::survivesAnyZoom()
