@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QtCharts/QChart>
 #include <QtCharts/QLineSeries>
+#include <QtCharts/QValueAxis>
 
 ConsoleTester::ConsoleTester()
     : m_window(std::make_unique<MainWindow>())
@@ -68,6 +69,12 @@ QVector<QPointF> ConsoleTester::chartPoints() const
     return series.isEmpty()
                ? QVector<QPointF>()
                : qobject_cast<QtCharts::QLineSeries *>(series.constFirst())->pointsVector();
+}
+
+QtCharts::QValueAxis *ConsoleTester::timeAxis() const
+{
+    const auto axes = m_window->findChild<GraphicsBase *>()->chart()->axes(Qt::Horizontal);
+    return qobject_cast<QtCharts::QValueAxis *>(axes.value(0));
 }
 
 QStringList ConsoleTester::faultsOfState(bool open) const

@@ -7,10 +7,13 @@
 
 #include <memory>
 
-class QAbstractButton;
-class QPoint;
-class QTimer;
 class SimulatorProcess;
+
+QT_BEGIN_NAMESPACE
+namespace QtCharts {
+class QValueAxis;
+}
+QT_END_NAMESPACE
 
 /// A console with its widgets by name, and the box that an instrument makes it show.
 class ConsoleTester
@@ -48,6 +51,8 @@ public:
     bool isRunning(const char *timer) const;
     /// The points of the time chart.
     QVector<QPointF> chartPoints() const;
+
+    QtCharts::QValueAxis *timeAxis() const;
 
     /// What is not as it must be while the link is open (or not); empty when all is well.
     QStringList faultsOfState(bool open) const;
