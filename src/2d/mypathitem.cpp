@@ -14,6 +14,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -26,6 +27,8 @@ constexpr double extraWidthWhenSelected = 1.0;
 constexpr double bandBesideLine = 4.0;
 constexpr double pressTolerance = 4.0;
 constexpr int pointsWorthCaching = 2000;
+constexpr double thinLine = 3.5;
+constexpr int segmentsOfPiece = 16;
 
 double distanceToSegment(const QPointF &point, const QPointF &from, const QPointF &to)
 {
@@ -59,9 +62,16 @@ bool insideCircle(const QVector<QPointF> &points, const QRectF &square)
 /// plain ones are drawn in half the time; square ends close the corners between the pieces.
 QPen linePen(const QColor &color, double width)
 {
-    constexpr double thin = 3.5;
-    return width < thin ? QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
-                        : QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    return width < thinLine ? QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
+                            : QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+void drawApart(QPainter &painter, const QPointF *piece, int count)
+{
+    std::array<QLineF, segmentsOfPiece> lines;
+    for (int i = 0; i + 1 < count; ++i)
+        lines[static_cast<std::size_t>(i)] = QLineF(piece[i], piece[i + 1]);
+    painter.drawLines(lines.data(), count - 1);
 }
 
 } // namespace
@@ -214,6 +224,17 @@ bool MyPathItem::hits(const QPointF &position) const
     return false;
 }
 
+std::optional<QPointF> MyPathItem::highestPoint() const
+{
+    std::optional<QPointF> highest;
+    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0).points;
+    for (const QPointF &point : line) {
+        if ((!highest || point.y() < highest->y()) && m_plotArea.contains(point))
+            highest = point;
+    }
+    return highest;
+}
+
 bool MyPathItem::contains(const QPointF &point) const
 {
     return hits(point);
@@ -294,10 +315,17 @@ void MyPathItem::drawLine(QPainter &painter) const
     const QPen pen = painter.pen();
     const double margin = 4.0 * reach();
     const QRectF window = m_plotArea.adjusted(-margin, -margin, margin, margin);
+    // Where every point has a column to itself, single lines make the same picture in half the
+    // time; closer together their smoothed ends would add up to a heavier line.
+    const bool apart = m_line.columns.size() == points.size() && pen.widthF() < thinLine;
     const auto drawRange = [&](int from, int to) {
-        forEachPiece(
-            points.constData() + from, to - from + 1, window,
-            [&painter](const QPointF *piece, int count) { painter.drawPolyline(piece, count); });
+        forEachPiece(points.constData() + from, to - from + 1, window,
+                     [&painter, apart](const QPointF *piece, int count) {
+                         if (apart)
+                             drawApart(painter, piece, count);
+                         else
+                             painter.drawPolyline(piece, count);
+                     });
     };
     int from = 0;
     for (const ColumnStretch &stretch : qAsConst(m_solid)) {

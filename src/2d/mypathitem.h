@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QVector>
 
+#include <optional>
+
 /// The outline of a curve on the chart's scene: drawn, clicked, and dragged out of the chart.
 ///
 /// It draws the curve itself, since stroking its path (as the base class would) takes a hundred
@@ -65,6 +67,9 @@ public:
 
     /// Whether the scene position \a position lies on the drawn curve, give or take a few pixels.
     bool hits(const QPointF &position) const;
+
+    /// The highest scene position of the drawn curve in the plot area, if any of it is there.
+    std::optional<QPointF> highestPoint() const;
 
     QRectF boundingRect() const override;
     QPainterPath shape() const override;

@@ -251,14 +251,8 @@ void PathInfo::placeDisplayItem()
 {
     if (!isSelected())
         return;
-    const QVector<QPointF> &positions = m_pathItem->positions();
     const QRectF area = m_drawnMapping.plotArea;
-    const QPointF *highest = nullptr;
-    for (const QPointF &position : positions) {
-        if ((!highest || position.y() < highest->y()) && area.contains(position))
-            highest = &position;
-    }
-    m_displayItem->setAnchor(highest ? *highest : area.center(), area);
+    m_displayItem->setAnchor(m_pathItem->highestPoint().value_or(area.center()), area);
 }
 
 const PatternAnalysis *PathInfo::analysis()
