@@ -1,5 +1,6 @@
 #include "consolepanel.h"
 
+#include "consolesettings.h"
 #include "frequencyunit.h"
 #include "powerdisplay.h"
 #include "recordfile.h"
@@ -8,6 +9,7 @@
 #include <QActionGroup>
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QListView>
 #include <QSignalBlocker>
 
@@ -39,6 +41,9 @@ ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
     }
     setShortcuts();
     m_ui->comboBoxCom->setView(new QListView(m_ui->comboBoxCom));
+    m_ui->doubleSpinBoxFreq->installEventFilter(window);
+    m_ui->doubleSpinBoxOffset->installEventFilter(window);
+    m_ui->spinBoxAverageCount->installEventFilter(window);
     QFont pathFont = m_ui->lineEditPath->font();
     pathFont.setPixelSize(11);
     m_ui->lineEditPath->setFont(pathFont);
@@ -157,6 +162,23 @@ void ConsolePanel::setDefaultRecordFolder()
     if (!current.exists(QStringLiteral("DataRecord")))
         current.mkdir(QStringLiteral("DataRecord"));
     setRecordFolder(QStringLiteral("%1/DataRecord").arg(QDir::currentPath()));
+}
+
+ConsoleSettings ConsolePanel::settings() const
+{
+    ConsoleSettings settings;
+    settings.recordFolder = m_ui->lineEditPath->text();
+    settings.interval = m_ui->spinBoxInterval->value();
+    settings.period = m_ui->spinBoxChartPeriod->value();
+    return settings;
+}
+
+void ConsolePanel::showSettings(const ConsoleSettings &settings)
+{
+    const bool isFolder = QFileInfo(settings.recordFolder).isDir();
+    setRecordFolder(isFolder ? settings.recordFolder : QCoreApplication::applicationDirPath());
+    m_ui->spinBoxInterval->setValue(settings.interval);
+    m_ui->spinBoxChartPeriod->setValue(settings.period);
 }
 
 void ConsolePanel::saveRecord() const

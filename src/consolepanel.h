@@ -5,6 +5,7 @@
 #include <QString>
 
 class QMainWindow;
+struct ConsoleSettings;
 
 namespace Ui {
 class MainWindow;
@@ -16,7 +17,8 @@ class MainWindow;
 class ConsolePanel
 {
 public:
-    /// Puts the form of \a window into its first state.
+    /// Puts the form of \a window into its first state. The window filters the keys of the boxes
+    /// whose value Enter sends.
     ConsolePanel(Ui::MainWindow *form, QMainWindow *window);
 
     /// Shows all texts in the current language. The unit of the frequency goes back to kHz.
@@ -45,6 +47,10 @@ public:
     void setRecordFolder(const QString &folder);
     /// Back to "DataRecord" in the current directory, which is created if need be.
     void setDefaultRecordFolder();
+    /// What of the settings the panel shows: all but language and address.
+    ConsoleSettings settings() const;
+    /// Shows that part of \a settings; a folder of records that is gone becomes the program's own.
+    void showSettings(const ConsoleSettings &settings);
     /// Appends the shown values to the record of the day.
     void saveRecord() const;
 

@@ -52,8 +52,8 @@ MainWindow::MainWindow(QWidget *parent)
     , m_session(new LinkSession(m_link, &m_panel, &m_status, &m_chart, this))
     , m_connectDialog(new ConnectDialog(this))
     , m_loadingDialog(new LoadingDialog(this))
-    , m_clockTimer(createTimer("clockTimer", &MainWindow::timerOut))
-    , m_loadingTimer(createTimer("loadingTimer", &MainWindow::loadingTimerOut))
+    , m_clockTimer(new QTimer(this))
+    , m_loadingTimer(new QTimer(this))
     , m_waitCountdown(longestWait)
 {
     resize(smallestWindow);
@@ -63,10 +63,11 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_session, &LinkSession::readingDue, this, &MainWindow::readValue);
     connect(m_session, &LinkSession::recordDue, this, &MainWindow::saveValue);
     connect(m_session, &LinkSession::ended, this, &MainWindow::endWait);
+    m_loadingTimer->setObjectName(QStringLiteral("loadingTimer"));
+    connect(m_loadingTimer, &QTimer::timeout, this, &MainWindow::loadingTimerOut);
+    m_clockTimer->setObjectName(QStringLiteral("clockTimer"));
+    connect(m_clockTimer, &QTimer::timeout, this, &MainWindow::timerOut);
     m_clockTimer->start(clockPeriod);
-    m_ui->doubleSpinBoxFreq->installEventFilter(this);
-    m_ui->doubleSpinBoxOffset->installEventFilter(this);
-    m_ui->spinBoxAverageCount->installEventFilter(this);
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     m_panel.setDefaultRecordFolder();
 
@@ -114,14 +115,6 @@ void MainWindow::connectLink()
             &MainWindow::updateCalibrationSuccess);
     connect(m_link, &SerialLogic::updateCalibrationFailed, this,
             &MainWindow::updateCalibrationFailed);
-}
-
-QTimer *MainWindow::createTimer(const char *name, void (MainWindow::*slot)())
-{
-    auto *timer = new QTimer(this);
-    timer->setObjectName(QLatin1String(name));
-    connect(timer, &QTimer::timeout, this, slot);
-    return timer;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -432,16 +425,6 @@ void MainWindow::on_btnSetChartPeriod_clicked()
     m_chart.setPeriod(period, tr("Last %1 minutes").arg(period));
 }
 
-void MainWindow::on_btnResetChart_clicked()
-{
-    m_chart.clear();
-}
-
-void MainWindow::saveValue()
-{
-    m_panel.saveRecord();
-}
-
 void MainWindow::on_btnReset_clicked()
 {
     saveValue();
@@ -464,19 +447,15 @@ void MainWindow::on_btnPath_clicked()
 
 void MainWindow::writeSettings() const
 {
-    ConsoleSettings settings;
+    ConsoleSettings settings = m_panel.settings();
     settings.language = m_language.code();
     settings.ipAddress = m_session->ipAddress();
-    settings.recordFolder = m_ui->lineEditPath->text();
-    settings.interval = m_ui->spinBoxInterval->value();
-    settings.period = m_ui->spinBoxChartPeriod->value();
     settings.save(settingsFile());
 }
 
 void MainWindow::readSettings()
 {
-    const QString home = QCoreApplication::applicationDirPath();
-    QDir::setCurrent(home);
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
     const auto settings = ConsoleSettings::load(settingsFile());
     if (!settings) {
         m_ui->actionEN->trigger();
@@ -484,10 +463,7 @@ void MainWindow::readSettings()
     }
     (settings->language == QStringLiteral("en") ? m_ui->actionEN : m_ui->actionCN)->trigger();
     m_session->setIpAddress(settings->ipAddress);
-    const bool isFolder = QFileInfo(settings->recordFolder).isDir();
-    m_panel.setRecordFolder(isFolder ? settings->recordFolder : home);
-    m_ui->spinBoxInterval->setValue(settings->interval);
-    m_ui->spinBoxChartPeriod->setValue(settings->period);
+    m_panel.showSettings(*settings);
     on_btnSetChartPeriod_clicked();
 }
 
@@ -520,9 +496,4 @@ void MainWindow::on_actionHelp_triggered()
         tr("%1/%2").arg(QCoreApplication::applicationDirPath(), QStringLiteral("help.pdf"));
     if (QFileInfo::exists(file))
         QDesktopServices::openUrl(QUrl::fromLocalFile(QStringLiteral("file:///") + file));
-}
-
-void MainWindow::on_actionExit_triggered()
-{
-    close();
 }

@@ -69,7 +69,7 @@ public slots:
     void timerOut();
     void readValue();
     void loadingTimerOut();
-    void saveValue();
+    void saveValue() { m_panel.saveRecord(); }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -82,7 +82,7 @@ private slots:
     void on_actionDisconnect_triggered();
     void on_actionCommunication_by_Serial_triggered(bool checked);
     void on_actionCommunication_by_LAN_triggered(bool checked);
-    void on_actionExit_triggered();
+    void on_actionExit_triggered() { close(); }
     void on_actionHelp_triggered();
     void on_actionCN_triggered(bool checked);
     void on_actionEN_triggered(bool checked);
@@ -101,13 +101,12 @@ private slots:
     void on_btnSetZero_clicked();
     void on_btnCalibration_clicked();
     void on_btnSetChartPeriod_clicked();
-    void on_btnResetChart_clicked();
+    void on_btnResetChart_clicked() { m_chart.clear(); }
     void on_btnReset_clicked();
     void on_btnPath_clicked();
 
 private:
     void connectLink();
-    QTimer *createTimer(const char *name, void (MainWindow::*slot)());
     void setLinkMode(LinkMode mode);
 
     void startTask(void (SerialLogic::*task)(), const QString &name);
