@@ -59,17 +59,7 @@ PathInfo *ChartViewState::newPath(const QString &name)
     path->setLineWidth(2);
     connectPath(*path);
     path->setColor(curveColor(id));
-    if (QChart *chart = stage.chart()) {
-        const SeriesLayoutGuard guard(stage, paths);
-        chart->addSeries(path->series());
-    }
-    QObject::connect(path->series(), &QLineSeries::hovered, &view, &GraphicsBase::tooltip);
-    path->pathItem()->adoptView(stage.kind(), shownRange());
-    path->setName(name);
-    if (stage.chart()) {
-        path->series()->attachAxis(stage.xAxis());
-        path->series()->attachAxis(stage.yAxis());
-    }
+    addToChart(*path, name);
     view.scene()->addItem(path->displayItem());
     view.scene()->addItem(path->pathItem());
     const QList<QGraphicsItem *> items = path->furtherItems();
@@ -87,6 +77,21 @@ PathInfo *ChartViewState::newPath(const QString &name)
         emit view.curvesChanged();
     });
     return path;
+}
+
+void ChartViewState::addToChart(PathInfo &path, const QString &name)
+{
+    const SeriesLayoutGuard guard(stage, paths); // one layout for all that follows
+    QChart *chart = stage.chart();
+    if (chart)
+        chart->addSeries(path.series());
+    QObject::connect(path.series(), &QLineSeries::hovered, &view, &GraphicsBase::tooltip);
+    path.pathItem()->adoptView(stage.kind(), shownRange());
+    path.setName(name);
+    if (chart) {
+        path.series()->attachAxis(stage.xAxis());
+        path.series()->attachAxis(stage.yAxis());
+    }
 }
 
 void ChartViewState::connectPath(PathInfo &path)

@@ -83,5 +83,6 @@ public:
 
 private:
     void connectPath(PathInfo &path);
+    void addToChart(PathInfo &path, const QString &name);
     void catchUp();
 };
