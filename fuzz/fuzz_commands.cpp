@@ -5,10 +5,18 @@
 #include "startoptions.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <cstddef>
 #include <cstdint>
+
+/// The usage text asks the application object for the program's name.
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    static const QCoreApplication application(*argc, *argv);
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
