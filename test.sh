@@ -38,7 +38,7 @@ done
 scripts/install-dependencies.sh build run test
 cmake --preset "$preset" "${settings[@]}"
 cmake --build "$folder"
-export ASAN_OPTIONS=strict_string_checks=1:detect_stack_use_after_return=1:check_initialization_order=1
+export ASAN_OPTIONS=detect_stack_use_after_return=1:check_initialization_order=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0
 export UBSAN_OPTIONS=print_stacktrace=1
 ctest --test-dir "$folder" --parallel 2 --output-on-failure </dev/null
