@@ -1,5 +1,5 @@
 # The translations: compiled into ":/qm/", and on request checked for completeness at every build.
-option(MZ_CHECK_TRANSLATIONS "Fail the build when a text lacks its translation" OFF)
+option(MZ_CHECK_TRANSLATIONS "Fail the build when a text lacks its translation" ON)
 
 # mz_compile_translations(OUT FILE.ts...): appends to OUT a source that holds the compiled files
 # under ":/qm/".
