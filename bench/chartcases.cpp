@@ -148,7 +148,7 @@ Makers cartesianMakers()
 /// How the shape of a curve counts.
 void shapeRows(const Makers &makers, const ChartSink &sink)
 {
-    for (const int count : {3601, 100000}) {
+    for (const int count : {361, 3601, 100000}) {
         for (const CurveShape shape : {CurveShape::Smooth, CurveShape::Noise}) {
             const QVector<QPointF> curve = testCurve(shape, count);
             const auto run = [&curve](MakeChart make) {

@@ -317,7 +317,7 @@ void MyPathItem::drawLine(QPainter &painter) const
     const QRectF window = m_plotArea.adjusted(-margin, -margin, margin, margin);
     // Where every point has a column to itself, single lines make the same picture in half the
     // time; closer together their smoothed ends would add up to a heavier line.
-    const bool apart = m_line.columns.size() == points.size() && pen.widthF() < thinLine;
+    const bool apart = pen.widthF() < thinLine && pointsStandApart(m_line);
     const auto drawRange = [&](int from, int to) {
         forEachPiece(points.constData() + from, to - from + 1, window,
                      [&painter, apart](const QPointF *piece, int count) {

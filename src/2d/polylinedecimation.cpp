@@ -153,6 +153,16 @@ ThinnedLine thinnedLine(const QVector<QPointF> &points, const PixelGrid &grid)
     return grid.polar ? thinned(points, Ray(grid)) : thinned(points, VerticalColumn(grid));
 }
 
+bool pointsStandApart(const ThinnedLine &line)
+{
+    const auto &columns = line.columns;
+    if (columns.size() <= 2)
+        return line.points.size() == columns.size();
+    return std::all_of(
+        columns.cbegin() + 1, columns.cend() - 1,
+        [](const ThinnedLine::Column &column) { return column.first == column.last; });
+}
+
 QVector<ColumnStretch> solidStretches(const ThinnedLine &line, double pixelsPerUnit)
 {
     constexpr int worthwhile = 4;

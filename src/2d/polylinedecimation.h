@@ -38,6 +38,10 @@ struct ThinnedLine
 /// counts as one column each.
 ThinnedLine thinnedLine(const QVector<QPointF> &points, const PixelGrid &grid);
 
+/// Whether every point has a column to itself, but for those in the outermost two columns, which
+/// hold what lies beside the area.
+bool pointsStandApart(const ThinnedLine &line);
+
 /// Neighbouring columns, by index, both inclusive.
 struct ColumnStretch
 {
