@@ -109,7 +109,7 @@ void ListChart::setUpTables()
     header->resizeSection(CurveTableModel::Material, 76);
     header->resizeSection(CurveTableModel::Points, 56);
     ui->pointTable->setModel(m_pointModel);
-    ui->pointTable->horizontalHeader()->setDefaultSectionSize(110);
+    ui->pointTable->horizontalHeader()->setDefaultSectionSize(PointTableModel::columnWidth);
     ui->pointTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->listSplitter->setSizes({200, 300});
     // The table is as high as its rows and one more, which its heading must not exceed.

@@ -8,8 +8,8 @@
 namespace {
 
 constexpr int amplitudeColumn = 1;
-constexpr int leastColumnWidth = 72;
-constexpr int headerPadding = 14;
+constexpr int leastColumnWidth = 66;
+constexpr int headerPadding = 18;
 
 } // namespace
 

@@ -3,7 +3,21 @@
 #include "2d/curveswatch.h"
 #include "2d/curvetext.h"
 
+#include <QFontMetrics>
+#include <QGuiApplication>
 #include <QIcon>
+
+namespace {
+
+// Beside the name: the swatch, and the room around both.
+constexpr int nameWidth = PointTableModel::columnWidth - 36;
+
+QString shortened(const QString &name)
+{
+    return QFontMetrics(QGuiApplication::font()).elidedText(name, Qt::ElideRight, nameWidth);
+}
+
+} // namespace
 
 PointTableModel::PointTableModel(QObject *parent)
     : QAbstractTableModel(parent)
@@ -51,7 +65,8 @@ QVariant PointTableModel::headerData(int section, Qt::Orientation orientation, i
     const Curve &curve = m_curves.at(section / 2);
     const bool isAngle = section % 2 == 0;
     if (role == Qt::DisplayRole)
-        return isAngle ? curve.name + QLatin1Char('\n') + tr("Angle [°]") : tr("Level [dB]");
+        return isAngle ? shortened(curve.name) + QLatin1Char('\n') + tr("Angle [°]")
+                       : tr("Level [dB]");
     if (role == Qt::DecorationRole && isAngle)
         return curveSwatch(curve.color);
     if (role == Qt::ToolTipRole)

@@ -12,6 +12,9 @@ class PointTableModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// What a column is wide, in pixels; a longer name is shortened in the heading.
+    static constexpr int columnWidth = 120;
+
     /// One curve; the points are shared with their owner.
     struct Curve
     {
