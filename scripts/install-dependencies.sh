@@ -9,10 +9,9 @@ set -euo pipefail
 declare -A sets=(
     # The fonts are those of the manual.
     [build]="cmake g++ make ninja-build python3 qtbase5-dev libqt5charts5-dev libqt5serialport5-dev
-             libqt5svg5-dev qttools5-dev qttools5-dev-tools
-             fonts-dejavu-core fonts-wqy-microhei"
-    # Pictures in SVG, Qt's own texts in Chinese, and fonts for both languages.
-    [run]="libqt5svg5 qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
+             qttools5-dev qttools5-dev-tools fonts-dejavu-core fonts-wqy-microhei"
+    # Qt's own texts in Chinese, and fonts for both languages.
+    [run]="qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
     [virtual]="xvfb xauth imagemagick"
     [test]="xvfb xauth xclip xdotool imagemagick"
     [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix git libclang-rt-dev llvm shellcheck"
