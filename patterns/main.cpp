@@ -1,7 +1,9 @@
 #include "appstyle.h"
+#include "display.h"
 #include "patterns/commandline.h"
 #include "patterns/patternwindow.h"
 #include "patterns/workbench.h"
+#include "stopsignals.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -18,23 +20,24 @@ int print(const CommandLine &line)
     return refused ? 1 : 0;
 }
 
-/// Read before there is a window system, so that help and version need none.
-CommandLine earlyCommandLine(int argc, char **argv)
-{
-    const QCoreApplication app(argc, argv);
-    return readCommandLine(QCoreApplication::arguments());
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const CommandLine early = earlyCommandLine(argc, argv);
-    if (early.wish == CommandLine::Wish::Print)
-        return print(early);
+    QStringList arguments;
+    {
+        // Before there is a window system, so that help and version need none.
+        const QCoreApplication app(argc, argv);
+        arguments = QCoreApplication::arguments();
+        const CommandLine early = readCommandLine(arguments);
+        if (early.wish == CommandLine::Wish::Print)
+            return print(early);
+    }
 
+    const bool hasDisplay = Display::prepare(arguments);
     AppStyle::enableHighDpi();
     QApplication app(argc, argv);
+    qInstallMessageHandler(nullptr);
     QApplication::setApplicationName(QStringLiteral("mz6218-patterns"));
     QApplication::setApplicationVersion(QStringLiteral(MZ_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/patterns.ico")));
@@ -45,6 +48,14 @@ int main(int argc, char **argv)
     const CommandLine line = readCommandLine(QApplication::arguments());
     if (line.wish != CommandLine::Wish::Run)
         return print(line);
+    if (!hasDisplay)
+        return print({CommandLine::Wish::Refuse, Display::missingText(), {}, {}});
+
+    // Closed, not only ended: a window stores its place when it is closed.
+    onStopSignals([] {
+        QApplication::closeAllWindows();
+        QApplication::quit();
+    });
     Workbench workbench;
     if (!line.language.isEmpty())
         workbench.useLanguage(line.language);

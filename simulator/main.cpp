@@ -30,7 +30,7 @@ int main(int argc, char **argv)
         return failed ? EXIT_FAILURE : EXIT_SUCCESS;
     }
 
-    sim::quitOnStopSignals();
+    onStopSignals(&QCoreApplication::quit);
     sim::InstrumentServer server(line.options, line.options.trace ? stdout : nullptr);
     QObject::connect(&server, &sim::InstrumentServer::announced, &server,
                      [](const QString &text) { print(stdout, text + QLatin1Char('\n')); });

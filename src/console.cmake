@@ -1,6 +1,7 @@
 # The application frame, which every program shares, and the console.
 target_sources(mz_core PRIVATE
     consolesettings.cpp consolesettings.h
+    display.cpp display.h
     frameedge.cpp frameedge.h
     frequencyunit.cpp frequencyunit.h
     messagelog.cpp messagelog.h
@@ -28,4 +29,4 @@ add_library(mz_console STATIC
 )
 target_link_libraries(mz_console PUBLIC mz_chart mz_link PRIVATE mz_flags)
 
-mz_add_program(mz6218 SOURCES main.cpp LIBRARIES mz_console mz_resources)
+mz_add_program(mz6218 SOURCES main.cpp LIBRARIES mz_console mz_process mz_resources)

@@ -1,8 +1,10 @@
 #include "appinit.h"
 #include "appstyle.h"
+#include "display.h"
 #include "mainwindow.h"
 #include "messagelog.h"
 #include "startoptions.h"
+#include "stopsignals.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -12,12 +14,20 @@
 
 namespace {
 
+/// Prints why the program does not start; its exit code.
+int refuse(const QString &reason)
+{
+    std::fputs(reason.toLocal8Bit().constData(), stderr);
+    return EXIT_FAILURE;
+}
+
 /// Prints what was asked for, or what is wrong; the exit code of the program.
 int tell(const StartOptions &options)
 {
-    const bool refused = options.wish == StartOptions::Wish::Refuse;
-    std::fputs(options.text.toLocal8Bit().constData(), refused ? stderr : stdout);
-    return refused ? EXIT_FAILURE : EXIT_SUCCESS;
+    if (options.wish == StartOptions::Wish::Refuse)
+        return refuse(options.text);
+    std::fputs(options.text.toLocal8Bit().constData(), stdout);
+    return EXIT_SUCCESS;
 }
 
 QStringList rawArguments(int argc, char **argv)
@@ -32,19 +42,23 @@ QStringList rawArguments(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    // Help needs no display, which the application object does; that one takes its own options
-    // away.
-    const StartOptions wished = StartOptions::read(rawArguments(argc, argv));
+    // Help needs no application object, and so not even a part of Qt's that is missing; that object
+    // takes Qt's own options away.
+    const QStringList arguments = rawArguments(argc, argv);
+    const StartOptions wished = StartOptions::read(arguments);
     if (wished.wish == StartOptions::Wish::Print)
         return tell(wished);
 
+    const bool hasDisplay = Display::prepare(arguments);
     AppStyle::enableHighDpi();
     QApplication app(argc, argv);
-    qInstallMessageHandler(MessageLog::handler);
     const StartOptions options = StartOptions::read(QApplication::arguments());
     if (options.wish != StartOptions::Wish::Run)
         return tell(options);
+    if (!hasDisplay)
+        return refuse(Display::missingText() + QLatin1Char('\n'));
 
+    qInstallMessageHandler(MessageLog::handler);
     QApplication::setFont(AppStyle::applicationFont());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/pt.ico")));
     QApplication::setApplicationName(QStringLiteral("MZ6218 Power Meter"));
@@ -53,6 +67,10 @@ int main(int argc, char **argv)
 
     MainWindow window;
     window.show();
+    onStopSignals([] {
+        QApplication::closeAllWindows();
+        QApplication::quit();
+    });
     QTimer::singleShot(0, &window, [&window, &options] { window.begin(options); });
     return QApplication::exec();
 }

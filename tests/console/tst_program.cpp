@@ -22,6 +22,50 @@ QByteArray contentOfAll(const QString &folder)
     return all;
 }
 
+void send(const QString &signal, const QProcess &program)
+{
+    QCOMPARE(QProcess::execute(QStringLiteral("kill"),
+                               {QLatin1Char('-') + signal, QString::number(program.processId())}),
+             0);
+}
+
+/// The console in a folder of its own.
+class CopiedProgram : public QProcess
+{
+public:
+    CopiedProgram()
+    {
+        setStandardErrorFile(QProcess::nullDevice());
+        setWorkingDirectory(QDir::rootPath());
+        QFile::copy(builtProgram, path(QStringLiteral("mz6218")));
+    }
+
+    void startConsole(const QStringList &arguments)
+    {
+        start(path(QStringLiteral("mz6218")), arguments);
+    }
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    QByteArray log() const
+    {
+        const QDir days(path(QStringLiteral("Log")));
+        QByteArray all;
+        for (const QString &day : days.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            all += contentOfAll(days.filePath(day));
+        return all;
+    }
+
+    QByteArray settings() const
+    {
+        QFile file(path(QStringLiteral("config.ini")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_folder{QDir::tempPath() + QString::fromUtf8("/功率 计 XXXXXX")};
+};
+
 } // namespace
 
 /// The console as it is started: from the command line, in a folder of its own.
@@ -33,6 +77,9 @@ private slots:
     void commandLineAnswers_data();
     void commandLineAnswers();
     void measuresFromAnyFolder();
+    void signalEndsItInTheOrdinaryWay_data();
+    void signalEndsItInTheOrdinaryWay();
+    void nohupKeepsItRunning();
 };
 
 void TestProgram::commandLineAnswers_data()
@@ -44,13 +91,21 @@ void TestProgram::commandLineAnswers_data()
     QTest::addColumn<QString>("err");
 
     const QString offscreen = QStringLiteral("offscreen");
-    // Also where there is no display.
+    const QString none; // and so no display either
     QTest::newRow("help") << QStringList(QStringLiteral("--help")) << "xcb" << 0 << "--lan HOST"
                           << "";
-    QTest::newRow("version") << QStringList(QStringLiteral("--version")) << "xcb" << 0 << MZ_VERSION
+    QTest::newRow("version") << QStringList(QStringLiteral("--version")) << none << 0 << MZ_VERSION
                              << "";
     QTest::newRow("bad option") << QStringList(QStringLiteral("--lann")) << offscreen << 1 << ""
                                 << "Usage:";
+    QTest::newRow("bad option behind Qt's own, without a display")
+        << QStringList{QStringLiteral("-style"), QStringLiteral("fusion"), QStringLiteral("--lann")}
+        << none << 1 << ""
+        << "'lann'";
+    QTest::newRow("no display") << QStringList() << none << 1 << ""
+                                << "There is no display";
+    QTest::newRow("display that does not answer") << QStringList() << "xcb" << 1 << ""
+                                                  << "No window can be opened";
     QTest::newRow("bad language") << QStringList{QStringLiteral("--language"), QStringLiteral("de")}
                                   << offscreen << 1 << ""
                                   << "'de'";
@@ -67,6 +122,7 @@ void TestProgram::commandLineAnswers()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
     environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(folder.path());
     program.start(builtProgram, arguments);
@@ -81,26 +137,66 @@ void TestProgram::measuresFromAnyFolder()
 {
     SimulatorProcess simulator;
     QVERIFY(simulator.startOnInstrumentPort());
-    const QTemporaryDir folder(QDir::tempPath() + QString::fromUtf8("/功率 计 XXXXXX"));
-    const QString copy = folder.filePath(QStringLiteral("mz6218"));
-    QVERIFY(QFile::copy(builtProgram, copy));
-
-    QProcess program;
-    program.setStandardErrorFile(QProcess::nullDevice());
-    program.setWorkingDirectory(QDir::rootPath());
-    program.start(copy, {QStringLiteral("--lan"), simulator.address(), QStringLiteral("--language"),
-                         QStringLiteral("cn")});
+    CopiedProgram program;
+    program.startConsole({QStringLiteral("--lan"), simulator.address(),
+                          QStringLiteral("--language"), QStringLiteral("cn")});
     QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 3, 30000));
-    QTRY_VERIFY(contentOfAll(folder.filePath(QStringLiteral("DataRecord"))).count('\n') == 2);
-    const QDir logs(folder.filePath(QStringLiteral("Log")));
-    QByteArray log;
-    for (const QString &day : logs.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        log += contentOfAll(logs.filePath(day));
+    QTRY_COMPARE(contentOfAll(program.path(QStringLiteral("DataRecord"))).count('\n'), 2);
+    const QByteArray log = program.log();
     QVERIFY(log.contains("send cmd: \"GET?\\n\"") && log.contains("\r\n"));
     QVERIFY(!log.contains("Warning: "));
     QCOMPARE(int(program.state()), int(QProcess::Running));
     program.terminate();
     QVERIFY(program.waitForFinished());
+}
+
+void TestProgram::signalEndsItInTheOrdinaryWay_data()
+{
+    QTest::addColumn<QString>("signal");
+    QTest::addColumn<bool>("measures");
+
+    QTest::newRow("Ctrl+C") << "INT" << true;
+    QTest::newRow("shutdown") << "TERM" << true;
+    QTest::newRow("logout") << "HUP" << true;
+    QTest::newRow("while an error box is open") << "TERM" << false;
+}
+
+void TestProgram::signalEndsItInTheOrdinaryWay()
+{
+    QFETCH(QString, signal);
+    QFETCH(bool, measures);
+    SimulatorProcess simulator;
+    QVERIFY(simulator.startOnInstrumentPort());
+    CopiedProgram program;
+    if (measures) {
+        program.startConsole({QStringLiteral("--lan"), simulator.address()});
+        QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 1, 30000));
+    } else {
+        program.startConsole({QStringLiteral("--serial"), QStringLiteral("/dev/no-port")});
+        QTRY_VERIFY_WITH_TIMEOUT(program.log().contains("Open port"), 30000);
+    }
+    send(signal, program);
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
+    QCOMPARE(program.exitCode(), 0);
+    const QByteArray settings = program.settings();
+    QCOMPARE(settings.count('\n'), 5);
+    QCOMPARE(settings.contains("IP:" + simulator.address().toLatin1()), measures);
+}
+
+void TestProgram::nohupKeepsItRunning()
+{
+    SimulatorProcess simulator;
+    QVERIFY(simulator.startOnInstrumentPort());
+    CopiedProgram program;
+    program.start(QStringLiteral("nohup"), {program.path(QStringLiteral("mz6218")),
+                                            QStringLiteral("--lan"), simulator.address()});
+    QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 1, 30000));
+    send(QStringLiteral("HUP"), program);
+    QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 4, 30000));
+    send(QStringLiteral("TERM"), program);
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.settings().count('\n'), 5);
 }
 
 MZ_TEST_GUILESS_MAIN(TestProgram)

@@ -102,6 +102,7 @@ private slots:
     void closedWindowIsGone();
     void commandLineOfTheProgram_data();
     void commandLineOfTheProgram();
+    void signalKeepsThePlaceOfTheWindow();
 
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
@@ -434,6 +435,7 @@ void TestPatternWindow::commandLineOfTheProgram_data()
                              << QByteArray("mz6218-patterns " MZ_VERSION "\n");
     QTest::newRow("help") << QStringList(QStringLiteral("--help")) << 0 << QByteArray("[files...]");
     QTest::newRow("wrong") << QStringList(QStringLiteral("--wrong")) << 1 << QByteArray("wrong");
+    QTest::newRow("no display") << QStringList() << 1 << QByteArray("There is no display");
 }
 
 void TestPatternWindow::commandLineOfTheProgram()
@@ -442,11 +444,33 @@ void TestPatternWindow::commandLineOfTheProgram()
     QFETCH(const QByteArray, output);
     QProcess program;
     program.setProcessChannelMode(QProcess::MergedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(QLatin1String(name));
+    program.setProcessEnvironment(environment);
     program.start(QStringLiteral(MZ_BIN_DIR "/mz6218-patterns"), arguments);
     QVERIFY(program.waitForFinished());
     QTEST(program.exitCode(), "code");
     const QByteArray printed = program.readAll();
     QVERIFY2(printed.contains(output), printed.constData());
+}
+
+void TestPatternWindow::signalKeepsThePlaceOfTheWindow()
+{
+    const QTemporaryDir folder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(MZ_BIN_DIR "/mz6218-patterns"),
+                  {QStringLiteral(MZ_BIN_DIR "/samples/horn.csv")});
+    const WorkbenchSettings settings(folder.filePath(QStringLiteral("mz6218/mz6218-patterns.ini")));
+    QTRY_VERIFY_WITH_TIMEOUT(!settings.recentFiles().isEmpty(), 30000);
+    QVERIFY(settings.windowGeometry().isEmpty());
+    program.terminate();
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
+    QVERIFY(!settings.windowGeometry().isEmpty());
 }
 
 MZ_TEST_MAIN(TestPatternWindow)
