@@ -3,6 +3,7 @@
 #   TGZ  component "portable": one folder with everything beside the programs, Qt's libraries included
 set(programs mz6218 mz6218-sim mz6218-patterns)
 set(samples "${CMAKE_SOURCE_DIR}/patterns/samples")
+set(CPACK_PACKAGE_CONTACT "MZ6218 developers <mz6218@localhost>")
 
 foreach(layout system portable)
     if(layout STREQUAL system)
@@ -15,9 +16,24 @@ foreach(layout system portable)
     install(TARGETS ${programs} RUNTIME DESTINATION ${folder}/bin ${common})
     install(FILES "${CMAKE_BINARY_DIR}/bin/help.pdf" DESTINATION ${folder}/bin ${common})
     install(DIRECTORY "${samples}/" DESTINATION ${folder}/samples ${common} FILES_MATCHING PATTERN "*.csv")
-    install(FILES LICENSE docs/licences.md DESTINATION ${folder}/licences ${common})
-    install(FILES README.md DESTINATION ${folder} ${common})
 endforeach()
+install(FILES packaging/README.txt DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+install(FILES LICENSE docs/licences.md DESTINATION licences COMPONENT portable EXCLUDE_FROM_ALL)
+
+# What Windows shows of a program: icon, name and version. Written on other systems too, where
+# scripts/check-windows.py looks at it.
+function(mz_describe_for_windows program icon description)
+    set(icon "${CMAKE_SOURCE_DIR}/src/resources/image/${icon}")
+    set(description_file "${CMAKE_BINARY_DIR}/packaging/${program}.rc")
+    configure_file("${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in" "${description_file}" @ONLY)
+    if(WIN32)
+        target_sources(${program} PRIVATE "${description_file}")
+    endif()
+endfunction()
+mz_describe_for_windows(mz6218 pt.ico "MZ6218 Power Meter")
+mz_describe_for_windows(mz6218-sim pt.ico "MZ6218 Simulated Instrument")
+mz_describe_for_windows(mz6218-patterns patterns.ico "MZ6218 Antenna Patterns")
+set_target_properties(mz6218 mz6218-patterns PROPERTIES WIN32_EXECUTABLE ON)
 
 if(UNIX)
     # The console keeps its files beside itself and is started through a launcher; the other two write
@@ -26,14 +42,24 @@ if(UNIX)
     configure_file(packaging/linux/mz6218.in "${CMAKE_BINARY_DIR}/packaging/mz6218" @ONLY)
     install(PROGRAMS "${CMAKE_BINARY_DIR}/packaging/mz6218" DESTINATION bin COMPONENT system)
     install(CODE [[
-        set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
-        file(MAKE_DIRECTORY "${folder}")
+        set(prefix "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+        file(MAKE_DIRECTORY "${prefix}/bin")
         foreach(program mz6218-sim mz6218-patterns)
-            file(CREATE_LINK "../lib/mz6218/bin/${program}" "${folder}/${program}" SYMBOLIC)
+            file(CREATE_LINK "../lib/mz6218/bin/${program}" "${prefix}/bin/${program}" SYMBOLIC)
+        endforeach()
+        # The path to the libraries of the portable layout, which means nothing here.
+        foreach(program mz6218 mz6218-sim mz6218-patterns)
+            file(RPATH_REMOVE FILE "${prefix}/lib/mz6218/bin/${program}")
         endforeach()]] COMPONENT system)
     install(FILES packaging/linux/mz6218.desktop packaging/linux/mz6218-patterns.desktop
             DESTINATION share/applications COMPONENT system)
     install(DIRECTORY packaging/icons/hicolor DESTINATION share/icons COMPONENT system)
+
+    set(changelog "${CMAKE_BINARY_DIR}/packaging/changelog")
+    configure_file(packaging/debian/changelog.in "${changelog}" @ONLY)
+    execute_process(COMMAND gzip --force --keep --best --no-name "${changelog}")
+    install(FILES "${changelog}.gz" packaging/debian/copyright docs/licences.md
+            DESTINATION share/doc/mz6218 COMPONENT system)
 
     # DT_RPATH, not RUNPATH: only that is looked at for the libraries of libraries and of plugins too.
     set_target_properties(${programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
@@ -41,19 +67,21 @@ if(UNIX)
         target_link_options(${program} PRIVATE -Wl,--disable-new-dtags)
     endforeach()
     get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
-    execute_process(COMMAND "${qmake}" -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE MZ_QT_PLUGINS
-                    OUTPUT_STRIP_TRAILING_WHITESPACE)
+    foreach(place PLUGINS TRANSLATIONS)
+        execute_process(COMMAND "${qmake}" -query QT_INSTALL_${place} OUTPUT_VARIABLE MZ_QT_${place}
+                        OUTPUT_STRIP_TRAILING_WHITESPACE)
+    endforeach()
     configure_file(packaging/linux/bundle.cmake.in "${CMAKE_BINARY_DIR}/packaging/bundle.cmake" @ONLY)
     install(SCRIPT "${CMAKE_BINARY_DIR}/packaging/bundle.cmake" COMPONENT portable EXCLUDE_FROM_ALL)
 endif()
 
 set(CPACK_PACKAGE_NAME mz6218)
 set(CPACK_PACKAGE_VENDOR "MZ6218 developers")
-set(CPACK_PACKAGE_CONTACT "MZ6218 developers <mz6218@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Console, simulator and pattern workbench for the MZ6218 power meter")
 set(CPACK_PACKAGE_DESCRIPTION
-    "Sets, reads, charts and records an MZ6218 RF power meter over a serial port or TCP, simulates one
- without hardware, and analyses antenna radiation patterns.")
+    "Sets, reads, charts and records an MZ6218 RF power meter over a serial
+ port or TCP, simulates one without hardware, and analyses antenna
+ radiation patterns.")
 set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_SOURCE_DIR}/LICENSE")
 set(CPACK_GENERATOR "DEB;TGZ")
 set(CPACK_STRIP_FILES ON)

@@ -1,5 +1,6 @@
 #include "appstyle.h"
 #include "display.h"
+#include "parentconsole.h"
 #include "patterns/commandline.h"
 #include "patterns/patternwindow.h"
 #include "patterns/workbench.h"
@@ -24,6 +25,7 @@ int print(const CommandLine &line)
 
 int main(int argc, char **argv)
 {
+    useParentConsole();
     QStringList arguments;
     {
         // Before there is a window system, so that help and version need none.

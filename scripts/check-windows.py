@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Lets the Windows compiler read every source of ours, as far as the syntax goes.
+"""Lets the Windows compiler read every source of ours, as far as the syntax goes, and makes the
+resources of the programs and an installer of a stand-in for them.
 
 check-windows.py [BUILD-FOLDER] [PART-OF-A-PATH]
 
@@ -13,11 +14,13 @@ import os
 import shlex
 import subprocess
 import sys
+import tempfile
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 COMPILER = "x86_64-w64-mingw32-g++-posix"
+RESOURCE_COMPILER = "x86_64-w64-mingw32-windres"
 # CMake adds the first two for Unix alone; the last includes a peer's header that Debian alone brings.
 UNIX_ONLY = {"ptylink.cpp", "fakeinstrument.cpp", "qcpchart.cpp"}
 WARNINGS = ["-Wall", "-Wextra", "-Werror"]
@@ -45,12 +48,28 @@ def compilations(build, part):
     return found
 
 
-def compiles(source, settings):
-    result = subprocess.run([COMPILER, "-std=c++17", "-fsyntax-only", *WARNINGS, *settings, str(source)],
-                            capture_output=True, text=True, check=False)
+def succeeds(what, command):
+    result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
     if result.returncode != 0:
-        print(f"Windows refuses {source.relative_to(ROOT)}:\n{result.stderr}", file=sys.stderr, flush=True)
+        print(f"Windows refuses {what}:\n{result.stdout}", file=sys.stderr, flush=True)
     return result.returncode == 0
+
+
+def compiles(source, settings):
+    return succeeds(source.relative_to(ROOT),
+                    [COMPILER, "-std=c++17", "-fsyntax-only", *WARNINGS, *settings, str(source)])
+
+
+def packs(build):
+    """Makes the resources of the programs and the installer."""
+    resources = sorted((build / "packaging").glob("*.rc"))
+    with tempfile.TemporaryDirectory() as folder:
+        good = [succeeds(file.name, [RESOURCE_COMPILER, str(file), "-O", "coff", "-o", f"{folder}/resource"])
+                for file in resources]
+        good.append(succeeds("the installer", [
+            "makensis", "-WX", "-DVERSION=1.0.0", f"-DSOURCE={ROOT}/packaging/windows",
+            f"-DOUTPUT={folder}/mz6218-setup.exe", str(ROOT / "packaging/windows/mz6218.nsi")]))
+    return bool(resources) and all(good)
 
 
 def main(build="build", part=""):
@@ -60,7 +79,8 @@ def main(build="build", part=""):
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         results = list(pool.map(compiles, found.keys(), found.values()))
     print(f"{results.count(True)} of {len(results)} sources compile for Windows.")
-    return 0 if all(results) else 1
+    packed = bool(part) or packs(Path(build).resolve())
+    return 0 if packed and all(results) else 1
 
 
 if __name__ == "__main__":

@@ -1,4 +1,5 @@
-; The installer for Windows: makensis -DVERSION=1.0.0 -DSOURCE=<deployed folder> mz6218.nsi
+; The installer for Windows:
+;   makensis -DVERSION=1.0.0 -DSOURCE=<deployed folder> -DOUTPUT=<installer> mz6218.nsi
 ; It installs for the current user, since the programs keep settings, records and logs beside themselves
 ; and an ordinary user may not write below "Program Files".
 Unicode true
@@ -8,7 +9,7 @@ Unicode true
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\MZ6218"
 
 Name "${APP}"
-OutFile "mz6218-${VERSION}-setup.exe"
+OutFile "${OUTPUT}"
 InstallDir "$LOCALAPPDATA\Programs\MZ6218"
 InstallDirRegKey HKCU "Software\MZ6218" "Folder"
 RequestExecutionLevel user
@@ -33,6 +34,7 @@ Section "Programs"
     WriteRegStr HKCU "Software\MZ6218" "Folder" "$INSTDIR"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "${APP}"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\bin\mz6218.exe"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
 SectionEnd
 
@@ -43,8 +45,8 @@ Section "Uninstall"
     Delete "$INSTDIR\bin\mz6218-patterns.exe"
     Delete "$INSTDIR\bin\*.dll"
     Delete "$INSTDIR\bin\help.pdf"
-    Delete "$INSTDIR\bin\qt.conf"
-    Delete "$INSTDIR\README.md"
+    Delete "$INSTDIR\README.txt"
+    RMDir /r "$INSTDIR\bin\bearer"
     RMDir /r "$INSTDIR\bin\platforms"
     RMDir /r "$INSTDIR\bin\styles"
     RMDir /r "$INSTDIR\bin\imageformats"

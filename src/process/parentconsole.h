@@ -1,0 +1,7 @@
+#pragma once
+
+/// Lets a program with windows print on the console that it was started from. Windows gives such a
+/// program none; output that was redirected goes where it was sent. Does nothing on other systems.
+///
+/// To be called before anything is printed.
+void useParentConsole();
