@@ -19,6 +19,9 @@ LoadingDialog::LoadingDialog(QWidget *parent)
     m_ui->labelText->setStyleSheet(
         QStringLiteral("QLabel {font-size: 30px; font-weight: bold; color: #FF0000;}"));
     m_movie->start();
+    // The console keeps this box for its whole life and shows it for seconds: frames that nobody
+    // sees are not worth the work.
+    connect(m_movie, &QMovie::frameChanged, this, [this] { m_movie->setPaused(!isVisible()); });
 }
 
 LoadingDialog::~LoadingDialog() = default;
@@ -45,6 +48,12 @@ int LoadingDialog::exec()
     setModal(true);
     show();
     return isVisible() ? QDialog::exec() : result();
+}
+
+void LoadingDialog::showEvent(QShowEvent *event)
+{
+    m_movie->setPaused(false);
+    QDialog::showEvent(event);
 }
 
 void LoadingDialog::keyPressEvent(QKeyEvent *event)

@@ -217,12 +217,16 @@ void TestAppFrame::waitDialogShowsTaskAndSeconds()
              QStringLiteral("Calibration %2,waiting...7 s"));
     const QMovie *movie = dialog.findChild<QLabel *>(QStringLiteral("labelMovie"))->movie();
     QVERIFY(movie->isValid() && movie->state() == QMovie::Running && movie->frameCount() > 1);
+    // Behind a dialog that is not shown it would keep the processor busy for days.
+    QTRY_COMPARE(movie->state(), QMovie::Paused);
 
     dialog.show();
+    QCOMPARE(movie->state(), QMovie::Running);
     QTest::keyClick(&dialog, Qt::Key_Escape);
     QVERIFY(dialog.isVisible());
     dialog.close();
     QVERIFY(!dialog.isVisible());
+    QTRY_COMPARE(movie->state(), QMovie::Paused);
 }
 
 MZ_TEST_MAIN(TestAppFrame)
