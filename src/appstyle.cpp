@@ -16,10 +16,15 @@ void enableHighDpi()
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
+QString fontFile()
+{
+    return QStringLiteral("./font/Mulinito-Regular.ttf");
+}
+
 QFont applicationFont()
 {
     QFont font;
-    const int id = QFontDatabase::addApplicationFont(QStringLiteral("./font/Mulinito-Regular.ttf"));
+    const int id = QFontDatabase::addApplicationFont(fontFile());
     const QStringList families =
         id >= 0 ? QFontDatabase::applicationFontFamilies(id) : QStringList();
     if (!families.isEmpty())

@@ -1,6 +1,7 @@
 #pragma once
 
 class QFont;
+class QString;
 
 /// The look of the programs.
 namespace AppStyle {
@@ -8,8 +9,11 @@ namespace AppStyle {
 /// Lets Qt scale the windows on dense screens; to be called before the application object exists.
 void enableHighDpi();
 
-/// The font of the programs, 12 pixels high: the family of "./font/Mulinito-Regular.ttf" or,
-/// without that file, the platform's.
+/// The file that holds the font of the programs, relative to the current directory.
+QString fontFile();
+
+/// The font of the programs, 12 pixels high: the family of fontFile() or, without that file, the
+/// platform's.
 QFont applicationFont();
 
 /// Gives the application the style sheet from the resources and the palette that goes with it.

@@ -1,12 +1,15 @@
 # The application frame, which every program shares, and the console.
 target_sources(mz_core PRIVATE
     consolesettings.cpp consolesettings.h
+    diagnosis.cpp diagnosis.h
     display.cpp display.h
     frameedge.cpp frameedge.h
     frequencyunit.cpp frequencyunit.h
     messagelog.cpp messagelog.h
     recordfile.cpp recordfile.h
+    serialaddress.cpp serialaddress.h
     startoptions.cpp startoptions.h
+    writecheck.cpp writecheck.h
 )
 
 target_sources(mz_widgets PRIVATE
@@ -19,6 +22,7 @@ target_sources(mz_widgets PRIVATE
 add_library(mz_console STATIC
     connectdialog.cpp connectdialog.h connectdialog.ui
     consolepanel.cpp consolepanel.h
+    doctor.cpp doctor.h
     linkmode.h
     linksession.cpp linksession.h
     mainwindow.cpp mainwindow.h mainwindow.ui
@@ -26,6 +30,7 @@ add_library(mz_console STATIC
     powerdisplay.cpp powerdisplay.h
     statuslabels.cpp statuslabels.h
     timechart.cpp timechart.h
+    writenotice.cpp writenotice.h
 )
 target_link_libraries(mz_console PUBLIC mz_chart mz_link PRIVATE mz_flags)
 

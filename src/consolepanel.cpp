@@ -9,7 +9,6 @@
 #include <QActionGroup>
 #include <QDateTime>
 #include <QDir>
-#include <QFileInfo>
 #include <QListView>
 #include <QSignalBlocker>
 
@@ -175,8 +174,7 @@ ConsoleSettings ConsolePanel::settings() const
 
 void ConsolePanel::showSettings(const ConsoleSettings &settings)
 {
-    const bool isFolder = QFileInfo(settings.recordFolder).isDir();
-    setRecordFolder(isFolder ? settings.recordFolder : QCoreApplication::applicationDirPath());
+    setRecordFolder(settings.usedRecordFolder());
     m_ui->spinBoxInterval->setValue(settings.interval);
     m_ui->spinBoxChartPeriod->setValue(settings.period);
 }

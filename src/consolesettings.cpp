@@ -1,8 +1,10 @@
 #include "consolesettings.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStringList>
 
@@ -29,6 +31,16 @@ int periodIn(QString line)
 }
 
 } // namespace
+
+QString ConsoleSettings::ownFile()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini");
+}
+
+QString ConsoleSettings::usedRecordFolder() const
+{
+    return QFileInfo(recordFolder).isDir() ? recordFolder : QCoreApplication::applicationDirPath();
+}
 
 ConsoleSettings ConsoleSettings::parse(const QByteArray &text)
 {

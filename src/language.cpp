@@ -26,6 +26,11 @@ Language::Language() = default;
 
 Language::~Language() = default;
 
+bool Language::hasChineseQtTexts()
+{
+    return chineseQtTexts() != nullptr;
+}
+
 void Language::set(const QString &code)
 {
     const bool chinese = code == QStringLiteral("cn");

@@ -18,6 +18,9 @@ public:
     /// windows have to show their texts anew afterwards.
     void set(const QString &code);
 
+    /// Whether Qt's own texts are there in Chinese.
+    static bool hasChineseQtTexts();
+
     /// "cn" or "en" as last set; empty before.
     QString code() const { return m_code; }
 

@@ -1,8 +1,10 @@
 #include "appinit.h"
 #include "appstyle.h"
 #include "display.h"
+#include "doctor.h"
 #include "mainwindow.h"
 #include "messagelog.h"
+#include "parentconsole.h"
 #include "startoptions.h"
 #include "stopsignals.h"
 
@@ -42,6 +44,7 @@ QStringList rawArguments(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    useParentConsole();
     // Help needs no application object, and so not even a part of Qt's that is missing; that object
     // takes Qt's own options away.
     const QStringList arguments = rawArguments(argc, argv);
@@ -53,6 +56,8 @@ int main(int argc, char **argv)
     AppStyle::enableHighDpi();
     QApplication app(argc, argv);
     const StartOptions options = StartOptions::read(QApplication::arguments());
+    if (options.wish == StartOptions::Wish::Examine)
+        return Doctor::examine(options.examined, hasDisplay, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
     if (options.wish != StartOptions::Wish::Run)
         return tell(options);
     if (!hasDisplay)

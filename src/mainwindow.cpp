@@ -7,6 +7,7 @@
 #include "startoptions.h"
 #include "ui_mainwindow.h"
 #include "widgets/loadingdialog.h"
+#include "writenotice.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -32,11 +33,6 @@ std::unique_ptr<Ui::MainWindow> buildForm(QMainWindow *window)
     auto form = std::make_unique<Ui::MainWindow>();
     form->setupUi(window);
     return form;
-}
-
-QString settingsFile()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini");
 }
 
 } // namespace
@@ -88,6 +84,7 @@ void MainWindow::begin(const StartOptions &options)
         (options.language == QStringLiteral("cn") ? m_ui->actionCN : m_ui->actionEN)->trigger();
         updateFrequency(50, QStringLiteral("MHz"));
     }
+    WriteNotice::show(this, WriteCheck::places(m_ui->lineEditPath->text()));
     if (!options.lanHost.isEmpty()) {
         m_ui->actionCommunication_by_LAN->trigger();
         openPort(options.lanHost, instrumentTcpPort);
@@ -450,13 +447,13 @@ void MainWindow::writeSettings() const
     ConsoleSettings settings = m_panel.settings();
     settings.language = m_language.code();
     settings.ipAddress = m_session->ipAddress();
-    settings.save(settingsFile());
+    settings.save(ConsoleSettings::ownFile());
 }
 
 void MainWindow::readSettings()
 {
     QDir::setCurrent(QCoreApplication::applicationDirPath());
-    const auto settings = ConsoleSettings::load(settingsFile());
+    const auto settings = ConsoleSettings::load(ConsoleSettings::ownFile());
     if (!settings) {
         m_ui->actionEN->trigger();
         return;

@@ -1,5 +1,7 @@
 #include "startoptions.h"
 
+#include "serialaddress.h"
+
 #include <QCommandLineParser>
 
 #include <optional>
@@ -18,7 +20,10 @@ const QString usage = QStringLiteral(
     "  -v, --version         Show the version.\n"
     "  --lan HOST            Connect to the instrument at HOST.\n"
     "  --serial PORT[:BAUD]  Open the serial port PORT, at 115200 baud when no BAUD is given.\n"
-    "  --language en|cn      Start in this language.\n");
+    "  --language en|cn      Start in this language.\n"
+    "  --doctor [HOST|PORT]  Examine what the console needs and, with an address or a serial port\n"
+    "                        (PORT[:BAUD]), whether an instrument answers there; change "
+    "nothing.\n");
 
 /// The options that the console knows.
 struct Known
@@ -27,25 +32,33 @@ struct Known
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")}};
     QCommandLineOption lan{QStringLiteral("lan"), {}, QStringLiteral("HOST")};
     QCommandLineOption serial{QStringLiteral("serial"), {}, QStringLiteral("PORT[:BAUD]")};
+    QCommandLineOption doctor{QStringLiteral("doctor")};
     QCommandLineOption language{QStringLiteral("language"), {}, QStringLiteral("en|cn")};
 };
 
-/// Takes PORT[:BAUD] apart; what is wrong with it, or nothing. Names of ports hold colons as well
-/// (/dev/serial/by-path), so only a number behind the last one is a baud rate.
+/// What is wrong with \a value, or nothing.
 std::optional<QString> readSerial(const QString &value, StartOptions &options)
 {
-    options.serialPort = value;
-    const int colon = value.lastIndexOf(QLatin1Char(':'));
-    bool isNumber = false;
-    const int baudRate = value.mid(colon + 1).toInt(&isNumber);
-    if (colon >= 0 && isNumber) {
-        if (baudRate <= 0)
-            return QStringLiteral("%1 is no baud rate.").arg(baudRate);
-        options.serialPort = value.left(colon);
-        options.baudRate = baudRate;
-    }
-    if (options.serialPort.isEmpty())
+    const SerialAddress address = SerialAddress::read(value);
+    if (address.baudRate <= 0)
+        return QStringLiteral("%1 is no baud rate.").arg(address.baudRate);
+    if (address.port.isEmpty())
         return QStringLiteral("--serial needs the name of a port.");
+    options.serialPort = address.port;
+    options.baudRate = address.baudRate;
+    return std::nullopt;
+}
+
+/// The same for the examination, which takes its address without an option's name.
+std::optional<QString> readExamination(const QCommandLineParser &parser, const Known &known,
+                                       StartOptions &options)
+{
+    if (parser.isSet(known.lan) || parser.isSet(known.serial) || parser.isSet(known.language))
+        return QStringLiteral("--doctor takes no other option, only an address or a port.");
+    if (parser.positionalArguments().size() > 1)
+        return QStringLiteral("--doctor takes one address or port.");
+    options.wish = StartOptions::Wish::Examine;
+    options.examined = parser.positionalArguments().value(0);
     return std::nullopt;
 }
 
@@ -53,6 +66,8 @@ std::optional<QString> readSerial(const QString &value, StartOptions &options)
 std::optional<QString> readValues(const QCommandLineParser &parser, const Known &known,
                                   StartOptions &options)
 {
+    if (parser.isSet(known.doctor))
+        return readExamination(parser, known, options);
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("Unexpected argument '%1'.")
             .arg(parser.positionalArguments().constFirst());
@@ -82,7 +97,8 @@ StartOptions StartOptions::read(const QStringList &arguments)
 {
     const Known known;
     QCommandLineParser parser;
-    parser.addOptions({known.help, known.version, known.lan, known.serial, known.language});
+    parser.addOptions(
+        {known.help, known.version, known.lan, known.serial, known.language, known.doctor});
 
     StartOptions options;
     std::optional<QString> wrong;

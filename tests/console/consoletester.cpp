@@ -105,9 +105,11 @@ QStringList ConsoleTester::faultsOfState(bool open) const
 
 void ConsoleTester::cleanFolder()
 {
-    QFile::remove(path(QStringLiteral("config.ini")));
-    for (const char *folder : {"DataRecord", "Log", "config.ini"})
-        QDir(path(QLatin1String(folder))).removeRecursively();
+    // A test may have put a file into the place of a folder, or a folder into that of a file.
+    for (const char *name : {"DataRecord", "Log", "config.ini"}) {
+        QFile::remove(path(QLatin1String(name)));
+        QDir(path(QLatin1String(name))).removeRecursively();
+    }
 }
 
 QString ConsoleTester::path(const QString &name)

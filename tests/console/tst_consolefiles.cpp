@@ -1,6 +1,7 @@
 #include "connectdialog.h"
 #include "consoletester.h"
 #include "simulatorprocess.h"
+#include "startoptions.h"
 #include "testmain.h"
 
 #include <QAction>
@@ -49,6 +50,8 @@ private slots:
     void anySettingsFileIsTaken_data();
     void anySettingsFileIsTaken();
     void onlyALanConnectionIsRemembered();
+    void saysAtStartWhatCannotBeWritten_data();
+    void saysAtStartWhatCannotBeWritten();
 };
 
 void TestConsoleFiles::recordsGoIntoTheFileOfTheDay()
@@ -219,6 +222,58 @@ void TestConsoleFiles::onlyALanConnectionIsRemembered()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(console.faultsOfState(true), QStringList());
     QCOMPARE(console.text("labelPort"), meter.address() + QStringLiteral("/5001"));
+}
+
+void TestConsoleFiles::saysAtStartWhatCannotBeWritten_data()
+{
+    QTest::addColumn<QStringList>("blocked");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("said");
+
+    const QString settings = QStringLiteral("config.ini");
+    const QString records = QStringLiteral("DataRecord");
+    const QString log = QStringLiteral("Log");
+    QTest::newRow("nothing") << QStringList() << "en" << QStringList();
+    QTest::newRow("settings") << QStringList(settings) << "en"
+                              << QStringList(QStringLiteral("forgotten"));
+    QTest::newRow("records") << QStringList(records) << "en"
+                             << QStringList(QStringLiteral("No reading is recorded"));
+    QTest::newRow("log") << QStringList(log) << "en" << QStringList(QStringLiteral("no messages"));
+    QTest::newRow("everything, in Chinese")
+        << QStringList{settings, records, log} << "cn"
+        << QStringList{QStringLiteral("设置"), QStringLiteral("记录"), QStringLiteral("日志")};
+}
+
+void TestConsoleFiles::saysAtStartWhatCannotBeWritten()
+{
+    QFETCH(QStringList, blocked);
+    QFETCH(QString, language);
+    QFETCH(QStringList, said);
+    for (const QString &name : blocked) {
+        const QString path = ConsoleTester::path(name);
+        // What stands in the way is one of the other kind: rights would not hold back everyone.
+        if (path == settingsPath())
+            QVERIFY(QDir().mkpath(path));
+        else
+            QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+    }
+    SimulatorProcess simulator;
+    QVERIFY(simulator.startOnInstrumentPort());
+    const ConsoleTester console;
+    StartOptions options;
+    options.language = language;
+    options.lanHost = simulator.address();
+    console.window().begin(options);
+
+    // The measurement has begun, whether somebody reads the box or not.
+    QCOMPARE(console.faultsOfState(true), QStringList());
+    const auto boxes = console.window().findChildren<QMessageBox *>();
+    QCOMPARE(boxes.size(), said.isEmpty() ? 0 : 1);
+    for (const QString &name : blocked)
+        QVERIFY2(boxes[0]->text().contains(ConsoleTester::path(name)),
+                 qPrintable(boxes[0]->text()));
+    for (const QString &text : said)
+        QVERIFY2(boxes[0]->text().contains(text), qPrintable(boxes[0]->text()));
 }
 
 MZ_TEST_MAIN(TestConsoleFiles)

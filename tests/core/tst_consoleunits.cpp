@@ -147,6 +147,12 @@ void TestConsoleUnits::commandLine_data()
         << words("--language de") << Wish::Refuse << none << none << usual << "'de'";
     QTest::newRow("stray word") << words("10.0.0.2") << Wish::Refuse << none << none << usual
                                 << "'10.0.0.2'";
+    QTest::newRow("examination") << words("--doctor COM3:9600") << Wish::Examine << none << none
+                                 << usual << none;
+    QTest::newRow("examination of two")
+        << words("--doctor a b") << Wish::Refuse << none << none << usual << "one address";
+    QTest::newRow("examination and link")
+        << words("--doctor --lan a") << Wish::Refuse << none << none << usual << "no other option";
     QTest::newRow("help") << words("--help") << Wish::Print << none << none << usual
                           << "--serial PORT";
 }

@@ -1603,4 +1603,38 @@ correction</source>
         <translation>前后比：峰值电平减去反方向电平</translation>
     </message>
 </context>
+<context>
+    <name>WriteCheck</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>%1 is no folder</source>
+        <translation>%1 不是文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>WriteNotice</name>
+    <message>
+        <source>Settings: %1 (%2). What you set now is forgotten at the end.</source>
+        <translation>设置：%1（%2）。本次所做的设置在退出后不会保留。</translation>
+    </message>
+    <message>
+        <source>Records: %1 (%2). No reading is recorded until you choose another folder.</source>
+        <translation>记录：%1（%2）。选择其他文件夹之前，不会记录任何读数。</translation>
+    </message>
+    <message>
+        <source>Log: %1 (%2). There will be no messages to look into.</source>
+        <translation>日志：%1（%2）。将没有可供查看的消息。</translation>
+    </message>
+    <message>
+        <source>The console cannot write everything that it keeps:</source>
+        <translation>控制台无法写入以下内容：</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注意</translation>
+    </message>
+</context>
 </TS>

@@ -1603,4 +1603,38 @@ correction</translation>
         <translation>Front-to-back ratio: peak level minus the level in the opposite direction</translation>
     </message>
 </context>
+<context>
+    <name>WriteCheck</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>not an ordinary file</translation>
+    </message>
+    <message>
+        <source>%1 is no folder</source>
+        <translation>%1 is no folder</translation>
+    </message>
+</context>
+<context>
+    <name>WriteNotice</name>
+    <message>
+        <source>Settings: %1 (%2). What you set now is forgotten at the end.</source>
+        <translation>Settings: %1 (%2). What you set now is forgotten at the end.</translation>
+    </message>
+    <message>
+        <source>Records: %1 (%2). No reading is recorded until you choose another folder.</source>
+        <translation>Records: %1 (%2). No reading is recorded until you choose another folder.</translation>
+    </message>
+    <message>
+        <source>Log: %1 (%2). There will be no messages to look into.</source>
+        <translation>Log: %1 (%2). There will be no messages to look into.</translation>
+    </message>
+    <message>
+        <source>The console cannot write everything that it keeps:</source>
+        <translation>The console cannot write everything that it keeps:</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,245 @@
+#include "diagnosis.h"
+#include "serialaddress.h"
+#include "simulatorprocess.h"
+#include "testmain.h"
+#include "writecheck.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <functional>
+
+using Verdict = Finding::Verdict;
+using Prepare = std::function<void(const QDir &)>;
+
+Q_DECLARE_METATYPE(Finding)
+Q_DECLARE_METATYPE(Verdict)
+Q_DECLARE_METATYPE(Prepare)
+
+namespace {
+
+void write(const QString &path, const QByteArray &text = {})
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), text.size());
+}
+
+/// Every name below \a folder, with size and time of the last change.
+QStringList contentOf(const QString &folder)
+{
+    QStringList content;
+    QDirIterator each(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (each.hasNext()) {
+        each.next();
+        content.append(QStringLiteral("%1 %2 %3")
+                           .arg(each.filePath(), QString::number(each.fileInfo().size()),
+                                each.fileInfo().lastModified().toString(Qt::ISODateWithMs)));
+    }
+    content.sort();
+    return content;
+}
+
+PortFacts lockedPort(bool isAdapter, const char *group)
+{
+    PortFacts port;
+    port.name = QStringLiteral("ttyUSB0");
+    port.path = QStringLiteral("/dev/ttyUSB0");
+    port.isAdapter = isAdapter;
+    port.group = QLatin1String(group);
+    port.mayBeOpened = false;
+    return port;
+}
+
+} // namespace
+
+/// The examination of the machine: what it finds, and how it says so.
+class TestDoctor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void judges_data();
+    void judges();
+    void tellsPortsFromHosts_data();
+    void tellsPortsFromHosts();
+    void seesWhatIsInTheWay_data();
+    void seesWhatIsInTheWay();
+    void examines_data();
+    void examines();
+};
+
+void TestDoctor::judges_data()
+{
+    QTest::addColumn<Finding>("finding");
+    QTest::addColumn<Verdict>("verdict");
+    QTest::addColumn<QString>("said");
+
+    QTest::newRow("adapter that this user may not open")
+        << Diagnosis::ofPort(lockedPort(true, "dialout")) << Verdict::Wrong << "-aG dialout";
+    QTest::newRow("adapter that no group may open")
+        << Diagnosis::ofPort(lockedPort(true, "")) << Verdict::Wrong << "right to open it";
+    QTest::newRow("built-in port that nobody uses")
+        << Diagnosis::ofPort(lockedPort(false, "dialout")) << Verdict::Note << "ttyUSB0";
+    QTest::newRow("no Chinese font for an English console")
+        << Diagnosis::ofChineseFont(false, false) << Verdict::Note << "boxes";
+    QTest::newRow("no Chinese font for a Chinese console")
+        << Diagnosis::ofChineseFont(false, true) << Verdict::Wrong << "fonts-wqy-microhei";
+    QTest::newRow("pictures that cannot be shown")
+        << Diagnosis::ofPictures({QStringLiteral("gif")}) << Verdict::Wrong << "gif";
+    QTest::newRow("silent host") << Diagnosis::ofAnswer({QStringLiteral("10.0.0.2"), false, {}, {}})
+                                 << Verdict::Wrong << "10.0.0.2";
+    QTest::newRow("silent port") << Diagnosis::ofAnswer({QStringLiteral("COM3"), true, {}, {}})
+                                 << Verdict::Wrong << "baud rate";
+}
+
+void TestDoctor::judges()
+{
+    QFETCH(Finding, finding);
+    QFETCH(QString, said);
+    const QString line = Diagnosis::line(finding);
+    QTEST(finding.verdict, "verdict");
+    QVERIFY2(line.contains(said), qPrintable(line));
+    QCOMPARE(line.contains(QStringLiteral("WRONG")), finding.verdict == Verdict::Wrong);
+    QVERIFY2(line.contains(QStringLiteral("->")), "it says what to do");
+    QCOMPARE(Diagnosis::isSound({finding, finding}), finding.verdict != Verdict::Wrong);
+}
+
+void TestDoctor::tellsPortsFromHosts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isPort");
+    QTest::addColumn<QString>("port");
+    QTest::addColumn<int>("baud");
+
+    const int usual = 115200;
+    QTest::newRow("address") << "192.168.1.20" << false << "192.168.1.20" << usual;
+    QTest::newRow("host") << "meter.lab" << false << "meter.lab" << usual;
+    QTest::newRow("IPv6 address") << "fe80::1" << false << "fe80:" << 1;
+    QTest::newRow("path") << "/dev/ttyUSB0:9600" << true << "/dev/ttyUSB0" << 9600;
+    QTest::newRow("name of an unplugged adapter") << "ttyUSB3" << true << "ttyUSB3" << usual;
+    QTest::newRow("Windows") << "com12:19200" << true << "com12" << 19200;
+    QTest::newRow("host with a port's beginning") << "compass" << false << "compass" << usual;
+    QTest::newRow("name in the list") << "cu.meter" << true << "cu.meter" << usual;
+}
+
+void TestDoctor::tellsPortsFromHosts()
+{
+    QFETCH(QString, text);
+    const SerialAddress address = SerialAddress::read(text);
+    QTEST(address.port, "port");
+    QTEST(address.baudRate, "baud");
+    QTEST(address.isPort({QStringLiteral("ttyS0"), QStringLiteral("cu.meter")}), "isPort");
+}
+
+void TestDoctor::seesWhatIsInTheWay_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::addColumn<bool>("blocked");
+
+    QTest::newRow("nothing there yet") << Prepare([](const QDir &) {}) << false;
+    QTest::newRow("file of today") << Prepare([](const QDir &dir) {
+        QVERIFY(dir.mkpath(QStringLiteral("a/b")));
+        write(dir.filePath(QStringLiteral("a/b/file")), "kept");
+    }) << false;
+    QTest::newRow("folder in the file's place")
+        << Prepare([](const QDir &dir) { QVERIFY(dir.mkpath(QStringLiteral("a/b/file"))); })
+        << true;
+    QTest::newRow("file in a folder's place")
+        << Prepare([](const QDir &dir) { write(dir.filePath(QStringLiteral("a"))); }) << true;
+    QTest::newRow("link to a medium that was taken out") << Prepare([](const QDir &dir) {
+        QVERIFY(QFile::link(QStringLiteral("/gone"), dir.filePath(QStringLiteral("a"))));
+    }) << true;
+}
+
+void TestDoctor::seesWhatIsInTheWay()
+{
+    QFETCH(Prepare, prepare);
+    const QTemporaryDir folder;
+    prepare(QDir(folder.path()));
+    const QStringList before = contentOf(folder.path());
+    const auto obstacle = WriteCheck::obstacle(folder.filePath(QStringLiteral("a/b/file")));
+    QTEST(obstacle.has_value(), "blocked");
+    QCOMPARE(contentOf(folder.path()), before);
+}
+
+void TestDoctor::examines_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::addColumn<QString>("address"); // "LAN" and "serial": those of the simulator
+    QTest::addColumn<QString>("said");
+
+    const Prepare nothing([](const QDir &) {});
+    const QString none;
+    const QString answer = QStringLiteral("OK     %1: answers as \"MZ6218");
+    QTest::newRow("no display") << nothing << none << "note   There is no display";
+    QTest::newRow("instrument in the network") << nothing << "LAN" << answer;
+    QTest::newRow("instrument at a port") << nothing << "serial" << answer;
+    QTest::newRow("nobody at the address") << nothing << "127.255.0.1"
+                                           << "WRONG  %1: Failed to connect";
+    QTest::newRow("no such port") << nothing << "/dev/no-port:9600"
+                                  << "WRONG  %1: Failed to open /dev/no-port\n";
+    QTest::newRow("impossible rate") << nothing << "/dev/no-port:0"
+                                     << "no baud rate";
+    QTest::newRow("records blocked")
+        << Prepare([](const QDir &dir) { write(dir.filePath(QStringLiteral("DataRecord"))); })
+        << none << "WRONG  Records cannot be written";
+    QTest::newRow("chosen folder blocked") << Prepare([](const QDir &dir) {
+        const QString name =
+            QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".csv");
+        QVERIFY(dir.mkpath(QStringLiteral("chosen/") + name));
+        const QString path = dir.filePath(QStringLiteral("chosen"));
+        write(dir.filePath(QStringLiteral("config.ini")),
+              QStringLiteral("language:en\nIP:\nPath:%1\n").arg(path).toUtf8());
+    }) << none << "chosen (";
+    QTest::newRow("chosen folder gone") << Prepare([](const QDir &dir) {
+        write(dir.filePath(QStringLiteral("config.ini")), "language:en\nIP:\nPath:/gone\n");
+    }) << none << "note   The chosen folder of the records is gone: /gone";
+    QTest::newRow("font that is none") << Prepare([](const QDir &dir) {
+        QVERIFY(dir.mkpath(QStringLiteral("font")));
+        write(dir.filePath(QStringLiteral("font/Mulinito-Regular.ttf")), "no font");
+    }) << none << "Mulinito-Regular.ttf is no font";
+}
+
+void TestDoctor::examines()
+{
+    QFETCH(Prepare, prepare);
+    QFETCH(QString, address);
+    QFETCH(QString, said);
+    SimulatorProcess simulator;
+    QVERIFY(simulator.startOnInstrumentPort({QStringLiteral("--serial")}));
+    if (address == QStringLiteral("LAN"))
+        address = simulator.address();
+    else if (address == QStringLiteral("serial"))
+        address = simulator.serialPath();
+
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("mz6218"));
+    QVERIFY(QFile::copy(QStringLiteral(MZ_BIN_DIR "/mz6218"), copy));
+    prepare(QDir(folder.path()));
+    const QStringList before = contentOf(folder.path());
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(QLatin1String(name));
+    program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(folder.path());
+    QStringList arguments(QStringLiteral("--doctor"));
+    if (!address.isEmpty())
+        arguments.append(address);
+    program.start(copy, arguments);
+    QVERIFY(program.waitForFinished());
+    const QString report = QString::fromUtf8(program.readAllStandardOutput());
+    QCOMPARE(program.exitCode() != 0, report.contains(QStringLiteral("WRONG ")));
+    if (said.contains(QStringLiteral("%1")))
+        said = said.arg(address);
+    QVERIFY2(report.contains(said), qPrintable(report));
+    QCOMPARE(contentOf(folder.path()), before);
+}
+
+MZ_TEST_GUILESS_MAIN(TestDoctor)
+#include "tst_doctor.moc"
