@@ -14,7 +14,8 @@ declare -A sets=(
     [run]="qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
     [virtual]="xvfb xauth imagemagick"
     [test]="xvfb xauth xclip xdotool imagemagick"
-    [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix git libclang-rt-dev llvm nsis shellcheck"
+    [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix desktop-file-utils git libclang-rt-dev
+          llvm nsis shellcheck"
     [pictures]="xvfb xauth imagemagick xdotool poppler-utils"
     [bench]="libqwt-qt5-dev libqcustomplot-dev"
 )
