@@ -38,9 +38,7 @@ set_target_properties(mz6218 mz6218-patterns PROPERTIES WIN32_EXECUTABLE ON)
 if(UNIX)
     # The console keeps its files beside itself and is started through a launcher; the other two write
     # nothing by themselves.
-    set(MZ_INSTALLED "/usr/lib/mz6218")
-    configure_file(packaging/linux/mz6218.in "${CMAKE_BINARY_DIR}/packaging/mz6218" @ONLY)
-    install(PROGRAMS "${CMAKE_BINARY_DIR}/packaging/mz6218" DESTINATION bin COMPONENT system)
+    install(PROGRAMS packaging/linux/mz6218.sh DESTINATION bin RENAME mz6218 COMPONENT system)
     install(CODE [[
         set(prefix "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
         file(MAKE_DIRECTORY "${prefix}/bin")

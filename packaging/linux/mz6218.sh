@@ -3,7 +3,7 @@
 # its program file, and the installed one lies where an ordinary user may not write.
 set -eu
 
-installed='@MZ_INSTALLED@/bin'
+installed=$(readlink -f "$(dirname "$(readlink -f "$0")")/../lib/mz6218/bin")
 folder=${MZ6218_HOME:-${XDG_DATA_HOME:-${HOME:-}/.local/share}/mz6218}
 
 # Puts the installed console into the folder. A copy, not a link: the program finds its folder by the
