@@ -38,22 +38,15 @@ protected:
         for (int end = m_received.indexOf('\n'); end >= 0; end = m_received.indexOf('\n')) {
             lines.append(m_received.left(end + 1));
             m_received.remove(0, end + 1);
-            answer();
+            const Answer answer = answers.isEmpty() ? Answer() : answers.takeFirst();
+            m_pieces = answer.pieces;
+            sendNextPiece();
+            if (answer.hangsUp)
+                hangUp();
         }
     }
 
 private:
-    void answer()
-    {
-        if (answers.isEmpty())
-            return;
-        const Answer answer = answers.takeFirst();
-        m_pieces = answer.pieces;
-        sendNextPiece();
-        if (answer.hangsUp)
-            hangUp();
-    }
-
     QByteArray m_received;
     QList<QByteArray> m_pieces;
 };
@@ -154,17 +147,10 @@ private:
     int m_slave = -1;
 };
 
-FakeWire *makeWire(int linkMode)
-{
-    if (linkMode == 0)
-        return new SerialWire;
-    return new TcpWire;
-}
-
 } // namespace
 
 FakeInstrument::FakeInstrument(int linkMode, const QList<Answer> &answers)
-    : m_wire(makeWire(linkMode))
+    : m_wire(linkMode == 0 ? static_cast<FakeWire *>(new SerialWire) : new TcpWire)
 {
     m_wire->answers = answers;
     m_wire->moveToThread(&m_thread);

@@ -4,34 +4,65 @@
 #include <QTcpSocket>
 #include <QtTest>
 
-Answer says(const char *line)
+namespace {
+
+QString asText(const QString &text)
 {
-    return Answer{{QByteArray(line) + '\n'}};
+    return text;
 }
 
-QTestData &newRow(int linkMode, const char *name)
+QString asText(double number)
 {
-    return QTest::addRow("%s%s%s", linkMode == 0 ? "serial" : "TCP", *name ? ": " : "", name)
-           << linkMode;
+    return QString::number(number);
+}
+
+} // namespace
+
+void addBothRoads()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("serial") << serial;
+    QTest::newRow("TCP") << tcp;
+}
+
+Answer says(const QByteArray &line)
+{
+    return Answer{{line + '\n'}};
 }
 
 RecordedLink::RecordedLink(int linkMode)
     : mode(linkMode)
+    , notOpen(mode == serial ? text("Please open the serial port first.")
+                             : text("Please connect first."))
 {
+    using Link = SerialLogic;
     link.setLinkMode(linkMode);
-    record();
+    QObject::connect(&link, &Link::errors, &link, [this](const QString &line) { errors << line; });
+    QObject::connect(&link, &Link::displayLog, &link,
+                     [this](const QString &line) { displayed << line; });
+    record(&Link::updateIDN, "identity '%1'");
+    record(&Link::updateFrequency, "frequency %1 '%2'");
+    record(&Link::updateOffset, "offset %1");
+    record(&Link::updatePowUnit, "unit '%1'");
+    record(&Link::updateMeasureState, "state '%1'");
+    record(&Link::updateAverageCount, "count %1");
+    record(&Link::updatePower, "power %1 '%2'");
+    record(&Link::updateSetZeroSuccess, "zeroed");
+    record(&Link::updateSetZeroFailed, "not zeroed");
+    record(&Link::updateCalibrationSuccess, "calibrated");
+    record(&Link::updateCalibrationFailed, "not calibrated");
 }
 
 QIODevice *RecordedLink::device() const
 {
-    if (mode == 0)
+    if (mode == serial)
         return link.findChild<QSerialPort *>();
     return link.findChild<QTcpSocket *>();
 }
 
 bool RecordedLink::isUp() const
 {
-    if (mode == 0)
+    if (mode == serial)
         return device()->isOpen();
     return link.findChild<QTcpSocket *>()->state() == QAbstractSocket::ConnectedState;
 }
@@ -42,41 +73,15 @@ void RecordedLink::shortenReading()
     link.setWaits(waits);
 }
 
-void RecordedLink::record()
+template<typename... Values>
+void RecordedLink::record(void (SerialLogic::*signal)(Values...), const char *format)
 {
-    const auto put = [this](const char *format, const auto &...arguments) {
-        values.append(QString::fromLatin1(format).arg(arguments...));
-    };
-    const auto note = [this](const char *what) { values.append(QString::fromLatin1(what)); };
-    using Link = SerialLogic;
-    QObject *const context = &link;
-    QObject::connect(&link, &Link::errors, context,
-                     [this](const QString &text) { errors << text; });
-    QObject::connect(&link, &Link::displayLog, context,
-                     [this](const QString &text) { displayed << text; });
-    QObject::connect(&link, &Link::updateIDN, context,
-                     [put](const QString &idn) { put("identity '%1'", idn); });
-    QObject::connect(&link, &Link::updateFrequency, context,
-                     [put](double value, const QString &unit) {
-                         put("frequency %1 '%2'", QString::number(value), unit);
-                     });
-    QObject::connect(&link, &Link::updateOffset, context,
-                     [put](double value) { put("offset %1", QString::number(value)); });
-    QObject::connect(&link, &Link::updatePowUnit, context,
-                     [put](const QString &unit) { put("unit '%1'", unit); });
-    QObject::connect(&link, &Link::updateMeasureState, context,
-                     [put](const QString &state) { put("state '%1'", state); });
-    QObject::connect(&link, &Link::updateAverageCount, context,
-                     [put](int count) { put("count %1", QString::number(count)); });
-    QObject::connect(&link, &Link::updatePower, context, [put](double dbm, const QString &text) {
-        put("power %1 '%2'", QString::number(dbm), text);
+    QObject::connect(&link, signal, &link, [this, format](const Values &...values) {
+        QString told = QString::fromLatin1(format);
+        if constexpr (sizeof...(values) > 0)
+            told = told.arg(asText(values)...);
+        m_told.append(told);
     });
-    QObject::connect(&link, &Link::updateSetZeroSuccess, context, [note] { note("zeroed"); });
-    QObject::connect(&link, &Link::updateSetZeroFailed, context, [note] { note("not zeroed"); });
-    QObject::connect(&link, &Link::updateCalibrationSuccess, context,
-                     [note] { note("calibrated"); });
-    QObject::connect(&link, &Link::updateCalibrationFailed, context,
-                     [note] { note("not calibrated"); });
 }
 
 LinkBench::LinkBench(int linkMode, const QList<Answer> &answers)

@@ -6,13 +6,26 @@
 #include <QIODevice>
 #include <QStringList>
 
-class QTestData;
+#include <functional>
+
+/// What a test does with a link.
+using Action = std::function<void(SerialLogic &)>;
+
+/// The call of \a slot with \a values.
+template<typename... Arguments, typename... Values>
+Action call(void (SerialLogic::*slot)(Arguments...), const Values &...values)
+{
+    return [=](SerialLogic &link) { (link.*slot)(values...); };
+}
+
+constexpr int serial = 0;
+constexpr int tcp = 1;
+
+/// The global data of tests that run over both roads: the column \a mode.
+void addBothRoads();
 
 /// The answer that is \a line and a newline.
-Answer says(const char *line);
-
-/// A row of a test that runs over both roads; its first column is \a linkMode.
-QTestData &newRow(int linkMode, const char *name = "");
+Answer says(const QByteArray &line);
 
 /// The text of a literal in UTF-8.
 inline QString text(const char *utf8)
@@ -24,7 +37,6 @@ inline QString text(const char *utf8)
 class RecordedLink
 {
 public:
-    /// \a linkMode is 0 for serial, 1 for TCP.
     explicit RecordedLink(int linkMode);
 
     /// The port or socket that the link uses.
@@ -33,17 +45,22 @@ public:
     bool isUp() const;
     /// Lets reads give up after a moment, for answers that never come.
     void shortenReading();
+    /// The update signals in order, as "frequency 2.45 'GHz', zeroed".
+    QString told() const { return m_told.join(QLatin1String(", ")); }
 
     const int mode;
+    const QString notOpen; ///< what the user is told of a command without a line
     LinkWaits waits;
     SerialLogic link;
 
-    QStringList values;    ///< the update signals in order, as "frequency 2.45 'GHz'"
     QStringList errors;    ///< the messages for the user
     QStringList displayed; ///< the lines for the on-screen log
 
 private:
-    void record();
+    template<typename... Values>
+    void record(void (SerialLogic::*signal)(Values...), const char *format);
+
+    QStringList m_told;
 };
 
 /// A recorded link and the fake instrument at its other end.
