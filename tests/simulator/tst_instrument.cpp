@@ -10,9 +10,6 @@ using namespace sim;
 
 namespace {
 
-/// Command and reply in turn.
-using Talk = QList<QByteArray>;
-
 Instrument steadyInstrument(bool microSign = false)
 {
     return Instrument(PowerSource(-20.0, 0.0, 1), 7, microSign);
@@ -44,9 +41,6 @@ private slots:
     void talk();
     void refusalChangesNothing_data();
     void refusalChangesNothing();
-    void onlyNumericFrequency();
-    void operations();
-    void watts_data();
     void watts();
     void microSign();
     void sourceRepeatsForASeed();
@@ -56,86 +50,60 @@ private slots:
 
 void TestInstrument::talk_data()
 {
-    QTest::addColumn<Talk>("talk");
-
-    QTest::newRow("identity") << Talk{"*IDN?", "RETURN:IDN MZ6218,SIM000007," MZ_VERSION};
-    QTest::newRow("state after power-on") << Talk{
-        "FREQ?", "RETURN:FREQ 50MHz",  "AVER:COUN?", "RETURN:AVER:COUN 1", "REL?", "RETURN:REL OFF",
-        "OFFS?", "RETURN:OFFS 0.00dB", "UNIT:POW?",  "RETURN:UNIT:POW dBm"};
-    QTest::newRow("frequency keeps its unit")
-        << Talk{"FREQ 2.45GHz", "RETURN:OK", "FREQ?", "RETURN:FREQ 2.45GHz",
-                "FREQ 2450MHz", "RETURN:OK", "FREQ?", "RETURN:FREQ 2450MHz",
-                "FREQ 1500KHz", "RETURN:OK", "FREQ?", "RETURN:FREQ 1500KHz"};
-    QTest::newRow("a frequency without unit is in GHz")
-        << Talk{"FREQ 2.45", "RETURN:OK", "FREQ?", "RETURN:FREQ 2.45GHz",
-                "FREQ 3.00", "RETURN:OK", "FREQ?", "RETURN:FREQ 3GHz"};
-    QTest::newRow("both ends of the frequency range, to the kHz")
-        << Talk{"FREQ 1KHz",        "RETURN:OK", "FREQ?", "RETURN:FREQ 1KHz",
-                "FREQ 0.000001GHz", "RETURN:OK", "FREQ?", "RETURN:FREQ 0.000001GHz",
-                "FREQ 40GHz",       "RETURN:OK", "FREQ?", "RETURN:FREQ 40GHz",
-                "FREQ 40000000KHz", "RETURN:OK", "FREQ?", "RETURN:FREQ 40000000KHz"};
-    QTest::newRow("the offset shifts the reading")
-        << Talk{"OFFS 3.50",          "RETURN:OK", "OFFS?",
-                "RETURN:OFFS 3.50dB", "GET?",      "RETURN:GET -16.50dBm,-16.50dBm"};
-    QTest::newRow("the unit is that of the second field alone")
-        << Talk{"GET?",         "RETURN:GET -20.00dBm,-20.00dBm",
-                "UNIT:POW W",   "RETURN:OK",
-                "UNIT:POW?",    "RETURN:UNIT:POW W",
-                "GET?",         "RETURN:GET -20.00dBm,10.00uW",
-                "UNIT:POW dBm", "RETURN:OK",
-                "UNIT:POW?",    "RETURN:UNIT:POW dBm"};
-    QTest::newRow("relative to the power at ON, anew at each ON")
-        << Talk{"REL ON",     "RETURN:OK",
-                "REL?",       "RETURN:REL ON",
-                "GET?",       "RETURN:GET 0.00dBm,0.00dB",
-                "OFFS -2.00", "RETURN:OK",
-                "GET?",       "RETURN:GET -2.00dBm,-2.00dB",
-                "REL ON",     "RETURN:OK",
-                "GET?",       "RETURN:GET 0.00dBm,0.00dB",
-                "REL OFF",    "RETURN:OK",
-                "GET?",       "RETURN:GET -22.00dBm,-22.00dBm"};
-    QTest::newRow("case, blanks and a carriage return do not matter")
-        << Talk{" freq   2.45 ghz \r", "RETURN:OK", "Freq?\r", "RETURN:FREQ 2.45GHz"};
-    QTest::newRow("what it does not know") << Talk{"READ?",
-                                                   "RETURN:ERR -113,Undefined header",
-                                                   "FREQ",
-                                                   "RETURN:ERR -109,Missing parameter",
-                                                   "GET? 1",
-                                                   "RETURN:ERR -108,Parameter not allowed",
-                                                   QByteArray("GE\0T?", 5),
-                                                   "RETURN:ERR -113,Undefined header",
-                                                   "",
-                                                   "",
-                                                   " \r",
-                                                   ""};
+    QTest::addColumn<QByteArray>("talk"); // "command > what follows RETURN: in the reply | ..."
+    const auto row = [](const char *name, const char *talk) {
+        QTest::newRow(name) << QByteArray(talk);
+    };
+    row("identity", "*IDN? > IDN MZ6218,SIM000007," MZ_VERSION);
+    row("state after power-on", "FREQ? > FREQ 50MHz | AVER:COUN? > AVER:COUN 1 | REL? > REL OFF | "
+                                "OFFS? > OFFS 0.00dB | UNIT:POW? > UNIT:POW dBm");
+    row("frequency keeps its unit", "FREQ 2450MHz > OK | FREQ? > FREQ 2450MHz | "
+                                    "FREQ 1500KHz > OK | FREQ? > FREQ 1500KHz");
+    row("a frequency without unit is in GHz", "FREQ 2.45 > OK | FREQ? > FREQ 2.45GHz | "
+                                              "FREQ 3.00 > OK | FREQ? > FREQ 3GHz");
+    row("both ends of the frequency range, to the kHz",
+        "FREQ 1KHz > OK | FREQ 0.000001GHz > OK | FREQ? > FREQ 0.000001GHz | "
+        "FREQ 40GHz > OK | FREQ 40000000KHz > OK | FREQ? > FREQ 40000000KHz");
+    row("the offset shifts the reading",
+        "OFFS 3.50 > OK | OFFS? > OFFS 3.50dB | GET? > GET -16.50dBm,-16.50dBm");
+    row("the unit is that of the second field alone",
+        "UNIT:POW W > OK | UNIT:POW? > UNIT:POW W | GET? > GET -20.00dBm,10.00uW | "
+        "UNIT:POW dBm > OK | UNIT:POW? > UNIT:POW dBm | GET? > GET -20.00dBm,-20.00dBm");
+    row("relative to the power at ON, anew at each ON",
+        "REL ON > OK | REL? > REL ON | GET? > GET 0.00dBm,0.00dB | "
+        "OFFS -2.00 > OK | GET? > GET -2.00dBm,-2.00dB | REL ON > OK | GET? > GET 0.00dBm,0.00dB | "
+        "REL OFF > OK | GET? > GET -22.00dBm,-22.00dBm");
+    row("case, blanks and a carriage return do not matter",
+        " freq   2.45 ghz \r > OK | Freq?\r > FREQ 2.45GHz");
+    row("what it does not know",
+        "READ? > ERR -113,Undefined header | "
+        "FREQ > ERR -109,Missing parameter | GET? 1 > ERR -108,Parameter not allowed | "
+        "CAL > | \r >");
 }
 
 void TestInstrument::talk()
 {
-    QFETCH(Talk, talk);
+    QFETCH(QByteArray, talk);
     Instrument instrument = steadyInstrument();
     CommandInterpreter interpreter(instrument);
-    for (int i = 0; i + 1 < talk.size(); i += 2)
-        QCOMPARE(interpreter.execute(talk.at(i)).line, talk.at(i + 1));
+    for (const QString &turn : QString::fromLatin1(talk).split(QLatin1String(" | "))) {
+        const QStringList sides = turn.split(QLatin1String(" >"));
+        QString reply = sides.last();
+        if (!reply.isEmpty())
+            reply.replace(0, 1, QLatin1String("RETURN:"));
+        QCOMPARE(interpreter.execute(sides.first().toLatin1()).line, reply.toLatin1());
+    }
 }
 
 void TestInstrument::refusalChangesNothing_data()
 {
     QTest::addColumn<QByteArray>("command");
-    for (const char *command : {"FREQ 0.0009MHz",    "FREQ 0.49KHz",
-                                "FREQ 40.000001GHz", "FREQ 41",
-                                "FREQ 0.00",         "FREQ -1GHz",
-                                "FREQ 1e300GHz",     "FREQ nan",
-                                "FREQ infGHz",       "FREQ fast",
-                                "FREQ 100Hz",        "FREQ 1THz",
-                                "FREQ 1GHz2",        "OFFS 100.01",
-                                "OFFS -100.01",      "OFFS nan",
-                                "OFFS dB",           "AVER:COUN 0",
-                                "AVER:COUN 1025",    "AVER:COUN -4",
-                                "AVER:COUN 1.5",     "AVER:COUN 99999999999",
-                                "REL MAYBE",         "UNIT:POW dB",
-                                "UNIT:POW mW"})
-        QTest::newRow(command) << QByteArray(command);
+    const QByteArray commands =
+        "FREQ 0.0009MHz|FREQ 0.49KHz|FREQ 40.000001GHz|FREQ 41|FREQ 0.00|FREQ -1GHz|FREQ 1e300GHz|"
+        "FREQ nan|FREQ infGHz|FREQ 100Hz|FREQ 1GHz2|OFFS 100.01|OFFS -100.01|OFFS nan|OFFS dB|"
+        "AVER:COUN 0|AVER:COUN 1025|AVER:COUN 1.5|AVER:COUN 99999999999|REL MAYBE|UNIT:POW mW";
+    for (const QByteArray &command : commands.split('|'))
+        QTest::newRow(command.constData()) << command;
 }
 
 void TestInstrument::refusalChangesNothing()
@@ -161,53 +129,15 @@ void TestInstrument::refusalChangesNothing()
     QCOMPARE(state(), before);
 }
 
-void TestInstrument::onlyNumericFrequency()
-{
-    Instrument instrument = steadyInstrument();
-    CommandInterpreter interpreter(instrument);
-    Quirks quirks;
-    quirks.numericFrequencyOnly = true;
-    QVERIFY(!interpreter.execute("FREQ 2450MHz", quirks).line.contains("OK"));
-    QCOMPARE(interpreter.execute("FREQ?", quirks).line, QByteArray("RETURN:FREQ 50MHz"));
-    QCOMPARE(interpreter.execute("FREQ 2.45", quirks).line, QByteArray("RETURN:OK"));
-    QCOMPARE(interpreter.execute("FREQ?", quirks).line, QByteArray("RETURN:FREQ 2.45GHz"));
-}
-
-void TestInstrument::operations()
-{
-    Instrument instrument = steadyInstrument();
-    CommandInterpreter interpreter(instrument);
-    const Answer zeroing = interpreter.execute("CAL:ZERO");
-    QVERIFY(zeroing.operation == Operation::Zeroing && zeroing.line.isEmpty());
-    const Answer calibration = interpreter.execute("CAL");
-    QVERIFY(calibration.operation == Operation::Calibration && calibration.line.isEmpty());
-
-    const auto result = &CommandInterpreter::result;
-    QCOMPARE(result(Operation::Zeroing, true), QByteArray("RETURN:CAL:ZERO:OK"));
-    QCOMPARE(result(Operation::Zeroing, false), QByteArray("RETURN:CAL:ZERO:FAIL"));
-    QCOMPARE(result(Operation::Calibration, true), QByteArray("RETURN:CAL:OK"));
-    QCOMPARE(result(Operation::Calibration, false), QByteArray("RETURN:CAL:FAIL"));
-}
-
-void TestInstrument::watts_data()
-{
-    QTest::addColumn<double>("dBm");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("picowatts") << -70.0 << QByteArray("100.00pW");
-    QTest::newRow("less than the smallest prefix") << -160.0 << QByteArray("0.00pW");
-    QTest::newRow("nanowatts") << -50.0 << QByteArray("10.00nW");
-    QTest::newRow("microwatts") << -20.0 << QByteArray("10.00uW");
-    QTest::newRow("999.99 of one prefix") << -0.0000435 << QByteArray("999.99uW");
-    QTest::newRow("what would round to 1000.00") << -0.00001 << QByteArray("1.00mW");
-    QTest::newRow("milliwatts") << 0.0 << QByteArray("1.00mW");
-    QTest::newRow("watts") << 33.0 << QByteArray("2.00W");
-    QTest::newRow("beyond the largest prefix") << 70.0 << QByteArray("10000.00W");
-}
-
 void TestInstrument::watts()
 {
-    QFETCH(double, dBm);
-    QTEST(wattText(dBm, false), "text");
+    QCOMPARE(wattText(-160, false), QByteArray("0.00pW"));
+    QCOMPARE(wattText(-70, false), QByteArray("100.00pW"));
+    QCOMPARE(wattText(-50, false), QByteArray("10.00nW"));
+    QCOMPARE(wattText(-0.0000435, false), QByteArray("999.99uW"));
+    QCOMPARE(wattText(-0.00001, false), QByteArray("1.00mW")); // not 1000.00uW
+    QCOMPARE(wattText(33, false), QByteArray("2.00W"));
+    QCOMPARE(wattText(70, false), QByteArray("10000.00W"));
 }
 
 void TestInstrument::microSign()

@@ -1,42 +1,15 @@
-#include "simulatorprocess.h"
+#include "simulatortalk.h"
 #include "testmain.h"
 
 #include <QSerialPort>
-#include <QTcpSocket>
 
 namespace {
-
-constexpr int patience = 10000; // ms, for what is bound to happen
-
-QStringList words(const char *line)
-{
-    return QString::fromLatin1(line).split(QLatin1Char(' '));
-}
-
-/// The next line on \a device without its newline; "(nothing)" when patience ends.
-QByteArray line(QIODevice &device)
-{
-    while (!device.canReadLine()) {
-        if (!device.waitForReadyRead(patience))
-            return "(nothing)";
-    }
-    return device.readLine().chopped(1);
-}
-
-QByteArray ask(QIODevice &device, const QByteArray &command)
-{
-    device.write(command + '\n');
-    device.waitForBytesWritten(patience);
-    return line(device);
-}
 
 bool open(QSerialPort &port, const QString &path)
 {
     port.setPortName(path);
     return port.open(QIODevice::ReadWrite) && port.setBaudRate(QSerialPort::Baud115200);
 }
-
-const QByteArray reading("RETURN:GET -20.00dBm,-20.00dBm");
 
 } // namespace
 
@@ -45,7 +18,7 @@ class TestSimulatorSerial : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_port = std::make_unique<QSerialPort>(); }
     void cleanup();
     void talk();
     void nothingIsLeftForTheNextClient();
@@ -59,14 +32,11 @@ private:
         return m_simulator.start(options + words("--serial --noise 0 --micro-sign"));
     }
 
+    int closedClients() { return m_simulator.notes().filter(QStringLiteral("closed")).size(); }
+
     std::unique_ptr<QSerialPort> m_port;
     SimulatorProcess m_simulator;
 };
-
-void TestSimulatorSerial::init()
-{
-    m_port = std::make_unique<QSerialPort>();
-}
 
 void TestSimulatorSerial::cleanup()
 {
@@ -95,17 +65,16 @@ void TestSimulatorSerial::nothingIsLeftForTheNextClient()
         QSerialPort first;
         QVERIFY(open(first, m_simulator.serialPath()));
         QCOMPARE(ask(first, "GET?"), reading);
-        first.write("OFFS?\nCAL\nREL?\nGE");
-        QVERIFY(first.waitForBytesWritten(patience));
+        send(first, "OFFS?\nCAL\nREL?\nGE");
         QVERIFY(m_simulator.waitForCommand(QLatin1String("REL?"), i));
         first.close();
-        QVERIFY(QTest::qWaitFor([&] { return m_simulator.notes().size() == 2 * i - 1; }, patience));
+        QVERIFY(QTest::qWaitFor([&] { return closedClients() == 2 * i - 1; }, patience));
 
         QSerialPort second;
         QVERIFY(open(second, m_simulator.serialPath()));
         QCOMPARE(ask(second, "FREQ?"), QByteArray("RETURN:FREQ 50MHz"));
         second.close();
-        QVERIFY(QTest::qWaitFor([&] { return m_simulator.notes().size() == 2 * i; }, patience));
+        QVERIFY(QTest::qWaitFor([&] { return closedClients() == 2 * i; }, patience));
     }
 }
 
@@ -113,12 +82,9 @@ void TestSimulatorSerial::sharesTheInstrumentWithTcp()
 {
     QVERIFY(start(words("--calibration-time 0.1")));
     QVERIFY(open(*m_port, m_simulator.serialPath()));
-    QTcpSocket socket;
-    socket.connectToHost(m_simulator.address(), m_simulator.port());
-    QVERIFY(socket.waitForConnected(patience));
+    Client socket(m_simulator);
     QCOMPARE(ask(socket, "OFFS 20"), QByteArray("RETURN:OK"));
-    m_port->write("CAL\n");
-    QVERIFY(m_port->waitForBytesWritten(patience));
+    send(*m_port, "CAL\n");
     QCOMPARE(ask(socket, "GET?"), QByteArray("RETURN:GET 0.00dBm,0.00dBm"));
     QCOMPARE(line(*m_port), QByteArray("RETURN:CAL:OK"));
     QCOMPARE(ask(*m_port, "OFFS?"), QByteArray("RETURN:OFFS 20.00dB"));
@@ -128,7 +94,6 @@ void TestSimulatorSerial::dropTakesThePortAway_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("before") << "drop-before" << QByteArray();
     QTest::newRow("inside") << "drop-inside" << reading.left(15);
     QTest::newRow("after") << "drop-after" << reading + '\n';
 }
