@@ -36,6 +36,15 @@ Pair pairOf(const QPointF &point)
     return {point.x(), point.y()};
 }
 
+/// The angle at which the line from \a a to \a b has \a level; \a steep for one without a slope.
+double angleAt(double level, const QPointF &a, const QPointF &b, double steep)
+{
+    if (a.x() == b.x() || a.y() == b.y())
+        return steep;
+    const double slope = (b.y() - a.y()) / (b.x() - a.x());
+    return (level - (a.y() - a.x() * slope)) / slope;
+}
+
 void halfPower(const Points &curve, ParaInfo &info)
 {
     const double peak = byLevel(curve).last().y();
@@ -48,34 +57,14 @@ void halfPower(const Points &curve, ParaInfo &info)
     int i = i0;
     while (i >= 0 && l3 < list[i].y())
         i--;
-    if (i >= 0) {
-        const QPointF a = list[i];
-        const QPointF b = i == list.size() - 1 ? a : list[i + 1];
-        double angle = a.x();
-        if (!(a.x() == b.x() || a.y() == b.y())) {
-            const double slope = (b.y() - a.y()) / (b.x() - a.x());
-            angle = (l3 - (a.y() - a.x() * slope)) / slope;
-        }
-        left = {angle, l3};
-    }
+    if (i >= 0)
+        left = {angleAt(l3, list[i], list[std::min(i + 1, list.size() - 1)], list[i].x()), l3};
 
     int j = i0;
     while (j < list.size() && l3 < list[j].y())
         j++;
-    if (j < list.size()) {
-        double angle = list[j].x();
-        if (j > 1) {
-            const QPointF a = list[j - 1];
-            const QPointF b = list[j];
-            if (a.x() == b.x() || a.y() == b.y()) {
-                angle = b.x();
-            } else {
-                const double slope = (b.y() - a.y()) / (b.x() - a.x());
-                angle = (l3 - (a.y() - a.x() * slope)) / slope;
-            }
-        }
-        right = {angle, l3};
-    }
+    if (j < list.size())
+        right = {j > 1 ? angleAt(l3, list[j - 1], list[j], list[j].x()) : list[j].x(), l3};
 
     if (left.second == -100 || right.second == 10000) {
         left.first = 0;
@@ -85,88 +74,59 @@ void halfPower(const Points &curve, ParaInfo &info)
     info.halfPowerRight = right;
 }
 
-bool isLeftNull(const Points &list, int j)
+/// Whether the neighbour \a step points beside \a j is missing or not below it.
+bool isNull(const Points &list, int j, int step)
 {
-    if (j < 1)
-        return true;
-    return !(list[j].y() > list[j - 1].y());
+    const int k = j + step;
+    return k < 0 || k >= list.size() || !(list[j].y() > list[k].y());
 }
 
-bool isRightNull(const Points &list, int j)
+/// Whether the neighbour \a step points beside \a j is missing or not above it.
+bool isLobe(const Points &list, int j, int step)
 {
-    if (j == list.size() - 1)
-        return true;
-    return !(list[j].y() > list[j + 1].y());
-}
-
-bool isLeftLobe(const Points &list, int j)
-{
-    if (j < 1)
-        return true;
-    return !(list[j - 1].y() > list[j].y());
-}
-
-bool isRightLobe(const Points &list, int j)
-{
-    if (j == list.size() - 1)
-        return true;
-    return !(list[j + 1].y() > list[j].y());
+    const int k = j + step;
+    return k < 0 || k >= list.size() || !(list[k].y() > list[j].y());
 }
 
 Pair nullLeft(const Points &curve, double peak)
 {
     const Points list = byAngle(curve);
     const int i0 = firstOfLevel(list, peak);
-    for (int j = i0 >= 2 ? i0 - 1 : 0; j >= 0; j--) {
-        if (isLeftNull(list, j))
-            return pairOf(list[j]);
-    }
-    return pairOf(list[0]);
+    int j = i0 >= 2 ? i0 - 1 : 0;
+    while (!isNull(list, j, -1))
+        j--;
+    return pairOf(list[j]);
 }
 
 Pair nullRight(const Points &curve, double peak)
 {
     const Points list = byAngle(curve);
-    int j = firstOfLevel(list, peak) + 1;
-    if (j > list.size() - 1)
-        j = list.size() - 1;
-    for (; j < list.size(); j++) {
-        if (isRightNull(list, j))
-            return pairOf(list[j]);
-    }
-    return {10000, 10000};
+    int j = std::min(firstOfLevel(list, peak) + 1, list.size() - 1);
+    while (!isNull(list, j, 1))
+        j++;
+    return pairOf(list[j]);
 }
 
 Pair lobeLeft(const Points &curve, double nullLevel)
 {
     const Points list = byAngle(curve);
     const int k = firstOfLevel(list, nullLevel);
-    if (k > 1) {
-        for (int j = k - 1; j >= 0; j--) {
-            if (isLeftLobe(list, j))
-                return pairOf(list[j]);
-        }
-    }
-    return pairOf(list[0]);
+    int j = k > 1 ? k - 1 : 0;
+    while (!isLobe(list, j, -1))
+        j--;
+    return pairOf(list[j]);
 }
 
 Pair lobeRight(const Points &curve, double nullLevel, double peakAngle)
 {
     const Points list = byAngle(curve);
-    int start = 1;
-    for (int k = 0; k < list.size(); k++) {
-        if (list[k].y() == nullLevel && list[k].x() > peakAngle) {
-            start = k + 1;
-            break;
-        }
-    }
-    if (start > list.size() - 1)
-        start = list.size() - 1;
-    for (int j = start; j < list.size(); j++) {
-        if (isRightLobe(list, j))
-            return pairOf(list[j]);
-    }
-    return {10000, 10000};
+    int j = 0;
+    while (j < list.size() && !(list[j].y() == nullLevel && list[j].x() > peakAngle))
+        j++;
+    j = std::min(j < list.size() ? j + 1 : 1, list.size() - 1);
+    while (!isLobe(list, j, 1))
+        j++;
+    return pairOf(list[j]);
 }
 
 Pair backLobe(const Points &curve, double peakAngle)

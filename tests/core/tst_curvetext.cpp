@@ -78,14 +78,10 @@ void TestCurveText::writesTheLayout()
 /// The figures that a reader of the files sees; anyDoubleSurvives() asks Qt about all others.
 void TestCurveText::writesNumbers()
 {
-    const QVector<double> values{12.5,  -3,  1e-5, 0.0001,   100000, 120000, 1e6,
-                                 1.2e6, 0.1, 1e22, -1.5e100, 5e-324, 0};
-    QStringList texts;
-    for (const double value : values)
-        texts.append(CurveText::number(value));
-    QCOMPARE(texts.join(QLatin1Char(' ')),
-             QStringLiteral(
-                 "12.5 -3 1e-05 0.0001 100000 120000 1e+06 1200000 0.1 1e+22 -1.5e+100 5e-324 0"));
+    const QString expected = QStringLiteral(
+        "12.5 -3 1e-05 0.0001 100000 120000 1e+06 1200000 0.1 1e+22 -1.5e+100 5e-324 0");
+    for (const QString &number : expected.split(QLatin1Char(' ')))
+        QCOMPARE(CurveText::number(number.toDouble()), number);
 }
 
 void TestCurveText::anyDoubleSurvives()
@@ -130,25 +126,20 @@ void TestCurveText::readsFields()
 void TestCurveText::readsFiles_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("name");
     QTest::addColumn<Points>("points");
-    const QString name = QStringLiteral("F1");
     const Points points{{0, -3.5}, {90, 12}};
     const QByteArray plain = fileWith("0,-3.5\n90,12\n");
 
-    QTest::newRow("as written") << plain << name << points;
-    QTest::newRow("Windows line ends") << QByteArray(plain).replace("\n", "\r\n") << name << points;
+    QTest::newRow("Windows line ends") << QByteArray(plain).replace("\n", "\r\n") << points;
     QTest::newRow("byte-order mark, no last line feed")
-        << QByteArray("\xEF\xBB\xBFT\nF1\nPower and Angle\n0,-3.5\n90,12") << name << points;
-    QTest::newRow("short and empty lines")
-        << fileWith("\n0,-3.5\n7\n\n90,12\n\n") << name << points;
-    QTest::newRow("fields that are no numbers") << fileWith(",5\n5,\nAntenna,horn\n1,2,\n") << name
-                                                << Points{{0, 5}, {5, 0}, {0, 0}, {1, 2}};
-    const QString text = QString::fromLatin1(plain);
+        << QByteArray("\xEF\xBB\xBFT\nF1\nPower and Angle\n0,-3.5\n90,12") << points;
+    QTest::newRow("short and empty lines") << fileWith("\n0,-3.5\n7\n\n90,12\n\n") << points;
+    QTest::newRow("fields that are no numbers")
+        << fileWith(",5\n5,\nAntenna,horn\n1,2,\n") << Points{{0, 5}, {5, 0}, {0, 0}, {1, 2}};
     QByteArray wide("\xFF\xFE", 2);
-    for (const QChar c : text)
-        wide.append(char(c.cell())).append(char(c.row()));
-    QTest::newRow("UTF-16") << wide << name << points;
+    for (const char c : plain)
+        wide.append(c).append('\0');
+    QTest::newRow("UTF-16") << wide << points;
 }
 
 void TestCurveText::readsFiles()
@@ -156,7 +147,7 @@ void TestCurveText::readsFiles()
     QFETCH(const QByteArray, bytes);
     const Curve curve = CurveText::fromFile(bytes);
     QCOMPARE(curve.status, Status::Complete);
-    QTEST(curve.name, "name");
+    QCOMPARE(curve.name, QStringLiteral("F1"));
     QTEST(curve.points, "points");
 }
 
@@ -181,13 +172,11 @@ void TestCurveText::readsPastedText_data()
                         const Points &curvePoints, Status status = Status::Complete) {
         QTest::newRow(what) << QString::fromUtf8(text) << status << curveName << curvePoints;
     };
-    row("as copied", "F1\nAngle,Power\n0,-3.5\n90,12\n", name, points);
     row("no header, Windows line ends", "F1\r\n0,-3.5\r\n90,12", name, points);
     row("short lines and infinities", "F1\n\n0,-3.5\nx\n1,inf\n90,12\n", name, points);
     row("a second header is text", "F1\nAngle,Power\n0,-3.5\nAngle,Power\n", name,
         {{0, -3.5}, {0, 0}});
-    row("spreadsheet", "F1\t\nAngle\tPower\n0\t-3.5\n90\t12\n", name, points);
-    row("spreadsheet with decimal commas", "F1\t\n0\t-3,5\n90\t12\n", name, points);
+    row("spreadsheet", "F1\t\nAngle\tPower\n0\t-3,5\n90\t12\n", name, points);
     row("some sentence", "Antennas\nare nice", QStringLiteral("Antennas"), {}, Status::NoCurve);
     row("addresses of dropped files", "file:///a,b.csv\nfile:///c,d.csv",
         QStringLiteral("file:///a,b.csv"), {{0, 0}}, Status::NoCurve);
