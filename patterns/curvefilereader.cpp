@@ -11,14 +11,6 @@ constexpr qint64 chunk = 1 << 20;
 /// Reading takes about as long as parsing.
 constexpr double readingShare = 0.5;
 
-QString firstLine(const QByteArray &bytes)
-{
-    QByteArray line = bytes.left(bytes.indexOf('\n'));
-    if (line.startsWith("\xef\xbb\xbf"))
-        line.remove(0, 3);
-    return QString::fromUtf8(line).trimmed();
-}
-
 } // namespace
 
 bool CurveFileReader::read(const QStringList &files, const Progress &progress)
@@ -50,6 +42,7 @@ CurveFileReader::Step CurveFileReader::readOne(const QString &file,
         m_failures.append(QStringLiteral("%1: %2").arg(shown, problem));
         return Step::Go;
     }
+    bytes = CurveText::asUtf8(bytes);
     const CurveText::Curve curve = CurveText::fromFile(bytes, [&](qint64 done, qint64 total) {
         const double share = total > 0 ? double(done) / double(total) : 1.0;
         return progress(readingShare + (1.0 - readingShare) * share);
@@ -63,7 +56,7 @@ CurveFileReader::Step CurveFileReader::readOne(const QString &file,
         return Step::Go;
     }
     m_curves.append(
-        {QFileInfo(file).absoluteFilePath(), firstLine(bytes), curve.name, curve.points});
+        {QFileInfo(file).absoluteFilePath(), curve.title.trimmed(), curve.name, curve.points});
     remark(shown, checkCurveRows(bytes), curve.points.isEmpty());
     return Step::Go;
 }

@@ -57,8 +57,10 @@ void setAxisTitles(GraphicsBase &view, const QString &angles, const QString &lev
 void showLevels(GraphicsBase &view, const AxisScale &scale)
 {
     view.setYRange(scale.min, scale.max, scale.divisions);
-    // Setting the range of levels alone leaves the curves where they were.
-    view.panResetSlot();
+    // By itself the view lets the curves follow with the next events: too late for a picture.
+    const QList<int> ids = view.paths().keys();
+    for (const int id : ids)
+        view.rebuildPath(id);
 }
 
 void showAngles(GraphicsBase &view, const AxisScale &scale)

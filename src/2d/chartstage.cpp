@@ -32,11 +32,7 @@ QFont titleFont()
 
 QValueAxis *styledAxis(const QString &title)
 {
-    constexpr int labelSize = 9;
     auto *axis = new QValueAxis;
-    QFont labelFont = axis->labelsFont();
-    labelFont.setPointSize(labelSize);
-    axis->setLabelsFont(labelFont);
     axis->setLabelsColor(Qt::black);
     axis->setLinePen(QPen(QBrush(Qt::black), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     axis->setTitleText(title);
@@ -48,7 +44,11 @@ QValueAxis *styledAxis(const QString &title)
 
 QValueAxis *polarAxis(const QString &title)
 {
+    constexpr int labelSize = 9;
     QValueAxis *axis = styledAxis(title);
+    QFont labelFont = axis->labelsFont();
+    labelFont.setPointSize(labelSize);
+    axis->setLabelsFont(labelFont);
     axis->setRange(-180.0, 180.0);
     return axis;
 }

@@ -152,6 +152,10 @@ bool CurveTableModel::edit(int id, int column, const QString &text)
 {
     CurveRecord record = m_curves.record(id);
     if (column == Name) {
+        if (text.trimmed().isEmpty()) {
+            emit refused(tr("A curve needs a name."));
+            return false;
+        }
         if (!m_curves.rename(id, text)) {
             emit refused(tr("There is another curve called \"%1\".").arg(text));
             return false;

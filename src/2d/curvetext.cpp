@@ -132,15 +132,6 @@ bool isNumericRow(std::string_view line, char separator)
     return xOk && yOk;
 }
 
-/// UTF-8 without a byte-order mark, whatever Unicode form the file has.
-QByteArray asUtf8(const QByteArray &bytes)
-{
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        return bytes.mid(3);
-    const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, nullptr);
-    return codec ? codec->toUnicode(bytes).toUtf8() : bytes;
-}
-
 char *copyText(char *out, std::string_view text)
 {
     return std::copy(text.begin(), text.end(), out);
@@ -301,6 +292,14 @@ QByteArray toFile(const QString &title, const QString &name, const QVector<QPoin
 {
     return curveBytes(oneLine(title) + QLatin1Char('\n') + oneLine(name) + QLatin1Char('\n'),
                       points);
+}
+
+QByteArray asUtf8(const QByteArray &bytes)
+{
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        return bytes.mid(3);
+    const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, nullptr);
+    return codec ? codec->toUnicode(bytes).toUtf8() : bytes;
 }
 
 Curve fromFile(const QByteArray &bytes, const Progress &progress)

@@ -42,6 +42,9 @@ QString toClipboard(const QString &name, const QVector<QPointF> &points);
 /// The bytes of a curve file: the chart's title, then the same as on the clipboard.
 QByteArray toFile(const QString &title, const QString &name, const QVector<QPointF> &points);
 
+/// UTF-8 without a byte-order mark, whatever Unicode form \a bytes have.
+QByteArray asUtf8(const QByteArray &bytes);
+
 /// Reads the bytes of a curve file. The first line is ignored. A row's first two fields are x and
 /// y; a field that is no number reads as 0, a row with fewer fields or a value that is not finite
 /// is left out. Windows line ends, a byte-order mark and a missing last line feed are fine.

@@ -126,8 +126,12 @@ void GraphicsBase::retitle()
     if (!state.stage.isPolar())
         setAxisXTitle(tr("Last %1 minutes").arg(state.period));
     setAxisYTitle(tr("Power[dBm]"));
-    state.shown.xMin = 0.0;
-    state.shown.xMax = state.period;
+    // What a running chart has scrolled to stays in view when the language changes.
+    const double shownPeriod = state.shown.xMax - state.shown.xMin;
+    if (state.shown.xMin <= 0.0 || !qFuzzyCompare(shownPeriod, double(state.period))) {
+        state.shown.xMin = 0.0;
+        state.shown.xMax = state.period;
+    }
     setScaleLevel(5, 20.0, -30.0);
     state.updateFinished = false;
     state.zoomMode = false;
@@ -341,6 +345,7 @@ void GraphicsBase::clearChartData(int index)
     }
     path->setPoints({});
     path->rebuild(state.stage);
+    state.catchUpLater();
 }
 
 void GraphicsBase::clearChart(int index)

@@ -188,7 +188,7 @@ void GraphicsBase::updatePathSelection(int pathId)
         path->setSelected(path->pathId() == pathId);
     const PathInfo *now = selectedPath();
     if (m_state->tableProxy->getParaTableDataStatus()) {
-        if (now)
+        if (now && !now->isHidden())
             emit updateParaInfoToTable(patternParameters(pathId));
         else
             emit clearParaInfoToTable();

@@ -14,7 +14,6 @@ constexpr qreal aboveTheCurves = 10.0;
 constexpr int heightOfRow = 20;
 constexpr int headerHeight = 24;
 constexpr int tableWidth = 210;
-constexpr int rowsWithoutScrolling = 16;
 
 enum Column { NumberColumn, XColumn, YColumn, ColumnCount };
 
@@ -48,6 +47,7 @@ MarkTable::MarkTable(QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
     setFrameShape(StyledPanel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalHeader()->setVisible(false);
     verticalHeader()->setMinimumSectionSize(heightOfRow);
     verticalHeader()->setDefaultSectionSize(heightOfRow);
@@ -90,8 +90,7 @@ void MarkTable::setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *
 
 QSize MarkTable::fittingSize() const
 {
-    const int shown = qMin(rowCount(), rowsWithoutScrolling);
-    return {tableWidth, headerHeight + shown * heightOfRow + 2 * frameWidth()};
+    return {tableWidth, headerHeight + rowCount() * heightOfRow + 2 * frameWidth()};
 }
 
 void MarkTable::changeEvent(QEvent *event)

@@ -332,6 +332,10 @@ correction</source>
         <translation>损耗
 修正</translation>
     </message>
+    <message>
+        <source>A curve needs a name.</source>
+        <translation>曲线需要名称。</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsBase</name>

@@ -332,6 +332,10 @@ correction</source>
         <translation>Loss
 correction</translation>
     </message>
+    <message>
+        <source>A curve needs a name.</source>
+        <translation>A curve needs a name.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsBase</name>
