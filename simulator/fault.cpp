@@ -132,6 +132,13 @@ std::optional<Fault> parseFault(const QString &text, QString *error)
     return fault;
 }
 
+QByteArray faultName(FaultKind kind)
+{
+    const auto *const found = std::find_if(
+        kinds.begin(), kinds.end(), [kind](const KindInfo &info) { return info.kind == kind; });
+    return found->name;
+}
+
 QString faultHelp()
 {
     QString text = QStringLiteral("Faults (--fault may be given several times; faults add up):\n");

@@ -43,6 +43,9 @@ struct Fault
 /// an explanation in \a error, for anything else.
 std::optional<Fault> parseFault(const QString &text, QString *error);
 
+/// The name of \a kind, as parseFault() reads it.
+QByteArray faultName(FaultKind kind);
+
 /// The kinds and qualifiers, a line each, for the help.
 QString faultHelp();
 

@@ -39,6 +39,8 @@ void Session::takeCommand(const QByteArray &line)
 {
     m_bench.trace.received(line);
     const QList<Fault> faults = m_bench.faults.befalling(line);
+    for (const Fault &fault : faults)
+        m_bench.trace.note("fault " + faultName(fault.kind) + " befalls " + line);
     Quirks quirks;
     quirks.refuseSettings = contains(faults, FaultKind::Refuse);
     quirks.numericFrequencyOnly = contains(faults, FaultKind::NumericFrequency);

@@ -35,7 +35,7 @@ public:
     QStringList commands();
     /// Every piece of a reply so far, as it went out, with "\n" and "\xNN" for unprintable bytes.
     QStringList replies();
-    /// Every remark so far on clients that come, wait, go or are dropped.
+    /// Every remark so far on clients that come, wait, go or are dropped, and on faults.
     QStringList notes();
     /// Waits until \a command has come \a count times since the start, while events are processed.
     bool waitForCommand(const QString &command, int count = 1, int timeout = 5000);
