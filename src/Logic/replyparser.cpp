@@ -81,7 +81,9 @@ int averageCount(const QString &line)
 Power power(const QString &line)
 {
     QString text = withoutNewlines(line);
-    if (!takePrefix(text, QLatin1String("RETURN:GET ")))
+    // Behind the rest of a reply that lost its end stands another one: the two have no number
+    // between them.
+    if (!takePrefix(text, QLatin1String("RETURN:GET ")) || text.contains(QLatin1String("RETURN:")))
         return {};
     QStringList fields = text.split(QLatin1Char(','));
     if (fields.size() != 2)

@@ -140,6 +140,7 @@ void TestWireFormat::power()
     QCOMPARE(read("RETURN:GET -2\xFF.0dBm,1uW"), line("0|1uW"));
     // No reading: one field, three, another prefix.
     QCOMPARE(read("RETURN:GET -20.00dBm"), line("100|"));
+    QCOMPARE(read("RETURN:GET -20.RETURN:GET -21.00dBm,10.00uW"), line("100|"));
     QCOMPARE(read("RETURN:GET -20.00dBm,10.00uW,0"), line("100|"));
     QCOMPARE(read("-20.00dBm,10.00uW"), line("100|"));
     QCOMPARE(read("RETURN:GET-20.00dBm,10.00uW"), line("100|"));
