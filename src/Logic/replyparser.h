@@ -51,8 +51,8 @@ QString measureState(const QString &line);
 
 int averageCount(const QString &line);
 
-/// A reply that lacks its prefix, or has another behind it, or is not made of exactly two fields, is
-/// no reading.
+/// A reply that lacks its prefix, or has another behind it, or is not made of exactly two fields,
+/// is no reading.
 Power power(const QString &line);
 
 /// Which task \a line reports on; the text that tells may stand anywhere in it.
