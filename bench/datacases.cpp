@@ -1,8 +1,8 @@
 #include "cases.h"
 
-#include "2d/curvefile.h"
 #include "2d/curvetext.h"
 #include "2d/patternanalysis.h"
+#include "filewriting.h"
 #include "measure.h"
 #include "module/formulacalc.h"
 #include "testcurve.h"

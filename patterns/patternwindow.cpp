@@ -1,9 +1,9 @@
 #include "patterns/patternwindow.h"
 #include "ui_patternwindow.h"
 
-#include "2d/curvefile.h"
 #include "2d/curvetext.h"
 #include "2d/graphicsbase.h"
+#include "filewriting.h"
 #include "patterns/chartpicture.h"
 #include "patterns/curveimport.h"
 #include "patterns/filenames.h"

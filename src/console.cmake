@@ -3,6 +3,7 @@ target_sources(mz_core PRIVATE
     consolesettings.cpp consolesettings.h
     diagnosis.cpp diagnosis.h
     display.cpp display.h
+    filewriting.cpp filewriting.h
     frameedge.cpp frameedge.h
     frequencyunit.cpp frequencyunit.h
     messagelog.cpp messagelog.h

@@ -1,11 +1,12 @@
 #include "consolesettings.h"
 
+#include "filewriting.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringList>
 
 namespace {
@@ -65,15 +66,20 @@ QByteArray ConsoleSettings::toText() const
 std::optional<ConsoleSettings> ConsoleSettings::load(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return parse(file.read(sizeLimit));
+    QByteArray text;
+    if (file.open(QIODevice::ReadOnly))
+        text = file.read(sizeLimit);
+    if (file.error() == QFileDevice::NoError)
+        return parse(text);
+    if (file.exists())
+        qWarning().noquote() << "Settings not read from" << path << ":" << file.errorString();
+    return std::nullopt;
 }
 
 void ConsoleSettings::save(const QString &path) const
 {
     // A full disk must not leave an empty file behind, which would read as Chinese and one minute.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(toText()) < 0 || !file.commit())
-        qWarning().noquote() << "Settings not written to" << path << ":" << file.errorString();
+    const FileOutcome outcome = replaceFile(path, toText());
+    if (outcome.kind != FileOutcome::Kind::Written)
+        qWarning().noquote() << "Settings not written to" << path << ":" << outcome.reason;
 }

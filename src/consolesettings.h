@@ -32,7 +32,7 @@ struct ConsoleSettings
     /// The text of the file.
     QByteArray toText() const;
 
-    /// Reads the file at \a path; nothing when it cannot be opened.
+    /// Reads the file at \a path; nothing when it cannot be read.
     static std::optional<ConsoleSettings> load(const QString &path);
 
     /// Replaces the file at \a path; where it cannot be written the old one stays.

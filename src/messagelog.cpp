@@ -1,8 +1,9 @@
 #include "messagelog.h"
 
+#include "filewriting.h"
+
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 
 #include <cstdio>
 
@@ -59,9 +60,7 @@ void handler(QtMsgType type, const QMessageLogContext &context, const QString &m
     std::fprintf(stderr, "%s,%s(%d)\n", text.toLocal8Bit().constData(), function, context.line);
     std::fflush(stderr);
 
-    QFile log(file(now));
-    if (log.open(QIODevice::WriteOnly | QIODevice::Append))
-        log.write((text + QStringLiteral("\r\n")).toUtf8());
+    appendLine(file(now), (text + QStringLiteral("\r\n")).toUtf8(), {});
 }
 
 } // namespace MessageLog

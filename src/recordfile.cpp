@@ -1,8 +1,9 @@
 #include "recordfile.h"
 
+#include "filewriting.h"
+
 #include <QDateTime>
 #include <QDebug>
-#include <QFile>
 
 namespace RecordFile {
 
@@ -27,14 +28,11 @@ QString row(const QDateTime &when, double frequency, double offset, const QStrin
 
 void append(const QString &path, const QString &row)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+    const FileOutcome outcome = appendLine(path, row.toUtf8(), header().toUtf8());
+    if (outcome.kind == FileOutcome::Kind::OpenFailed)
         qDebug("open failed");
-        return;
-    }
-    const QByteArray lines = (file.size() == 0 ? header() + row : row).toUtf8();
-    if (file.write(lines) != lines.size() || !file.flush())
-        qWarning().noquote() << "Record not written to" << path << ":" << file.errorString();
+    else if (outcome.kind == FileOutcome::Kind::WriteFailed)
+        qWarning().noquote() << "Record not written to" << path << ":" << outcome.reason;
 }
 
 } // namespace RecordFile

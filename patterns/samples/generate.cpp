@@ -1,18 +1,18 @@
+#include "filewriting.h"
 #include "patterns/samples/samples.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSaveFile>
 #include <QTextStream>
 
 namespace {
 
 bool write(const QString &path, const QByteArray &content)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    const FileOutcome outcome = replaceFile(path, content);
+    if (outcome.kind == FileOutcome::Kind::Written)
         return true;
-    QTextStream(stderr) << path << ": " << file.errorString() << '\n';
+    QTextStream(stderr) << path << ": " << outcome.reason << '\n';
     return false;
 }
 

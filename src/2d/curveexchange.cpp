@@ -1,10 +1,10 @@
 #include "2d/curveexchange.h"
 
-#include "2d/curvefile.h"
 #include "2d/curvename.h"
 #include "2d/curvetext.h"
 #include "2d/graphicsbase.h"
 #include "2d/pathinfo.h"
+#include "filewriting.h"
 #include "widgets/messagesimpledialog.h"
 
 #include <QBuffer>

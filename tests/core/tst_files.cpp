@@ -93,10 +93,13 @@ void TestFiles::recordHeaderStandsOnceAtTheTop()
     RecordFile::append(path, QString::fromUtf8("row µ\n"));
     QCOMPARE(contentOf(path), QByteArray("Time,Frequency(GHz),Offset(dB),Power(dBm),"
                                          "Converted Power\nrow 1\nrow \xC2\xB5\n"));
+    // A file of another program, and one whose last row was torn by a loss of power.
     const QString foreign = QStringLiteral("2.csv");
-    QVERIFY(write(foreign, "x\n"));
-    RecordFile::append(foreign, QStringLiteral("row 1\n"));
-    QCOMPARE(contentOf(foreign), QByteArray("x\nrow 1\n"));
+    for (const char *before : {"x\n", "x"}) {
+        QVERIFY(write(foreign, before));
+        RecordFile::append(foreign, QStringLiteral("row 1\n"));
+        QCOMPARE(contentOf(foreign), QByteArray("x\nrow 1\n"));
+    }
 }
 
 void TestFiles::recordFailureIsLogged()
@@ -230,6 +233,13 @@ void TestFiles::unwritableSettingsLeaveTheOldOnes()
     for (const QString &path : {QStringLiteral("gone/config.ini"), QStringLiteral(".")}) {
         chinese.save(path);
         QVERIFY2(!ConsoleSettings::load(path), qPrintable(path));
+    }
+    // A file that can be opened, but not read.
+    const QString unreadable = QStringLiteral("/proc/self/mem");
+    if (QFile::exists(unreadable)) {
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^Settings not read")));
+        QVERIFY(!ConsoleSettings::load(unreadable));
     }
     // No name is left for the file that is to take the old one's place.
     const QString path(250, QLatin1Char('c'));

@@ -20,3 +20,9 @@ struct FileOutcome
 /// Puts \a bytes in place of the file at \a path. After a failure the former file is as it was: the
 /// bytes go beside it first and take its name only when all of them are on the disk.
 FileOutcome replaceFile(const QString &path, const QByteArray &bytes);
+
+/// Adds \a line, which ends in "\n", to the file at \a path, behind \a header when the file is
+/// empty. After a failure the file is as it was, as far as the disk allows. Where the last line has
+/// no end, of a program that was killed or a disk that went away, the new one still starts at the
+/// left, behind an end as its own.
+FileOutcome appendLine(const QString &path, const QByteArray &line, const QByteArray &header);

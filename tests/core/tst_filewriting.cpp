@@ -1,4 +1,4 @@
-#include "2d/curvefile.h"
+#include "filewriting.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -40,7 +40,7 @@ private:
 
 } // namespace
 
-class TestCurveFile : public QObject
+class TestFileWriting : public QObject
 {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ private slots:
     void writesIntoDevices();
 };
 
-void TestCurveFile::replacesFiles()
+void TestFileWriting::replacesFiles()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("曲线.csv"));
@@ -61,7 +61,7 @@ void TestCurveFile::replacesFiles()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
 }
 
-void TestCurveFile::refusesPlaces()
+void TestFileWriting::refusesPlaces()
 {
     const QTemporaryDir folder;
     for (const QString &place :
@@ -72,7 +72,7 @@ void TestCurveFile::refusesPlaces()
     }
 }
 
-void TestCurveFile::keepsTheFormerFileWhenTheDiskIsFull()
+void TestFileWriting::keepsTheFormerFileWhenTheDiskIsFull()
 {
 #ifdef Q_OS_UNIX
     const QTemporaryDir folder;
@@ -92,7 +92,7 @@ void TestCurveFile::keepsTheFormerFileWhenTheDiskIsFull()
 #endif
 }
 
-void TestCurveFile::writesIntoDevices()
+void TestFileWriting::writesIntoDevices()
 {
     const QString device = QStringLiteral("/dev/full");
     if (!QFile::exists(device))
@@ -101,5 +101,5 @@ void TestCurveFile::writesIntoDevices()
     QVERIFY(!QFileInfo(device).isFile());
 }
 
-MZ_TEST_GUILESS_MAIN(TestCurveFile)
-#include "tst_curvefile.moc"
+MZ_TEST_GUILESS_MAIN(TestFileWriting)
+#include "tst_filewriting.moc"
