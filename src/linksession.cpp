@@ -29,6 +29,7 @@ LinkSession::LinkSession(SerialLogic *link, ConsolePanel *panel, StatusLabels *s
     , m_firstSaveTimer(createTimer("firstSaveTimer", &LinkSession::recordDue))
 {
     m_firstSaveTimer->setSingleShot(true);
+    connect(link, &SerialLogic::lost, this, &LinkSession::pollLostLink);
 }
 
 QTimer *LinkSession::createTimer(const char *name, void (LinkSession::*due)())
@@ -63,6 +64,7 @@ bool LinkSession::open(const QString &port, int value)
     qDebug() << "open success: " << port << value;
     if (value == instrumentTcpPort)
         m_ipAddress = port;
+    m_hasReading = false;
     setState(State::Opening);
     m_status->showPort(port, value);
     m_status->showLink(m_mode == serialLink ? StatusLabels::Link::Open
@@ -123,6 +125,25 @@ void LinkSession::end()
 void LinkSession::startPolling()
 {
     m_readTimer->start(readPeriod);
+}
+
+void LinkSession::takeReading()
+{
+    m_hasReading = true;
+    startPolling();
+}
+
+bool LinkSession::isReadingCurrent() const
+{
+    return m_hasReading && m_readTimer->isActive();
+}
+
+void LinkSession::pollLostLink()
+{
+    // The next command is what tells the operator, and there may be none to come: polling rests
+    // after a setting that was not confirmed. Who waits for a result is told when the wait is over.
+    if (isOpen() && !m_link->awaitsResult() && !m_readTimer->isActive())
+        startPolling();
 }
 
 void LinkSession::stopPolling()

@@ -39,6 +39,11 @@ public:
 
     /// The next reading is due half a second from now.
     void startPolling();
+    /// A reading of this link has come, and the next one is due.
+    void takeReading();
+    /// Whether what is shown is the link's latest reading. It is none before the first, and not
+    /// after a setting that was not confirmed, since that leaves the polling at rest.
+    bool isReadingCurrent() const;
     void stopPolling();
     /// The next record is due one interval from now.
     void startRecords();
@@ -59,6 +64,7 @@ private:
     void setState(State state);
     bool queryInstrument();
     bool failOpening(const QString &port, int value);
+    void pollLostLink();
 
     SerialLogic *m_link;
     ConsolePanel *m_panel;
@@ -69,5 +75,6 @@ private:
     QTimer *m_firstSaveTimer; // for the one record right after an open
     LinkMode m_mode = serialLink;
     State m_state = State::Closed;
+    bool m_hasReading = false; // of the present link
     QString m_ipAddress;
 };

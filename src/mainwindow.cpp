@@ -255,7 +255,10 @@ void MainWindow::on_btnSetAverageCount_clicked()
 
 void MainWindow::on_radioButtonRelativeON_clicked()
 {
-    // Also on the button that is on already: "ON" again takes a new reference.
+    // Also on the button that is on already: "ON" again takes a new reference. When the change of
+    // the button has ended the link just now, it has been told.
+    if (!m_session->isOpen())
+        return;
     on_radioButtonRelativeON_toggled(m_ui->radioButtonRelativeON->isChecked());
 }
 
@@ -405,7 +408,24 @@ void MainWindow::readValue()
 void MainWindow::updatePower(double dialValue, QString showText)
 {
     m_panel.showReading(dialValue, showText);
-    m_session->startPolling();
+    m_session->takeReading();
+}
+
+void MainWindow::saveValue()
+{
+    const bool isStale = m_session->isOpen() && !m_session->isReadingCurrent();
+    if (!isStale || readForRecord())
+        m_panel.saveRecord();
+}
+
+bool MainWindow::readForRecord()
+{
+    if (m_link->awaitsResult()) {
+        qInfo("Nothing is recorded while a result is awaited, as no reading can be had.");
+        return false;
+    }
+    m_link->readMesureData();
+    return m_session->isReadingCurrent(); // otherwise none came: the link is lost
 }
 
 void MainWindow::timerOut()
@@ -425,7 +445,8 @@ void MainWindow::on_btnSetChartPeriod_clicked()
 void MainWindow::on_btnReset_clicked()
 {
     saveValue();
-    m_session->startRecords();
+    if (m_session->isOpen()) // the look at the instrument may have found the link lost
+        m_session->startRecords();
 }
 
 void MainWindow::on_btnPath_clicked()

@@ -69,7 +69,8 @@ public slots:
     void timerOut();
     void readValue();
     void loadingTimerOut();
-    void saveValue() { m_panel.saveRecord(); }
+    /// Records what is shown, after a look at the instrument when that is not its latest reading.
+    void saveValue();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -111,6 +112,7 @@ private:
 
     void startTask(void (SerialLogic::*task)(), const QString &name);
     void endWait();
+    bool readForRecord();
     void warn(const QString &text);
 
     void readSettings();

@@ -66,6 +66,7 @@ SerialLogic::SerialLogic(QObject *parent)
     connect(m_port, &QSerialPort::readyRead, this, &SerialLogic::readDataSlot);
     connect(m_port, &QSerialPort::errorOccurred, this, &SerialLogic::closeLostPort);
     connect(m_socket, &QTcpSocket::readyRead, this, &SerialLogic::readDataSlot);
+    connect(m_socket, &QTcpSocket::disconnected, this, &SerialLogic::lost);
 }
 
 SerialLogic::~SerialLogic() = default;
@@ -166,8 +167,10 @@ void SerialLogic::closeLostPort()
     // notifier would fire without end; the next command tells the operator.
     const QSerialPort::SerialPortError error = m_port->error();
     const bool isLost = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
-    if (isLost && m_port->isOpen())
-        m_port->close();
+    if (!isLost || !m_port->isOpen())
+        return;
+    m_port->close();
+    emit lost();
 }
 
 bool SerialLogic::sendCmd(const QByteArray &cmd)
