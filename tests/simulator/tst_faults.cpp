@@ -52,6 +52,7 @@ private slots:
     void delivery();
     void garbageHidesNothing();
     void piecesCutCharacters();
+    void repeatsForASeed();
     void badOptions_data();
     void badOptions();
     void goodOptions();
@@ -178,6 +179,21 @@ void TestFaults::piecesCutCharacters()
         }
         QVERIFY(cutInside);
     }
+}
+
+void TestFaults::repeatsForASeed()
+{
+    const auto mishaps = [](quint32 seed) {
+        FaultInjector injector(faultsFrom(words("garbage:4,p=0.5 pieces,p=0.3")), seed);
+        QList<QByteArray> list;
+        for (int i = 0; i < 100; ++i) {
+            for (const Step &step : injector.delivery("RETURN:OK", injector.befalling("GET?")))
+                list.append(step.bytes);
+        }
+        return list;
+    };
+    QCOMPARE(mishaps(9), mishaps(9));
+    QVERIFY(mishaps(9) != mishaps(10));
 }
 
 void TestFaults::badOptions_data()

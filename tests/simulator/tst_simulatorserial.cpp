@@ -60,18 +60,20 @@ void TestSimulatorSerial::talk()
 
 void TestSimulatorSerial::nothingIsLeftForTheNextClient()
 {
-    QVERIFY(start(words("--calibration-time 0 --fault late:100,only=REL?")));
-    for (int i = 1; i <= 3; ++i) {
+    QVERIFY(start(words("--calibration-time 0.1 --fault late:200,only=REL?")));
+    for (int i = 1; i <= 2; ++i) {
         QSerialPort first;
         QVERIFY(open(first, m_simulator.serialPath()));
         QCOMPARE(ask(first, "GET?"), reading);
         send(first, "OFFS?\nCAL\nREL?\nGE");
-        QVERIFY(m_simulator.waitForCommand(QLatin1String("REL?"), i));
+        QVERIFY(m_simulator.waitForCommand(QLatin1String("REL?"), 2 * i - 1));
         first.close();
         QVERIFY(QTest::qWaitFor([&] { return closedClients() == 2 * i - 1; }, patience));
 
         QSerialPort second;
         QVERIFY(open(second, m_simulator.serialPath()));
+        // Later than the calibration would have ended.
+        QCOMPARE(ask(second, "REL?"), QByteArray("RETURN:REL OFF"));
         QCOMPARE(ask(second, "FREQ?"), QByteArray("RETURN:FREQ 50MHz"));
         second.close();
         QVERIFY(QTest::qWaitFor([&] { return closedClients() == 2 * i; }, patience));
