@@ -66,9 +66,10 @@ void TestPatternSupplement::measuresRoundPatterns()
 {
     Points shuffled = pattern(175, -180, 179);
     std::shuffle(shuffled.begin(), shuffled.end(), QRandomGenerator(11));
-    // The peak beside the seam with one end left out, a side lobe over the seam, other angles.
-    for (const Points &points : {shuffled, pattern(177, -180, 179), pattern(-110, -180, 180),
-                                 pattern(0, 0, 359), pattern(-179, -180, 179.5, 0.5)}) {
+    // The peak on the seam and beside it with one end left out, a side lobe over it, other angles.
+    for (const Points &points :
+         {shuffled, pattern(180, -180, 180), pattern(177, -180, 179), pattern(-110, -180, 180),
+          pattern(0, 0, 359), pattern(-179, -180, 179.5, 0.5)}) {
         const PatternSupplement figures = supplementaryFigures(points);
         QCOMPARE(rounded(figures.halfPowerBeamWidth), 20.0F);
         QCOMPARE(rounded(figures.firstNullBeamWidth), 80.0F);
