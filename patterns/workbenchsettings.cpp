@@ -1,18 +1,48 @@
 #include "patterns/workbenchsettings.h"
 
+#include "filewriting.h"
+
+#include <QDebug>
 #include <QDir>
-#include <QSettings>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+
+#include <optional>
 
 namespace {
 
-QVariant stored(const QString &file, const QString &key)
+/// What is stored in \a file, nothing at the first start; no object when it cannot be read.
+std::optional<QJsonObject> stored(const QString &file)
 {
-    return QSettings(file, QSettings::IniFormat).value(key);
+    QFile source(file);
+    QByteArray text;
+    if (source.open(QIODevice::ReadOnly))
+        text = source.readAll();
+    if (source.error() == QFileDevice::NoError || !source.exists())
+        return QJsonDocument::fromJson(text).object();
+    qWarning().noquote() << "Settings not read from" << file << ":" << source.errorString();
+    return std::nullopt;
 }
 
-void store(const QString &file, const QString &key, const QVariant &value)
+QJsonValue stored(const QString &file, const QString &key)
 {
-    QSettings(file, QSettings::IniFormat).setValue(key, value);
+    return stored(file).value_or(QJsonObject()).value(key);
+}
+
+void store(const QString &file, const QString &key, const QJsonValue &value)
+{
+    std::optional<QJsonObject> all = stored(file);
+    if (!all)
+        return; // the other settings would be lost
+    all->insert(key, value);
+    QDir().mkpath(QFileInfo(file).absolutePath());
+    const FileOutcome outcome = replaceFile(file, QJsonDocument(*all).toJson());
+    if (outcome.kind != FileOutcome::Kind::Written)
+        qWarning().noquote() << "Settings not written to" << file << ":" << outcome.reason;
 }
 
 } // namespace
@@ -21,20 +51,19 @@ WorkbenchSettings::WorkbenchSettings(const QString &file)
     : m_file(file)
 {
     if (m_file.isEmpty()) {
-        m_file = QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("mz6218"),
-                           QStringLiteral("mz6218-patterns"))
-                     .fileName();
+        m_file = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                 QStringLiteral("/mz6218/mz6218-patterns.json");
     }
 }
 
 QStringList WorkbenchSettings::recentFiles() const
 {
-    return stored(m_file, QStringLiteral("recentFiles")).toStringList();
+    return stored(m_file, QStringLiteral("recentFiles")).toVariant().toStringList();
 }
 
 void WorkbenchSettings::setRecentFiles(const QStringList &paths)
 {
-    store(m_file, QStringLiteral("recentFiles"), paths);
+    store(m_file, QStringLiteral("recentFiles"), QJsonArray::fromStringList(paths));
 }
 
 QString WorkbenchSettings::language() const
@@ -61,10 +90,11 @@ void WorkbenchSettings::setFolder(const QString &folder)
 
 QByteArray WorkbenchSettings::windowGeometry() const
 {
-    return stored(m_file, QStringLiteral("windowGeometry")).toByteArray();
+    const QString geometry = stored(m_file, QStringLiteral("windowGeometry")).toString();
+    return QByteArray::fromBase64(geometry.toLatin1());
 }
 
 void WorkbenchSettings::setWindowGeometry(const QByteArray &geometry)
 {
-    store(m_file, QStringLiteral("windowGeometry"), geometry);
+    store(m_file, QStringLiteral("windowGeometry"), QString::fromLatin1(geometry.toBase64()));
 }

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the workbench remembers from one session to the next: an INI file in the user's own
+/// What the workbench remembers from one session to the next: a JSON file in the user's own
 /// configuration folder, since the program's folder may well be read-only.
 class WorkbenchSettings
 {

@@ -266,7 +266,7 @@ void TestPatternUnits::commandLines()
 
 void TestPatternUnits::settingsSurvive()
 {
-    const QString file = m_folder.filePath(QStringLiteral("settings/workbench.ini"));
+    const QString file = m_folder.filePath(QStringLiteral("settings/workbench.json"));
     QCOMPARE(WorkbenchSettings(file).language(), QStringLiteral("en"));
     {
         WorkbenchSettings settings(file);

@@ -126,7 +126,7 @@ private:
 void TestPatternWindow::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_workbench = std::make_unique<Workbench>(file(QStringLiteral("settings.ini")));
+    m_workbench = std::make_unique<Workbench>(file(QStringLiteral("settings.json")));
     m_window = m_workbench->openWindow();
     m_window->resize(1280, 760);
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
@@ -373,7 +373,7 @@ void TestPatternWindow::windowsShareRecentFiles()
     QVERIFY(menu->isEnabled());
     menu->actions().first()->trigger();
     QCOMPARE(other->form().curves().ids().size(), 1);
-    QCOMPARE(Workbench(file(QStringLiteral("settings.ini"))).recentFiles(),
+    QCOMPARE(Workbench(file(QStringLiteral("settings.json"))).recentFiles(),
              QStringList(sample(QStringLiteral("horn.csv"))));
 }
 
@@ -464,7 +464,7 @@ void TestPatternWindow::signalKeepsThePlaceOfTheWindow()
     program.setProcessEnvironment(environment);
     program.start(QStringLiteral(MZ_BIN_DIR "/mz6218-patterns"),
                   {QStringLiteral(MZ_BIN_DIR "/samples/horn.csv")});
-    const WorkbenchSettings settings(folder.filePath(QStringLiteral("mz6218/mz6218-patterns.ini")));
+    const WorkbenchSettings settings(folder.filePath(QStringLiteral("mz6218/mz6218-patterns.json")));
     QTRY_VERIFY_WITH_TIMEOUT(!settings.recentFiles().isEmpty(), 30000);
     QVERIFY(settings.windowGeometry().isEmpty());
     program.terminate();
