@@ -1,0 +1,191 @@
+#include "appinit.h"
+#include "appstyle.h"
+#include "messagelog.h"
+#include "testmain.h"
+#include "virtualclock.h"
+#include "weekfiles.h"
+#include "weekrun.h"
+
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+
+constexpr qint64 minute = 60000; // ms
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+constexpr qint64 memoryBound = 2048; // KiB above the first figure
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool isMemoryTelling = false; // the sanitizer keeps what was freed
+#else
+constexpr bool isMemoryTelling = true;
+#endif
+
+struct Wishes
+{
+    bool slice = false;
+    bool keep = false;
+    int days = 7;
+    quint32 seed = 1;
+};
+
+Wishes readOptions(const QCoreApplication &app)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Runs the console against the simulated instrument through a week in virtual time."));
+    parser.addHelpOption();
+    const QCommandLineOption days(QStringLiteral("days"), QStringLiteral("Length of the run (7)."),
+                                  QStringLiteral("N"), QStringLiteral("7"));
+    const QCommandLineOption seed(QStringLiteral("seed"),
+                                  QStringLiteral("The same seed gives the same plan (1)."),
+                                  QStringLiteral("S"), QStringLiteral("1"));
+    const QCommandLineOption slice(
+        QStringLiteral("slice"),
+        QStringLiteral("90 minutes around a midnight with one loss of the link, instead of days."));
+    const QCommandLineOption keep(QStringLiteral("keep"),
+                                  QStringLiteral("Keep the records and logs beside the program."));
+    parser.addOptions({days, seed, slice, keep});
+    parser.process(app);
+    return {parser.isSet(slice), parser.isSet(keep), std::max(1, parser.value(days).toInt()),
+            parser.value(seed).toUInt()};
+}
+
+/// The fourth night of the run is the one in which summer time ends, and an hour comes twice.
+WeekPlan makePlan(const Wishes &wishes)
+{
+    const QDateTime start(QDate(2026, 10, 21), QTime(23, 5), Qt::LocalTime);
+    return wishes.slice
+               ? WeekPlan::make(start, 90 * minute, 61 * minute, 63 * minute, wishes.seed)
+               : WeekPlan::make(start, wishes.days * day, 2 * hour, 12 * hour, wishes.seed);
+}
+
+/// The table of what was expected and what was found, and the sum of all that differed.
+class Report
+{
+public:
+    Report() { m_out << QStringLiteral("%1 |  expected |     found\n").arg(QString(), -44); }
+    void compare(const QString &what, qint64 expected, qint64 found)
+    {
+        m_out << QStringLiteral("%1 | %2 | %3\n").arg(what, -44).arg(expected, 9).arg(found, 9);
+        m_failures += expected == found ? 0 : 1;
+    }
+    void tell(const QString &what, const QString &figure)
+    {
+        m_out << QStringLiteral("%1 |           | %2\n").arg(what, -44).arg(figure, 9);
+    }
+    void fail(const QStringList &faults)
+    {
+        for (const QString &fault : faults)
+            m_out << "FAULT: " << fault << '\n';
+        m_failures += faults.size();
+    }
+    int failures() const { return m_failures; }
+
+private:
+    QTextStream m_out{stdout};
+    int m_failures = 0;
+};
+
+void reportMemory(const WeekRun &run, Report &report)
+{
+    const qint64 first = run.memory().constFirst().second;
+    for (const WeekRun::Memory &memory : run.memory())
+        report.tell(
+            QStringLiteral("memory after %1 h, KiB").arg(double(memory.first) / hour, 0, 'f', 1),
+            QString::number(memory.second));
+    const qint64 growth = run.memory().constLast().second - first;
+    report.tell(QStringLiteral("growth of it since the first figure, KiB"),
+                QString::number(growth));
+    if (isMemoryTelling && growth > memoryBound)
+        report.fail({QStringLiteral("the memory grew by more than %1 KiB").arg(memoryBound)});
+}
+
+void reportRun(const WeekPlan &plan, const WeekRun &run, Report &report)
+{
+    qint64 open = 0;
+    int restarts = 0;
+    int boxes = plan.links.size() - 1;
+    for (const WeekPlan::Link &link : plan.links) {
+        const qint64 seconds = (link.endsAt - link.openedAt) / 1000;
+        open += seconds;
+        restarts += int(seconds / 3601);
+        boxes += link.isSecondTry ? 1 : 0;
+    }
+    report.tell(QStringLiteral("hours of virtual time"),
+                QString::number(double(plan.end()) / hour, 'f', 1));
+    report.tell(QStringLiteral("links (one more than losses)"), QString::number(plan.links.size()));
+    report.tell(QStringLiteral("readings"), QString::number(run.readings()));
+    report.tell(QStringLiteral("waits that a busy machine left unanswered"),
+                QString::number(VirtualClock::unansweredWaits()));
+    report.compare(QStringLiteral("warning boxes"), boxes, run.boxes());
+    report.tell(QStringLiteral("chart points, seconds with a link"),
+                QStringLiteral("%1, %2").arg(run.chartPoints()).arg(open));
+    report.tell(QStringLiteral("most chart points at once (601 shown)"),
+                QString::number(run.mostChartPoints()));
+    report.compare(QStringLiteral("chart restarts after an hour"), restarts, run.chartRestarts());
+    report.fail(run.faults());
+}
+
+void reportFiles(const WeekPlan &plan, Report &report)
+{
+    const QVector<ExpectedRecord> records = expectedRecords(plan);
+    const FilesFound rows =
+        checkRecords(ConsoleTester::path(QStringLiteral("DataRecord")), plan, records);
+    report.compare(QStringLiteral("records"), records.size(), rows.records);
+    report.fail(rows.faults);
+
+    const QStringList hours = expectedLogs(plan);
+    const FilesFound logs = checkLogs(ConsoleTester::path(QStringLiteral("Log")), hours);
+    report.compare(QStringLiteral("log files"), hours.size(), logs.logs);
+    report.fail(logs.faults);
+}
+
+/// Everything as in the console's own start, with the log's copy on standard error put away.
+void prepare()
+{
+    std::fflush(stderr);
+    if (std::freopen(isMemoryTelling ? "/dev/null" : "stderr.txt", "w", stderr) == nullptr)
+        std::perror("stderr");
+    qInstallMessageHandler(MessageLog::handler);
+    QApplication::setFont(AppStyle::applicationFont());
+    AppStyle::applyStyleSheet();
+    AppInit::Instance()->start();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    TestMain::pinEnvironment();
+    qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    // GLib's event loop has descriptors of its own to wait for; Qt's own is all that is needed.
+    qputenv("QT_NO_GLIB", "1");
+    AppStyle::enableHighDpi();
+    QApplication app(argc, argv);
+    // A box may come up and be closed while the console's window is hidden.
+    QApplication::setQuitOnLastWindowClosed(false);
+    const Wishes wishes = readOptions(app);
+    const WeekPlan plan = makePlan(wishes);
+
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+    ConsoleTester::cleanFolder();
+    prepare();
+    VirtualClock::start(plan.start.toMSecsSinceEpoch(), wishes.seed);
+    Report report;
+    WeekRun run(plan, wishes.seed);
+    QObject::connect(&run, &WeekRun::finished, &app, &QCoreApplication::quit);
+    QApplication::exec();
+
+    reportRun(plan, run, report);
+    reportFiles(plan, report);
+    reportMemory(run, report);
+    report.tell(QStringLiteral("real time, s"),
+                QString::number(VirtualClock::realElapsed() / 1000));
+    if (!wishes.keep)
+        ConsoleTester::cleanFolder();
+    return report.failures() == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}

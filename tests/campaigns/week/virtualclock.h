@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// A clock for the whole process that stands still while the program computes and leaps over the
+/// time in which it would only wait. It takes the place of the C library's functions for the time
+/// and for waiting on descriptors, for Qt's libraries too, since a program's own symbols come
+/// before a library's. Timers, waits and dates of Qt all follow it, each to the millisecond.
+///
+/// (A preloaded library that speeds the clock up, such as faketime, still waits out each pause in
+/// real time, divided by a fixed factor: too slow where nothing happens, and where much happens the
+/// program falls behind its clock and loses ticks that it would not lose in earnest.)
+namespace VirtualClock {
+
+/// Sets the date to \a msecsSinceEpoch, and from now on time passes as told above.
+/// A wait on one TCP socket alone is a wait for the instrument, which lives in real time: it is
+/// carried out, and an answer counts as if it had taken 1 to 60 ms, drawn from \a seed.
+void start(qint64 msecsSinceEpoch, quint32 seed);
+
+/// The time since the start, in ms.
+qint64 elapsed();
+
+/// The time that has really passed since the start, in ms.
+qint64 realElapsed();
+
+/// How many waits for the instrument went without an answer.
+int unansweredWaits();
+
+/// While one lives, nothing is leapt over: for waits for a process to start or to end.
+class RealWaits
+{
+public:
+    RealWaits();
+    ~RealWaits();
+    Q_DISABLE_COPY_MOVE(RealWaits)
+};
+
+} // namespace VirtualClock

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "consoletester.h"
+#include "simulatorprocess.h"
+#include "weekplan.h"
+
+#include <QObject>
+#include <QPair>
+#include <QStringList>
+#include <QTimer>
+#include <QVector>
+
+#include <functional>
+
+/// The operator, the instrument and the clock of a long run: does what a plan says at the planned
+/// times to a real console and a real simulator, and watches what they make of it. The console's
+/// window is shown for the first ten minutes of each hour.
+class WeekRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The memory in KiB at a time in ms since the start.
+    using Memory = QPair<qint64, qint64>;
+
+    /// Makes the console, starts the instrument and lets the virtual time begin.
+    WeekRun(const WeekPlan &plan, quint32 seed);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// After an hour (half the time of a short run), after each day, and at the end.
+    const QVector<Memory> &memory() const { return m_memory; }
+    qint64 readings() const { return m_readings; }
+    qint64 chartPoints() const { return m_chartPoints; }
+    /// How often the chart began anew within a link, and the most points that it held.
+    int chartRestarts() const { return m_chartRestarts; }
+    int mostChartPoints() const { return m_mostChartPoints; }
+    int boxes() const { return m_boxes; }
+    /// What went otherwise than planned, one line each.
+    const QStringList &faults() const { return m_faults; }
+
+signals:
+    void finished();
+
+private:
+    struct Step
+    {
+        qint64 at; ///< ms since the start
+        std::function<void()> act;
+    };
+
+    void planSteps();
+    void planLink(int number);
+    void planShowing();
+    void planMemory();
+    void awaitNextStep();
+    void takeStep();
+
+    void startInstrument(const WeekPlan::Link &link);
+    void stopInstrument();
+    void connectAsOperator(bool wanted, int interval);
+    void endLink(const WeekPlan::Link &link);
+    void finish();
+
+    void countReading(double power);
+    void watchChart();
+    void noteMemory();
+    void addFault(const QString &text);
+
+    WeekPlan m_plan;
+    quint32 m_seed;
+    SimulatorProcess m_instrument;
+    QString m_address;
+    ConsoleTester m_console;
+    QVector<Step> m_steps; ///< the next one last
+    QTimer m_stepTimer;
+    qint64 m_linkTicks = 0; ///< of the console's clock, since the link was opened
+    qint64 m_readings = 0;
+    qint64 m_chartPoints = 0;
+    int m_chartRestarts = 0;
+    int m_mostChartPoints = 0;
+    int m_boxes = 0;
+    QVector<Memory> m_memory;
+    QStringList m_faults;
+};
