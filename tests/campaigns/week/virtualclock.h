@@ -7,9 +7,9 @@
 /// and for waiting on descriptors, for Qt's libraries too, since a program's own symbols come
 /// before a library's. Timers, waits and dates of Qt all follow it, each to the millisecond.
 ///
-/// (A preloaded library that speeds the clock up, such as faketime, still waits out each pause in
-/// real time, divided by a fixed factor: too slow where nothing happens, and where much happens the
-/// program falls behind its clock and loses ticks that it would not lose in earnest.)
+/// (Tried and left: a preloaded library that lets time run faster, such as faketime. Two
+/// hundredfold, which a week in an hour needs, the console got round to a tenth of its polls only,
+/// and 25 ms for which the machine does something else are a time-out of the link.)
 namespace VirtualClock {
 
 /// Sets the date to \a msecsSinceEpoch, and from now on time passes as told above.
