@@ -146,6 +146,11 @@ void LinkSession::pollLostLink()
         startPolling();
 }
 
+void LinkSession::postponeRecord()
+{
+    m_firstSaveTimer->start(firstSaveWait);
+}
+
 void LinkSession::stopPolling()
 {
     m_readTimer->stop();

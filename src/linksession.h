@@ -45,6 +45,8 @@ public:
     /// after a setting that was not confirmed, since that leaves the polling at rest.
     bool isReadingCurrent() const;
     void stopPolling();
+    /// A record that has no current reading yet is due again one second from now.
+    void postponeRecord();
     /// The next record is due one interval from now.
     void startRecords();
 
@@ -72,7 +74,7 @@ private:
     TimeChart *m_chart;
     QTimer *m_readTimer;
     QTimer *m_saveTimer;
-    QTimer *m_firstSaveTimer; // for the one record right after an open
+    QTimer *m_firstSaveTimer; // for the record right after an open, and for a postponed one
     LinkMode m_mode = serialLink;
     State m_state = State::Closed;
     bool m_hasReading = false; // of the present link

@@ -421,7 +421,8 @@ void MainWindow::saveValue()
 bool MainWindow::readForRecord()
 {
     if (m_link->awaitsResult()) {
-        qInfo("Nothing is recorded while a result is awaited, as no reading can be had.");
+        // The instrument would answer a reading and the result in one line of replies.
+        m_session->postponeRecord();
         return false;
     }
     m_link->readMesureData();

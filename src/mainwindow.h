@@ -69,7 +69,8 @@ public slots:
     void timerOut();
     void readValue();
     void loadingTimerOut();
-    /// Records what is shown, after a look at the instrument when that is not its latest reading.
+    /// Records what is shown, after a look at the instrument when that is not its latest reading;
+    /// while a result is awaited, a little later.
     void saveValue();
 
 protected:

@@ -2,6 +2,7 @@
 #include "simulatorprocess.h"
 #include "testmain.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QTimer>
 
@@ -37,6 +38,7 @@ private slots:
     void zeroingAndCalibrationTellTheirResult();
     void zeroingThatNeverEndsTimesOut();
     void waitCannotBeDismissed();
+    void recordDueMeanwhileWaitsForAReading();
     void closingTheWindowEndsTheWait();
     void zeroingOnALostLinkShowsNoWait();
 };
@@ -145,6 +147,31 @@ void TestZeroing::waitCannotBeDismissed()
     console.click("btnSetZero");
     QCOMPARE(seen, (QStringList{QStringLiteral("1"), QStringLiteral("Info: Set zero success!")}));
     QVERIFY(script.isDone());
+}
+
+void TestZeroing::recordDueMeanwhileWaitsForAReading()
+{
+    SimulatorProcess simulator;
+    QVERIFY(simulator.start({QStringLiteral("--calibration-time"), QStringLiteral("0.3")}));
+    const ConsoleTester console;
+    QVERIFY(console.connectTo(simulator));
+    const QDir records(ConsoleTester::path(QStringLiteral("DataRecord")));
+    QStringList seen;
+    const ModalScript script({readWait(seen,
+                                       [&] {
+                                           console.window().saveValue();
+                                           seen.append(
+                                               records.entryList({QStringLiteral("*.csv")}));
+                                       }),
+                              readBox(seen)});
+    console.click("btnSetZero");
+    QCOMPARE(seen, (QStringList{QStringLiteral("Set zero,waiting...30 s"),
+                                QStringLiteral("Info: Set zero success!")}));
+    QTRY_COMPARE(records.entryList({QStringLiteral("*.csv")}).size(), 1);
+    const QByteArray file = ConsoleTester::contentOf(
+        records.filePath(records.entryList({QStringLiteral("*.csv")}).first()));
+    QCOMPARE(file.count('\n'), 2);
+    QVERIFY2(!file.contains("100.00dBm"), file.constData());
 }
 
 void TestZeroing::closingTheWindowEndsTheWait()
