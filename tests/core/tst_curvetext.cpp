@@ -6,7 +6,6 @@
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 using CurveText::Curve;
 using CurveText::Status;
@@ -15,13 +14,6 @@ using Points = QVector<QPointF>;
 Q_DECLARE_METATYPE(CurveText::Status)
 
 namespace {
-
-quint64 bits(double value)
-{
-    quint64 pattern = 0;
-    std::memcpy(&pattern, &value, sizeof pattern);
-    return pattern;
-}
 
 double fromBits(quint64 pattern)
 {
@@ -33,10 +25,8 @@ double fromBits(quint64 pattern)
 /// Exact, where QPointF compares fuzzily.
 bool same(const Points &a, const Points &b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const QPointF &p, const QPointF &q) {
-                          return bits(p.x()) == bits(q.x()) && bits(p.y()) == bits(q.y());
-                      });
+    return a.size() == b.size() &&
+           std::memcmp(a.constData(), b.constData(), std::size_t(a.size()) * sizeof(QPointF)) == 0;
 }
 
 QByteArray fileWith(const QByteArray &rows)

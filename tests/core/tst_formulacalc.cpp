@@ -18,11 +18,7 @@ namespace {
 
 bool sameBits(double a, double b)
 {
-    quint64 bitsOfA = 0;
-    quint64 bitsOfB = 0;
-    std::memcpy(&bitsOfA, &a, sizeof a);
-    std::memcpy(&bitsOfB, &b, sizeof b);
-    return bitsOfA == bitsOfB;
+    return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
 /// The lookup as the descending walk that defines it.

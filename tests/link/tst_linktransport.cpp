@@ -141,8 +141,6 @@ void TestLinkTransport::serialSettings()
     const auto *port = bench.link.findChild<QSerialPort *>();
     QCOMPARE(port->baudRate(QSerialPort::Input), 19200);
     QCOMPARE(port->baudRate(QSerialPort::Output), 19200);
-    QCOMPARE(port->parity(), QSerialPort::NoParity);
-    QCOMPARE(port->dataBits(), QSerialPort::Data8);
     QCOMPARE(port->stopBits(), QSerialPort::OneStop);
     QCOMPARE(port->flowControl(), QSerialPort::NoFlowControl);
 }
