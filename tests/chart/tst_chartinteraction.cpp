@@ -1,39 +1,46 @@
-#include "2d/graphicsbase.h"
+#include "2d/guidelines.h"
+#include "2d/marktable.h"
 #include "2d/mymarkitem.h"
 #include "2d/mypathitem.h"
 #include "2d/pathinfo.h"
 #include "chartprobe.h"
 #include "testmain.h"
 
-#include <QChart>
 #include <QClipboard>
 #include <QGraphicsScene>
+#include <QHeaderView>
+#include <QLabel>
 #include <QSignalSpy>
-#include <QValueAxis>
 
 #include <cmath>
 
-using namespace QtCharts;
-using ChartProbe::Points;
+using namespace ChartProbe;
 
 namespace {
 
-QString text(const char *utf8)
+using Ends = QVector<double>;
+using Entry = ChartMenu::Entry;
+
+const GuideLine *guideLine(const GraphicsBase &view, const char *name)
 {
-    return QString::fromUtf8(utf8);
+    const QList<QGraphicsItem *> items = view.scene()->items();
+    for (const QGraphicsItem *item : items) {
+        const auto *line = dynamic_cast<const GuideLine *>(item);
+        if (line && line->objectName() == text(name))
+            return line;
+    }
+    return nullptr;
 }
 
-QVector<double> shown(const GraphicsBase &view)
+/// Where a marker has to be drawn for its tip to point at its value.
+QPointF place(const ChartBench &bench, const MyMarkItem *mark)
 {
-    const ViewRange range = view.shownRange();
-    return {range.xMin, range.xMax, range.yMin, range.yMax};
+    return bench.view.toScene(mark->valuePoint()) - QPointF(3, 12);
 }
-
-const Points flat{{0, -20}, {100, -20}};
 
 } // namespace
 
-/// What the operator does to a chart with mouse, keyboard and menu.
+/// What the operator does to a chart with mouse, keyboard and menu, and to its markers.
 class TestChartInteraction : public QObject
 {
     Q_OBJECT
@@ -41,15 +48,22 @@ class TestChartInteraction : public QObject
 private slots:
     void zoomsAboutThePointer_data();
     void zoomsAboutThePointer();
-    void returnsHome();
     void takesHoldButMovesNothing();
     void selectsTheLastCurveHit();
-    void signalsCurvesThatTheMouseMayTake();
     void enablesTheMenu();
     void endsModesWithTheMenu();
     void toggledTables();
     void obeysKeys_data();
     void obeysKeys();
+    void placesMarkers();
+    void wantsACurveForAMarker();
+    void numbersMarkers();
+    void keepsTheTipOnTheCurve();
+    void dragsMarkersAlongTheCurve_data();
+    void dragsMarkersAlongTheCurve();
+    void snapsMarkersToNewData();
+    void hidesMarkersOutOfView();
+    void listsMarkersInTheTable();
 };
 
 void TestChartInteraction::zoomsAboutThePointer_data()
@@ -68,211 +82,347 @@ void TestChartInteraction::zoomsAboutThePointer()
     QFETCH(int, kind);
     QFETCH(int, delta);
     QFETCH(double, factor);
-    ChartBench bench(flat, kind);
-    QVERIFY(bench.ready);
-    const ViewRange before = bench.view.shownRange();
+    ChartBench bench(flat(), kind);
+    const Ends home = shown(bench.view);
     const QPointF pointer(300, 200);
-    ChartProbe::turnWheel(bench.view, pointer, delta); // without the zoom mode: nothing
-    ChartProbe::run(bench.view, "zoomSlot");
+    turnWheel(bench.view, pointer, delta); // without the zoom mode: nothing
+    run(bench.view, "zoomSlot");
     QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::CrossCursor);
     const QPointF centre = bench.view.toValue(pointer);
     for (int turn = 0; turn < 2; ++turn)
-        ChartProbe::turnWheel(bench.view, pointer, delta);
-    const ViewRange after = bench.view.shownRange();
-    QCOMPARE(after.yMax - after.yMin, (before.yMax - before.yMin) * factor * factor);
+        turnWheel(bench.view, pointer, delta);
+    const Ends after = shown(bench.view);
+    QCOMPARE(after[3] - after[2], 40.0 * factor * factor);
     if (kind == 0) {
-        QCOMPARE(after.xMax - after.xMin, (before.xMax - before.xMin) * factor * factor);
+        QCOMPARE(after[1] - after[0], 100.0 * factor * factor);
         // What is under the pointer stays there.
         QVERIFY((bench.view.toScene(centre) - pointer).manhattanLength() < 3.0);
     } else {
-        QCOMPARE(after.xMin, before.xMin);
-        QCOMPARE(after.xMax, before.xMax);
+        QCOMPARE(after.mid(0, 2), (Ends{-180, 180}));
     }
-    const QList<QPointF> drawn = bench.path->pathItem()->drawnPoints();
-    QCOMPARE(drawn.at(0), bench.view.toScene(flat.at(0)));
-}
-
-void TestChartInteraction::returnsHome()
-{
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
-    const QVector<double> home = shown(bench.view);
-    ChartProbe::run(bench.view, "zoomSlot");
-    for (int turn = 0; turn < 7; ++turn)
-        ChartProbe::turnWheel(bench.view, {300, 200}, turn % 3 ? -120 : 120);
-    QVERIFY(shown(bench.view) != home);
-    ChartProbe::run(bench.view, "resetSlot");
-    QCOMPARE(shown(bench.view), home);
+    QCOMPARE(bench.drawn().at(0), bench.view.toScene(flat().at(0)));
+    run(bench.view, "resetSlot");
     QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::ArrowCursor);
-    QCOMPARE(bench.path->pathItem()->drawnPoints().at(1), bench.view.toScene(flat.at(1)));
-    ChartProbe::turnWheel(bench.view, {300, 200}, 120); // the zoom mode has ended
+    turnWheel(bench.view, pointer, delta); // the zoom mode has ended
     QCOMPARE(shown(bench.view), home);
+    QCOMPARE(bench.drawn().at(1), bench.view.toScene(flat().at(1)));
 }
 
 void TestChartInteraction::takesHoldButMovesNothing()
 {
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
-    const QVector<double> before = shown(bench.view);
-    ChartProbe::run(bench.view, "panSlot");
-    QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::OpenHandCursor);
-    const QPoint place = bench.view.toScene({50, -20}).toPoint();
-    QTest::mousePress(bench.view.viewport(), Qt::RightButton, Qt::NoModifier, place);
-    QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::OpenHandCursor);
-    QTest::mousePress(bench.view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::ClosedHandCursor);
-    QTest::mouseMove(bench.view.viewport(), place + QPoint(50, 50));
-    QTest::mouseRelease(bench.view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QCOMPARE(shown(bench.view), before);
+    ChartBench bench(flat());
+    QWidget *viewport = bench.view.viewport();
+    run(bench.view, "panSlot");
+    QCOMPARE(viewport->cursor().shape(), Qt::OpenHandCursor);
+    const QPoint curve = bench.view.toScene({50, -20}).toPoint();
+    QTest::mousePress(viewport, Qt::RightButton, Qt::NoModifier, curve);
+    QCOMPARE(viewport->cursor().shape(), Qt::OpenHandCursor);
+    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, curve);
+    QCOMPARE(viewport->cursor().shape(), Qt::ClosedHandCursor);
+    QTest::mouseMove(viewport, curve + QPoint(50, 50));
+    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, curve);
+    QCOMPARE(shown(bench.view), (Ends{0, 100, -40, 0}));
     QVERIFY(!bench.view.selectedPath()); // nor does the press reach the curve under it
     bench.view.panResetSlot();
-    QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::ClosedHandCursor);
-    ChartProbe::click(bench.view, place);
-    QVERIFY(bench.view.selectedPath());
+    QCOMPARE(viewport->cursor().shape(), Qt::ClosedHandCursor);
 }
 
 void TestChartInteraction::selectsTheLastCurveHit()
 {
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
+    ChartBench bench(flat());
     bench.view.addCurve(text("B"), {{0, 0}, {100, -40}});
     bench.view.addCurve(text("C"), {{0, -35}, {100, -35}});
-    ChartProbe::click(bench.view, bench.view.toScene({20, -20}));
-    QCOMPARE(bench.view.selectedPath()->pathId(), 1);
-    ChartProbe::click(bench.view, bench.view.toScene({50, -20})); // where two of them cross
-    QCOMPARE(bench.view.selectedPath()->pathId(), 2);
-    ChartProbe::click(bench.view, bench.view.toScene({20, -35}));
-    QCOMPARE(bench.view.selectedPath()->pathId(), 3);
+    const auto selectedAt = [&bench](const QPointF &value) {
+        click(bench.view, bench.view.toScene(value));
+        return bench.view.selectedPath()->pathId();
+    };
+    QCOMPARE(selectedAt({20, -20}), 1);
+    QCOMPARE(selectedAt({50, -20}), 2); // where two of them cross
+    QCOMPARE(selectedAt({20, -35}), 3);
     for (const PathInfo *path : bench.view.paths())
         QCOMPARE(path->isSelected(), path->pathId() == 3);
-}
-
-void TestChartInteraction::signalsCurvesThatTheMouseMayTake()
-{
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
-    QSignalSpy selected(bench.path, &PathInfo::selectPathId);
+    // The mouse takes neither a curve that may not be selected nor one that is hidden.
     bench.path->pathItem()->setSelectionMode(MyPathItem::NotSelectable);
-    ChartProbe::click(bench.view, bench.view.toScene({50, -20}));
-    QCOMPARE(selected.size(), 0);
+    QCOMPARE(selectedAt({20, -20}), 3);
     bench.path->pathItem()->setSelectionMode(MyPathItem::Selectable);
     bench.path->setHidden(true);
-    ChartProbe::click(bench.view, bench.view.toScene({50, -20}));
-    QCOMPARE(selected.size(), 0);
-    bench.path->setHidden(false);
-    ChartProbe::click(bench.view, bench.view.toScene({50, -20}));
-    QVERIFY(!selected.isEmpty());
-    QCOMPARE(selected.last().first().toInt(), 1);
+    QCOMPARE(selectedAt({20, -20}), 3);
 }
 
 void TestChartInteraction::enablesTheMenu()
 {
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
+    ChartBench bench(flat());
     QApplication::clipboard()->clear();
-    using Entry = ChartMenu::Entry;
-    bench.openMenu({50, -30}, [](ChartMenu &menu) {
-        for (const Entry entry : {Entry::Copy, Entry::Paste, Entry::DeleteMark, Entry::Symmetry})
-            QVERIFY(!menu.entry(entry)->isEnabled());
-        for (const auto &[entry, name] :
-             {std::pair(Entry::ExportData, "Export Graphics As CSV"),
-              std::pair(Entry::ExportImage, "Export Graphics As Image"),
-              std::pair(Entry::Manager, "Manager Graphics"), std::pair(Entry::Pan, "Pan"),
-              std::pair(Entry::Reset, "Reset")})
-            QCOMPARE(menu.entry(entry)->text(), text(name));
-    });
+    const auto verifyEnabled = [&bench](bool enabled) {
+        bench.openMenu({50, -30}, [enabled](ChartMenu &menu) {
+            for (const Entry entry :
+                 {Entry::Copy, Entry::Paste, Entry::DeleteMark, Entry::Symmetry})
+                QCOMPARE(menu.entry(entry)->isEnabled(), enabled);
+        });
+    };
+    verifyEnabled(false);
     bench.addMark(50);
     bench.chooseEntry({50, -30}, Entry::Copy);
     bench.view.finishUpdateChart();
-    bench.openMenu({50, -30}, [](ChartMenu &menu) {
-        for (const Entry entry : {Entry::Copy, Entry::Paste, Entry::DeleteMark, Entry::Symmetry})
-            QVERIFY(menu.entry(entry)->isEnabled());
-    });
+    verifyEnabled(true);
     bench.chooseEntry({50, -30}, Entry::ClearSelection);
     QVERIFY(!bench.view.selectedPath());
 }
 
 void TestChartInteraction::endsModesWithTheMenu()
 {
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
-    ChartProbe::run(bench.view, "zoomSlot");
-    ChartProbe::run(bench.view, "panSlot");
-    bench.openMenu({50, -30}, [](ChartMenu &) {});
+    ChartBench bench(flat());
+    run(bench.view, "zoomSlot");
+    run(bench.view, "panSlot");
+    bench.openMenu({50, -30}, [](ChartMenu &menu) {
+        QCOMPARE(menu.entry(Entry::ExportImage)->text(), text("Export Graphics As Image"));
+        QCOMPARE(menu.entry(Entry::Manager)->text(), text("Manager Graphics"));
+    });
     QCOMPARE(bench.view.viewport()->cursor().shape(), Qt::ArrowCursor);
-    const QVector<double> before = shown(bench.view);
-    ChartProbe::turnWheel(bench.view, {300, 200}, 120);
-    QCOMPARE(shown(bench.view), before);
+    turnWheel(bench.view, {300, 200}, 120);
+    QCOMPARE(shown(bench.view), (Ends{0, 100, -40, 0}));
 }
 
 void TestChartInteraction::toggledTables()
 {
-    ChartBench bench(ChartProbe::sine(100, 0, 100, -20));
-    QVERIFY(bench.ready);
+    ChartBench bench(sine(100, 0, 100, -20));
     bench.view.finishUpdateChart();
     QSignalSpy filled(&bench.view, &GraphicsBase::updateParaInfoToTable);
     QSignalSpy emptied(&bench.view, &GraphicsBase::clearParaInfoToTable);
-    ChartProbe::run(bench.view, "showOrHideParameterTableSlot");
+    run(bench.view, "showOrHideParameterTableSlot");
     QCOMPARE(filled.size(), 0); // no curve is selected
     bench.view.updatePathSelection(1);
-    ChartProbe::run(bench.view, "showOrHideParameterTableSlot");
+    run(bench.view, "showOrHideParameterTableSlot");
     QCOMPARE(filled.size(), 1);
     QVERIFY(std::abs(filled.last().first().value<ParaInfo>().gain.second + 10.0) < 0.1);
     bool checked = false;
-    bench.openMenu({50, -30}, [&](ChartMenu &menu) {
-        checked = menu.entry(ChartMenu::Entry::ParameterTable)->isChecked();
+    bench.openMenu({50, -30}, [&checked](ChartMenu &menu) {
+        checked = menu.entry(Entry::ParameterTable)->isChecked();
     });
     QVERIFY(checked);
-    bench.view.addCurve(text("B"), ChartProbe::sine(100, 0, 100, -25));
+    bench.view.addCurve(text("B"), sine(100, 0, 100, -25));
     bench.view.updatePathSelection(2); // the table follows the selection
     QCOMPARE(filled.size(), 2);
     QCOMPARE(emptied.size(), 0);
-    ChartProbe::run(bench.view, "clearSelectionSlot");
+    run(bench.view, "clearSelectionSlot");
     QCOMPARE(emptied.size(), 1);
-    bench.view.updatePathSelection(1);
-    ChartProbe::run(bench.view, "showOrHideParameterTableSlot");
-    ChartProbe::run(bench.view, "showOrHideParameterTableSlot");
-    QCOMPARE(filled.size(), 3);
-    QCOMPARE(emptied.size(), 2);
 }
 
 void TestChartInteraction::obeysKeys_data()
 {
     QTest::addColumn<int>("key");
-    QTest::addColumn<QVector<double>>("range");
-    using Range = QVector<double>;
-    const double out = 1.05;
-    const double in = 1 / 1.05;
-    QTest::newRow("left") << int(Qt::Key_Left) << Range{-10, 90, -40, 0};
-    QTest::newRow("right") << int(Qt::Key_Right) << Range{10, 110, -40, 0};
-    QTest::newRow("up") << int(Qt::Key_Up) << Range{0, 100, -36, 4};
-    QTest::newRow("down") << int(Qt::Key_Down) << Range{0, 100, -44, -4};
-    QTest::newRow("minus") << int(Qt::Key_Minus)
-                           << Range{50 - 50 * out, 50 + 50 * out, -20 - 20 * out, -20 + 20 * out};
-    QTest::newRow("plus") << int(Qt::Key_Plus)
-                          << Range{50 - 50 * in, 50 + 50 * in, -20 - 20 * in, -20 + 20 * in};
+    QTest::addColumn<Ends>("range");
+    const auto scaled = [](double factor) {
+        return Ends{50 - 50 * factor, 50 + 50 * factor, -20 - 20 * factor, -20 + 20 * factor};
+    };
+    QTest::newRow("left") << int(Qt::Key_Left) << Ends{-10, 90, -40, 0};
+    QTest::newRow("right") << int(Qt::Key_Right) << Ends{10, 110, -40, 0};
+    QTest::newRow("up") << int(Qt::Key_Up) << Ends{0, 100, -36, 4};
+    QTest::newRow("down") << int(Qt::Key_Down) << Ends{0, 100, -44, -4};
+    QTest::newRow("minus") << int(Qt::Key_Minus) << scaled(1.05);
+    QTest::newRow("plus") << int(Qt::Key_Plus) << scaled(1 / 1.05);
 }
 
 void TestChartInteraction::obeysKeys()
 {
     QFETCH(int, key);
-    QFETCH(QVector<double>, range);
-    ChartBench bench(flat);
-    QVERIFY(bench.ready);
+    QFETCH(Ends, range);
+    ChartBench bench(flat());
     QTest::keyClick(&bench.view, static_cast<Qt::Key>(key));
     QCOMPARE(shown(bench.view), range);
-    const auto *axis = qobject_cast<QValueAxis *>(bench.view.chart()->axes(Qt::Horizontal).first());
-    QCOMPARE(axis->min(), range[0]);
     QTest::keyClick(&bench.view, Qt::Key_Home);
-    QCOMPARE(shown(bench.view), (QVector<double>{0, 100, -40, 0}));
+    QCOMPARE(shown(bench.view), (Ends{0, 100, -40, 0}));
 
     bench.addMark(50);
-    ChartProbe::click(bench.view, bench.mark(1)->pos());
+    click(bench.view, bench.mark(1)->pos());
     QTest::keyClick(&bench.view, Qt::Key_Delete);
     QVERIFY(bench.view.marks().isEmpty());
     QApplication::clipboard()->clear();
     QTest::keyClick(&bench.view, Qt::Key_C, Qt::ControlModifier);
     QVERIFY(QApplication::clipboard()->text().startsWith(text("A\nAngle,Power\n")));
+}
+
+void TestChartInteraction::placesMarkers()
+{
+    for (const Points &points : {Points{{0, -30}, {100, -10}}, Points{{100, -10}, {0, -30}}}) {
+        ChartBench bench(points);
+        bench.addMark(25);
+        const MyMarkItem *mark = bench.mark(1);
+        QVERIFY(std::abs(mark->valuePoint().x() - 25) < 0.2); // the menu opens on whole pixels
+        QVERIFY(std::abs(mark->valuePoint().y() + 25.0) < 0.05);
+        QCOMPARE(mark->pos(), place(bench, mark));
+        QCOMPARE(mark->color(), bench.path->color());
+        QVERIFY(bench.path->containsMarkid(1) && bench.path->getMarkTableDataStatus());
+    }
+    // Neither beyond the last point nor above what is shown.
+    for (const Points &points : {Points{{0, -30}, {40, -10}}, Points{{0, 20}, {100, 20}}}) {
+        ChartBench bench(points);
+        bench.addMark(60);
+        QVERIFY(bench.view.marks().isEmpty());
+    }
+}
+
+void TestChartInteraction::wantsACurveForAMarker()
+{
+    ChartBench bench(flat());
+    const ModalScript script({[](QWidget *box) {
+        QCOMPARE(box->findChild<QLabel *>(text("reminderLabel"))->text(),
+                 text("Please select the target graph"));
+        box->close();
+    }});
+    bench.openMenu({50, -20}, [](ChartMenu &menu) { menu.close(); });
+    run(bench.view, "addMarkSlot");
+    QVERIFY(script.isDone());
+    QVERIFY(bench.view.marks().isEmpty());
+}
+
+void TestChartInteraction::numbersMarkers()
+{
+    ChartBench bench(flat());
+    bench.addMark(20);
+    bench.addMark(40);
+    QCOMPARE(bench.view.marks().keys(), (QList<int>{1, 2}));
+    run(bench.view, "deleteMarkSlot"); // none is selected
+    QCOMPARE(bench.view.marks().size(), 2);
+
+    for (const int number : {1, 2, 1}) {
+        click(bench.view, bench.mark(number)->pos());
+        QCOMPARE(bench.view.selectedMark(), bench.mark(number));
+    }
+    QTest::mousePress(bench.view.viewport(), Qt::RightButton, Qt::NoModifier,
+                      bench.mark(2)->pos().toPoint());
+    QCOMPARE(bench.view.selectedMark(), bench.mark(2));
+    QVERIFY(!bench.view.scene()->mouseGrabberItem()); // no release will come
+    click(bench.view, bench.mark(1)->pos());
+    run(bench.view, "deleteMarkSlot");
+    QCOMPARE(bench.view.marks().keys(), (QList<int>{2}));
+    QCOMPARE(bench.path->markIds(), (QList<int>{2}));
+    bench.addMark(60);
+    QCOMPARE(bench.view.marks().keys(), (QList<int>{1, 2}));
+    QVERIFY(bench.mark(1)->valuePoint().x() > 59);
+    bench.view.clearChart(1);
+    QVERIFY(bench.view.marks().isEmpty());
+}
+
+void TestChartInteraction::keepsTheTipOnTheCurve()
+{
+    ChartBench bench(sine(200, 0, 100, -20));
+    bench.addMark(30);
+    const MyMarkItem *mark = bench.mark(1);
+    bench.view.setXRange(0, 60);
+    QCOMPARE(mark->pos(), place(bench, mark));
+    bench.view.setScaleLevel(4, 20, -20);
+    QCOMPARE(mark->pos(), place(bench, mark));
+    bench.view.resize(600, 400);
+    QCOMPARE(mark->pos(), place(bench, mark));
+    run(bench.view, "zoomSlot");
+    turnWheel(bench.view, {300, 200}, 120);
+    QCOMPARE(mark->pos(), place(bench, mark));
+    // A larger glyph for a selected marker has its tip in the same place.
+    const QRectF plain = mark->boundingRect();
+    click(bench.view, mark->pos());
+    QVERIFY(mark->isMarkSelected());
+    QVERIFY(mark->boundingRect().height() > plain.height() + 2);
+    QCOMPARE(mark->boundingRect().bottom(), plain.bottom());
+    // Two lines lead from a selected marker to the axes.
+    const GuideLine *down = guideLine(bench.view, "guideLine1");
+    const GuideLine *across = guideLine(bench.view, "guideLine2");
+    QVERIFY(down->isVisible() && across->isVisible());
+    QCOMPARE(down->path().boundingRect().center().x(), mark->tip().x());
+    QCOMPARE(across->path().boundingRect().center().y(), mark->tip().y());
+    run(bench.view, "deleteMarkSlot");
+    QVERIFY(!down->isVisible());
+}
+
+void TestChartInteraction::dragsMarkersAlongTheCurve_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QPointF>("way");
+    QTest::newRow("to the right") << 0 << QPointF(120, 0);
+    QTest::newRow("off the curve") << 0 << QPointF(80, -150);
+    QTest::newRow("beyond the last point") << 0 << QPointF(2000, 30);
+    QTest::newRow("before the first point") << 0 << QPointF(-2000, 30);
+    QTest::newRow("round a polar chart") << 1 << QPointF(40, 60);
+}
+
+void TestChartInteraction::dragsMarkersAlongTheCurve()
+{
+    QFETCH(int, kind);
+    QFETCH(QPointF, way);
+    ChartBench bench(sine(300, 10, 90, -20), kind);
+    bench.addMark(40);
+    const MyMarkItem *mark = bench.mark(1);
+    const double before = mark->valuePoint().x();
+    const QPoint from = mark->pos().toPoint();
+    QWidget *viewport = bench.view.viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, from);
+    for (int step = 1; step <= 10; ++step) {
+        const QPointF spot = from + way * (step / 10.0);
+        QMouseEvent move(QEvent::MouseMove, spot, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(viewport, &move);
+        const QPointF value = mark->valuePoint();
+        QVERIFY(value.x() >= 10.0 && value.x() <= 90.0);
+        QVERIFY(std::abs(value.y() - (-20 + 10 * std::sin(value.x() * 12.0 / 80.0))) < 0.05);
+        QCOMPARE(mark->pos(), place(bench, mark));
+    }
+    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, (from + way).toPoint());
+    const QPointF dropped = mark->valuePoint();
+    QVERIFY(std::abs(dropped.x() - before) > 1.0);
+    if (std::abs(way.x()) > 1000.0)
+        QCOMPARE(dropped.x(), way.x() > 0 ? 90.0 : 10.0);
+    QTest::mouseMove(viewport, from);
+    QCOMPARE(mark->valuePoint(), dropped);
+    QCOMPARE(bench.path->markTablePanel()->table()->item(0, 1)->text(),
+             QString::number(dropped.x(), 'f', 2));
+}
+
+void TestChartInteraction::snapsMarkersToNewData()
+{
+    ChartBench bench(flat());
+    bench.addMark(50);
+    const double x = bench.mark(1)->valuePoint().x();
+    const auto valueAfter = [&bench](const Points &points) {
+        bench.path->setPoints(points);
+        bench.view.SymmetryResetSlot();
+        return bench.mark(1)->valuePoint();
+    };
+    QCOMPARE(valueAfter({{0, -30}, {x, -30}, {x, -5}, {100, -5}}), QPointF(x, -30));
+    QCOMPARE(valueAfter({{x, -30}, {x, -5}, {100, -5}}), QPointF(x, -5)); // a vertical's last point
+    QCOMPARE(valueAfter({{0, -30}, {1, -30}}), QPointF(x, -5));           // no curve there any more
+}
+
+void TestChartInteraction::hidesMarkersOutOfView()
+{
+    ChartBench bench(flat());
+    bench.addMark(50);
+    const MyMarkItem *mark = bench.mark(1);
+    QVERIFY(mark->isVisible());
+    bench.view.setXRange(60, 100);
+    QVERIFY(!mark->isVisible());
+    bench.view.setXRange(0, 100);
+    QVERIFY(mark->isVisible());
+    bench.path->setHidden(true);
+    QVERIFY(!mark->isVisible());
+    bench.path->setColor(Qt::magenta);
+    QCOMPARE(mark->color(), QColor(Qt::magenta));
+}
+
+void TestChartInteraction::listsMarkersInTheTable()
+{
+    ChartBench bench(flat());
+    const PathInfo *other = bench.view.addCurve(text("B"), {{0, -10}, {100, -10}});
+    bench.addMark(20);
+    bench.addMark(70);
+    const MarkTablePanel *panel = bench.path->markTablePanel();
+    QVERIFY(panel->isVisible() && !other->markTablePanel()->isVisible());
+    const MarkTable *table = panel->table();
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->item(1, 0)->text(), text("M2"));
+    QCOMPARE(table->item(1, 2)->text(), text("-20.00"));
+    // Every row can be seen.
+    QVERIFY(table->height() >= table->horizontalHeader()->height() + 2 * table->rowHeight(0));
+    run(bench.view, "showOrHideMarkTableSlot");
+    QVERIFY(!panel->isVisible());
 }
 
 MZ_TEST_MAIN(TestChartInteraction)
