@@ -32,11 +32,7 @@ class TestLineEdit : public QObject
 
 private slots:
     void init();
-    void cleanup();
-    void integerModeOnlyByOne();
-    void tabKeyGoesThroughField();
-    void clickedWidgetGetsTheFocus();
-    void languageChange();
+    void cleanup() { m_form.reset(); }
     void shownAndStoredValue();
     void rangeIsTheToolTip();
     void endOfEditing_data();
@@ -44,6 +40,8 @@ private slots:
     void escapeGoesBack();
     void keysThatStart_data();
     void keysThatStart();
+    void tabKeyGoesThroughField();
+    void languageChange();
 
 private:
     bool editing() const { return m_editor->isVisible(); }
@@ -77,18 +75,17 @@ void TestLineEdit::init()
     m_before->setFocus();
 }
 
-void TestLineEdit::cleanup()
-{
-    m_form.reset();
-}
-
 void TestLineEdit::shownAndStoredValue()
 {
     QSignalSpy finished(m_field, &LineEdit::editingFinished);
     m_field->setValue(12.34);
     QCOMPARE(m_field->value(), 12.34);
     QCOMPARE(m_label->text(), QStringLiteral("12.3"));
+    m_field->setIntegerMode(2); // only 1 means whole numbers ...
+    QCOMPARE(m_label->text(), QStringLiteral("12.3"));
     m_field->setIntegerMode(1);
+    QCOMPARE(m_label->text(), QStringLiteral("0"));
+    m_field->setIntegerMode(0); // ... and there is no way back
     m_field->setValue(-3.4);
     QCOMPARE(m_field->value(), -4.0);
     QCOMPARE(m_label->text(), QStringLiteral("-3"));
@@ -99,7 +96,8 @@ void TestLineEdit::shownAndStoredValue()
     press();
     QCOMPARE(m_editor->text(), QStringLiteral("12"));
     key(Qt::Key_Return);
-    QCOMPARE(m_label->text(), QStringLiteral("13")); // the same value keeps the text
+    QCOMPARE(m_label->text(),
+             QStringLiteral("13")); // the same value keeps the text
 }
 
 void TestLineEdit::rangeIsTheToolTip()
@@ -120,22 +118,23 @@ void TestLineEdit::endOfEditing_data()
 {
     QTest::addColumn<int>("key"); // 0: the field loses the focus by a click elsewhere
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("reports");
-    QTest::newRow("Enter, changed") << int(Qt::Key_Return) << "4.2" << 2;
-    QTest::newRow("Enter, unchanged") << int(Qt::Key_Enter) << "" << 1;
-    QTest::newRow("Tab, changed") << int(Qt::Key_Tab) << "4.2" << 2;
-    QTest::newRow("click elsewhere, changed") << 0 << "4.2" << 2;
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << "4.2" << 0;
+    QTest::addColumn<QList<double>>("reported");
+    QTest::newRow("Enter, changed") << int(Qt::Key_Return) << "4.2" << QList<double>{1.5, 4.2};
+    QTest::newRow("Enter, unchanged") << int(Qt::Key_Enter) << "" << QList<double>{1.5};
+    QTest::newRow("Tab, changed") << int(Qt::Key_Tab) << "4.2" << QList<double>{1.5, 4.2};
+    QTest::newRow("click elsewhere, changed") << 0 << "4.2" << QList<double>{1.5, 4.2};
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << "4.2" << QList<double>();
 }
 
 void TestLineEdit::endOfEditing()
 {
     QFETCH(int, key);
     QFETCH(QString, typed);
-    m_field->setValue(1.5);
     QList<double> values;
     connect(m_field, &LineEdit::editingFinished, this, [&] { values << m_field->value(); });
     for (int round = 0; round < 2; ++round) {
+        m_field->setValue(1.5);
+        values.clear();
         press();
         QCOMPARE(m_editor->value(), 1.5);
         type(typed);
@@ -145,26 +144,21 @@ void TestLineEdit::endOfEditing()
             QTest::mouseClick(m_after, Qt::LeftButton);
         QVERIFY(!editing());
         QVERIFY(m_label->isVisible());
-        QTEST(values.size(), "reports");
-        if (values.size() == 2)
-            QCOMPARE(values, (QList<double>{1.5, 4.2}));
-        values.clear();
+        QTEST(values, "reported");
         QCoreApplication::processEvents();
-        m_field->setValue(1.5);
+        QCOMPARE(m_after->hasFocus(), key == 0 || key == Qt::Key_Tab);
     }
 }
 
 void TestLineEdit::escapeGoesBack()
 {
     m_field->setValue(20000); // the editor cannot hold it
-    QSignalSpy finished(m_field, &LineEdit::editingFinished);
     press();
     type(QStringLiteral("3"));
     key(Qt::Key_Escape);
     QCoreApplication::processEvents();
     QCOMPARE(m_field->value(), 20000.0);
     QCOMPARE(m_label->text(), QStringLiteral("20000.0"));
-    QCOMPARE(finished.count(), 0);
     QVERIFY2(m_field->hasFocus(), "the focus stays on the field");
     QVERIFY2(m_form->isVisible(), "the form stays open");
     key(Qt::Key_Escape);
@@ -197,20 +191,6 @@ void TestLineEdit::keysThatStart()
         QCOMPARE(m_editor->text(), text);
 }
 
-void TestLineEdit::integerModeOnlyByOne()
-{
-    QCOMPARE(m_label->text(), QStringLiteral("0.0"));
-    m_field->setIntegerMode(2);
-    QCOMPARE(m_label->text(), QStringLiteral("0.0"));
-    m_field->setIntegerMode(1);
-    QCOMPARE(m_label->text(), QStringLiteral("0"));
-    m_field->setIntegerMode(0); // no way back
-    press();
-    type(QStringLiteral("27"));
-    key(Qt::Key_Return);
-    QCOMPARE(m_label->text(), QStringLiteral("27"));
-}
-
 void TestLineEdit::tabKeyGoesThroughField()
 {
     key(Qt::Key_Tab);
@@ -224,18 +204,6 @@ void TestLineEdit::tabKeyGoesThroughField()
     QCoreApplication::processEvents();
     QVERIFY2(m_before->hasFocus(), "out of the open editor");
     QCOMPARE(m_field->value(), 5.0);
-}
-
-void TestLineEdit::clickedWidgetGetsTheFocus()
-{
-    press();
-    type(QStringLiteral("4"));
-    QTest::mouseClick(m_after, Qt::LeftButton);
-    QCoreApplication::processEvents();
-    QVERIFY(m_after->hasFocus());
-    type(QStringLiteral("text"));
-    QCOMPARE(m_after->text(), QStringLiteral("text"));
-    QCOMPARE(m_field->value(), 4.0);
 }
 
 void TestLineEdit::languageChange()

@@ -1,5 +1,6 @@
 #include "modalscript.h"
 #include "testmain.h"
+#include "widgets/loadingdialog.h"
 #include "widgets/messagedialog.h"
 #include "widgets/messagesimpledialog.h"
 
@@ -11,12 +12,6 @@
 
 namespace {
 
-template<typename Widget>
-Widget *child(const QWidget &parent, const char *name)
-{
-    return parent.findChild<Widget *>(QString::fromLatin1(name));
-}
-
 QString text(const char *latin1)
 {
     return QString::fromLatin1(latin1);
@@ -25,25 +20,26 @@ QString text(const char *latin1)
 /// The text of a label or button, in brackets when the operator does not see it.
 QString shown(const QWidget &dialog, const char *name)
 {
-    const auto *widget = child<QWidget>(dialog, name);
+    const auto *widget = dialog.findChild<QWidget *>(text(name));
     const QString words = widget->property("text").toString();
     return widget->isVisible() ? words : QLatin1Char('(') + words + QLatin1Char(')');
 }
 
-void click(QWidget *dialog, const char *button)
+QLabel *label(const QWidget &dialog, const char *name)
 {
-    QTest::mouseClick(child<QPushButton>(*dialog, button), Qt::LeftButton);
+    return dialog.findChild<QLabel *>(text(name));
 }
 
-void sendMouse(QWidget &target, QEvent::Type type, const QPoint &global, bool *accepted = nullptr)
+/// Sends a mouse event with the left button and returns whether it was taken.
+bool sendMouse(QWidget &target, QEvent::Type type, const QPoint &global)
 {
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const Qt::MouseButtons held =
-        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, target.mapFromGlobal(global), global, button, held, Qt::NoModifier);
+    const bool moves = type == QEvent::MouseMove;
+    const bool released = type == QEvent::MouseButtonRelease;
+    QMouseEvent event(type, target.mapFromGlobal(global), global,
+                      moves ? Qt::NoButton : Qt::LeftButton,
+                      released ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&target, &event);
-    if (accepted)
-        *accepted = event.isAccepted();
+    return event.isAccepted();
 }
 
 } // namespace
@@ -53,38 +49,30 @@ class TestMessageDialogs : public QObject
     Q_OBJECT
 
 private slots:
-    void questionKeepsDefaults_data();
     void questionKeepsDefaults();
     void questionAsksForValue();
     void questionIsAnswered();
     void statusShowsPictures();
     void statusWorksWithoutBeingDismissed();
     void statusIsDraggedByItsBody();
+    void waitDialogShowsTaskAndSeconds();
 };
-
-void TestMessageDialogs::questionKeepsDefaults_data()
-{
-    QTest::addColumn<QStringList>("given");
-    QTest::addColumn<QStringList>("seen");
-    const auto row = [](const char *name, const char *given, const char *seen) {
-        QTest::newRow(name) << text(given).split(QLatin1Char('|'))
-                            << text(seen).split(QLatin1Char('|'));
-    };
-    row("all texts", "T|main|other|Yes|No", "T|main|other|Yes|No");
-    row("no texts", "||||", "Message|Main Information|(Other Information)|OK|(Cancel)");
-}
 
 void TestMessageDialogs::questionKeepsDefaults()
 {
-    QFETCH(const QStringList, given);
-    MessageDialog dialog(given[0], given[1], given[2], given[3], given[4], nullptr);
-    dialog.show();
-    const QStringList seen{dialog.windowTitle(), shown(dialog, "label_MainInfo"),
-                           shown(dialog, "label_OtherInfo"), shown(dialog, "okBtn"),
-                           shown(dialog, "cancelBtn")};
-    QTEST(seen, "seen");
-    for (const char *name : {"rawFreq", "toLabel", "currentFreq"})
-        QVERIFY(!child<QWidget>(dialog, name)->isVisible());
+    const auto seen = [](const char *given) {
+        const QStringList part = text(given).split(QLatin1Char('|'));
+        MessageDialog dialog(part[0], part[1], part[2], part[3], part[4], nullptr);
+        dialog.show();
+        QStringList texts(dialog.windowTitle());
+        for (const char *name : {"label_MainInfo", "label_OtherInfo", "okBtn", "cancelBtn"})
+            texts.append(shown(dialog, name));
+        if (dialog.findChild<QWidget *>(text("currentFreq"))->isVisible())
+            texts.append(text("asks for a value"));
+        return texts.join(QLatin1Char('|'));
+    };
+    QCOMPARE(seen("T|main|other|Yes|No"), text("T|main|other|Yes|No"));
+    QCOMPARE(seen("||||"), text("Message|Main Information|(Other Information)|OK|(Cancel)"));
 }
 
 void TestMessageDialogs::questionAsksForValue()
@@ -96,8 +84,8 @@ void TestMessageDialogs::questionAsksForValue()
     dialog.show();
     QCOMPARE(shown(dialog, "rawFreq"), text("2450"));
     QCOMPARE(shown(dialog, "toLabel"), text("to"));
-    auto *edit = child<QLineEdit>(dialog, "currentFreq");
-    QTest::keyClicks(edit, text("900")); // the old value is selected, so typing replaces it
+    // The old value is selected, so typing replaces it.
+    QTest::keyClicks(dialog.findChild<QLineEdit *>(text("currentFreq")), text("900"));
     QCOMPARE(dialog.currentFrequency(), text("900"));
 }
 
@@ -108,30 +96,32 @@ void TestMessageDialogs::questionIsAnswered()
         const ModalScript script({answer});
         return dialog.exec();
     };
-    QCOMPARE(answered([](QWidget *w) { click(w, "okBtn"); }), int(QDialog::Accepted));
-    QCOMPARE(answered([](QWidget *w) { click(w, "cancelBtn"); }), int(QDialog::Rejected));
-    QCOMPARE(answered([](QWidget *w) { QTest::keyClick(w, Qt::Key_Return); }),
-             int(QDialog::Accepted));
+    const auto click = [](const char *button) {
+        return [button](QWidget *dialog) {
+            QTest::mouseClick(dialog->findChild<QPushButton *>(text(button)), Qt::LeftButton);
+        };
+    };
+    const auto enter = [](QWidget *dialog) { QTest::keyClick(dialog, Qt::Key_Return); };
+    QCOMPARE(answered(click("okBtn")), int(QDialog::Accepted));
+    QCOMPARE(answered(click("cancelBtn")), int(QDialog::Rejected));
+    QCOMPARE(answered(enter), int(QDialog::Accepted));
 }
 
 void TestMessageDialogs::statusShowsPictures()
 {
     MessageSimpleDialog dialog(nullptr);
     dialog.show();
-    const auto *picture = child<QLabel>(dialog, "pictureLabel");
-
-    dialog.setMessage(text("good"), 0);
-    const QPixmap good = picture->pixmap(Qt::ReturnByValue);
+    const auto pictureOf = [&dialog](const char *message, int kind) {
+        dialog.setMessage(text(message), kind);
+        return label(dialog, "pictureLabel")->pixmap(Qt::ReturnByValue).toImage();
+    };
+    const QImage good = pictureOf("good", 0);
     QCOMPARE(good.size(), QSize(40, 40));
     QCOMPARE(shown(dialog, "reminderLabel"), text("good"));
-
-    dialog.setMessage(text("bad"), 1);
-    const QPixmap bad = picture->pixmap(Qt::ReturnByValue);
+    const QImage bad = pictureOf("bad", 1);
     QCOMPARE(bad.size(), QSize(40, 40));
-    QVERIFY(bad.toImage() != good.toImage());
-
-    dialog.setMessage(text("neither"), 7);
-    QVERIFY(picture->pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(bad != good);
+    QVERIFY(pictureOf("neither", 7).isNull());
     QCOMPARE(shown(dialog, "reminderLabel"), text("neither"));
     QCOMPARE(shown(dialog, "generalpopupOkBtn"), text("OK"));
 }
@@ -141,7 +131,7 @@ void TestMessageDialogs::statusWorksWithoutBeingDismissed()
     MessageSimpleDialog dialog(nullptr);
     dialog.show();
     dialog.setMessage(text("working"), 2);
-    QMovie *movie = child<QLabel>(dialog, "pictureLabel")->movie();
+    const QMovie *movie = label(dialog, "pictureLabel")->movie();
     QVERIFY(movie && movie->state() == QMovie::Running);
     QCOMPARE(shown(dialog, "generalpopupOkBtn"), text("(OK)"));
 
@@ -155,7 +145,7 @@ void TestMessageDialogs::statusWorksWithoutBeingDismissed()
 
     dialog.setMessage(text("done"), 0);
     QCOMPARE(shown(dialog, "generalpopupOkBtn"), text("OK"));
-    QVERIFY(!child<QLabel>(dialog, "pictureLabel")->movie());
+    QVERIFY(!label(dialog, "pictureLabel")->movie());
 
     dialog.setMessage(text("working"), 2);
     dialog.close(); // the caller may
@@ -169,18 +159,39 @@ void TestMessageDialogs::statusIsDraggedByItsBody()
     dialog.move(100, 100);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    auto *body = child<QWidget>(dialog, "reminderLabel");
-    const QPoint grip = body->mapToGlobal(QPoint(5, 5));
-    const QPoint start = dialog.pos();
-    bool accepted = true;
-    sendMouse(*body, QEvent::MouseButtonPress, grip, &accepted);
-    QVERIFY(!accepted);
-    sendMouse(*body, QEvent::MouseMove, grip + QPoint(30, -20));
-    QCOMPARE(dialog.pos(), start + QPoint(30, -20));
-    sendMouse(*body, QEvent::MouseButtonRelease, grip + QPoint(30, -20));
-    sendMouse(*body, QEvent::MouseMove, grip + QPoint(90, 90));
-    QCOMPARE(dialog.pos(), start + QPoint(30, -20));
+    QWidget &body = *label(dialog, "reminderLabel");
+    const QPoint grip = body.mapToGlobal(QPoint(5, 5));
+    const QPoint goal = dialog.pos() + QPoint(30, -20);
+    QVERIFY(!sendMouse(body, QEvent::MouseButtonPress, grip));
+    sendMouse(body, QEvent::MouseMove, grip + QPoint(30, -20));
+    QCOMPARE(dialog.pos(), goal);
+    sendMouse(body, QEvent::MouseButtonRelease, grip + QPoint(30, -20));
+    sendMouse(body, QEvent::MouseMove, grip + QPoint(90, 90));
+    QCOMPARE(dialog.pos(), goal);
+}
+
+void TestMessageDialogs::waitDialogShowsTaskAndSeconds()
+{
+    LoadingDialog dialog;
+    QCOMPARE(int(dialog.windowFlags() & Qt::WindowType_Mask), int(Qt::SplashScreen));
+    dialog.setTaskLabelText(text("Calibration %2"));
+    dialog.setLabelText(7);
+    QCOMPARE(dialog.taskLabelText(), text("Calibration %2"));
+    QCOMPARE(label(dialog, "labelText")->text(), text("Calibration %2,waiting...7 s"));
+    const QMovie *movie = label(dialog, "labelMovie")->movie();
+    QVERIFY(movie->isValid() && movie->state() == QMovie::Running);
+    // Behind a dialog that is not shown it would keep the processor busy for days.
+    QTRY_COMPARE(movie->state(), QMovie::Paused);
+
+    dialog.show();
+    QCOMPARE(movie->state(), QMovie::Running);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QVERIFY(dialog.isVisible());
+    dialog.close();
+    QVERIFY(!dialog.isVisible());
+    QTRY_COMPARE(movie->state(), QMovie::Paused);
 }
 
 MZ_TEST_MAIN(TestMessageDialogs)
+
 #include "tst_messagedialogs.moc"
