@@ -2,6 +2,7 @@
 #include "2d/patternscale.h"
 #include "module/formulacalc.h"
 #include "patterns/commandline.h"
+#include "patterns/curvefilereader.h"
 #include "patterns/filenames.h"
 #include "patterns/losscorrection.h"
 #include "patterns/recentfiles.h"
@@ -12,389 +13,349 @@
 #include <QTemporaryDir>
 
 #include <cmath>
-#include <limits>
+
+using Points = QVector<QPointF>;
+using Scale = QVector<double>; // minimum, maximum, divisions
+using Wish = CommandLine::Wish;
+using Link = LossCorrection::Link;
 
 namespace {
 
-QVector<QPointF> cosinePattern(double peak, double floor, int from, int to)
+const QByteArray goodHead = QByteArrayLiteral("Title\nCurve\nAngle,Power\n");
+
+QString text(const char *utf8)
 {
-    QVector<QPointF> points;
-    for (int angle = from; angle <= to; ++angle)
-        points.append(
-            {double(angle), floor + (peak - floor) * std::abs(std::cos(angle / 57.2957795))});
+    return QString::fromUtf8(utf8);
+}
+
+Points cosinePattern(double peak, double floor, int from, int to)
+{
+    Points points;
+    for (int angle = from; angle <= to; ++angle) {
+        const double cosine = std::abs(std::cos(angle / 57.2957795));
+        points.append({double(angle), floor + (peak - floor) * cosine});
+    }
     return points;
 }
 
-QVector<double> ends(const AxisScale &scale)
+Scale levels(const QVector<Points> &curves)
 {
+    const AxisScale scale = levelScale(curves);
     return {scale.min, scale.max, double(scale.divisions)};
+}
+
+Scale angles(double from, double to)
+{
+    const AxisScale scale = angleScale({{{from, 0}, {to, 0}}});
+    return {scale.min, scale.max, double(scale.divisions)};
+}
+
+Scale ticks(double min, double max)
+{
+    const AxisScale scale = dividedScale(min, max);
+    return {scale.min, scale.max, double(scale.divisions)};
+}
+
+/// The frequency within a curve's name and the one typed into a table, "refused" if it is none.
+QString frequency(const char *utf8)
+{
+    return frequencyInName(text(utf8)) + QLatin1Char('/') +
+           readFrequency(text(utf8)).value_or(text("refused"));
+}
+
+QString fileName(const char *utf8)
+{
+    return fileNameFrom(text(utf8), text("curve"));
 }
 
 } // namespace
 
-/// What the workbench computes without a window.
+/// What the workbench reads and computes without a window.
 class TestPatternUnits : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void levelsAtFirstSight_data();
-    void levelsAtFirstSight();
-    void anglesAtFirstSight_data();
-    void anglesAtFirstSight();
-    void ticksOfAGivenRange_data();
-    void ticksOfAGivenRange();
-    void frequencies_data();
+    void scalesAtFirstSight();
     void frequencies();
-    void fileNames_data();
     void fileNames();
     void recentFiles();
-    void commandLines_data();
     void commandLines();
     void settingsSurvive();
-    void lossOfALink_data();
     void lossOfALink();
-    void badLossTableKeepsTheGoodOne_data();
     void badLossTableKeepsTheGoodOne();
     void reportTellsEverything();
+    void curveFile_data();
+    void curveFile();
+    void badFileKeepsNoneFromBeingRead();
+    void cancelKeepsNothing();
 
 private:
-    QString write(const QByteArray &content);
+    QString write(const char *name, const QByteArray &content) const;
 
     QTemporaryDir m_folder;
 };
 
-void TestPatternUnits::levelsAtFirstSight_data()
+QString TestPatternUnits::write(const char *name, const QByteArray &content) const
 {
-    QTest::addColumn<QVector<QVector<QPointF>>>("curves");
-    QTest::addColumn<QVector<double>>("expected"); // minimum, maximum, divisions
-    using Curves = QVector<QVector<QPointF>>;
-    using Ends = QVector<double>;
-
-    QTest::newRow("no curve") << Curves{} << Ends{-40, 0, 4};
-    QTest::newRow("one pattern") << Curves{cosinePattern(2.15, -30, -180, 180)} << Ends{-30, 5, 7};
-    QTest::newRow("a deep null hides nothing")
-        << Curves{{{-10, -3}, {0, -300}, {10, 0}}} << Ends{-40, 0, 8};
-    QTest::newRow("a weak curve beside a strong one")
-        << Curves{cosinePattern(20.9, -60, -90, 90), cosinePattern(-20, -35, -90, 90)}
-        << Ends{-50, 30, 8};
-    QTest::newRow("a flat line") << Curves{{{0, -3}, {1, -3}}} << Ends{-35, 0, 7};
-    QTest::newRow("one point of zero") << Curves{{{0, 0}}} << Ends{-30, 0, 6};
-    QTest::newRow("huge values") << Curves{{{0, 1e9}, {1, 1e9 - 10}}} << Ends{1e9 - 30, 1e9, 6};
-}
-
-void TestPatternUnits::levelsAtFirstSight()
-{
-    QFETCH(const QVector<QVector<QPointF>>, curves);
-    QFETCH(const QVector<double>, expected);
-    const AxisScale scale = levelScale(curves);
-    QCOMPARE(ends(scale), expected);
-    for (const QVector<QPointF> &points : curves) {
-        for (const QPointF &point : points)
-            QVERIFY(point.y() <= scale.max);
-    }
-}
-
-void TestPatternUnits::anglesAtFirstSight_data()
-{
-    QTest::addColumn<double>("from");
-    QTest::addColumn<double>("to");
-    QTest::addColumn<QVector<double>>("expected");
-    using Ends = QVector<double>;
-    QTest::newRow("circle") << -180.0 << 180.0 << Ends{-180, 180, 8};
-    QTest::newRow("circle from zero") << 0.0 << 359.0 << Ends{0, 360, 8};
-    QTest::newRow("half circle") << -90.0 << 90.0 << Ends{-90, 90, 6};
-    QTest::newRow("part of the circle") << -120.0 << 60.0 << Ends{-180, 180, 8};
-    QTest::newRow("narrow cut") << -10.0 << 10.0 << Ends{-10, 10, 4};
-    QTest::newRow("more than a circle") << -400.0 << 400.0 << Ends{-400, 400, 8};
-}
-
-void TestPatternUnits::anglesAtFirstSight()
-{
-    QFETCH(const double, from);
-    QFETCH(const double, to);
-    QFETCH(const QVector<double>, expected);
-    QCOMPARE(ends(angleScale({{{from, 0}, {to, 0}}})), expected);
-}
-
-void TestPatternUnits::ticksOfAGivenRange_data()
-{
-    QTest::addColumn<double>("min");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<int>("divisions");
-    QTest::newRow("-40 to 0") << -40.0 << 0.0 << 4;
-    QTest::newRow("-50 to 10") << -50.0 << 10.0 << 6;
-    QTest::newRow("-30 to 5") << -30.0 << 5.0 << 7;
-    QTest::newRow("0 to 1") << 0.0 << 1.0 << 5;
-    QTest::newRow("0 to 2.5") << 0.0 << 2.5 << 5;
-    QTest::newRow("no round step fits") << 0.0 << 3.14159 << 5;
-    QTest::newRow("upside down") << 10.0 << -10.0 << 1;
-}
-
-void TestPatternUnits::ticksOfAGivenRange()
-{
-    QFETCH(const double, min);
-    QFETCH(const double, max);
-    QTEST(dividedScale(min, max).divisions, "divisions");
-}
-
-void TestPatternUnits::frequencies_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("inName");
-    QTest::addColumn<QString>("typed"); // "refused" where it is no frequency
-    QTest::newRow("plain number") << "2450"
-                                  << "2450"
-                                  << "2450";
-    QTest::newRow("gigahertz") << "2.45 GHz"
-                               << "2450"
-                               << "2450";
-    QTest::newRow("without blank") << "900MHz"
-                                   << "900"
-                                   << "900";
-    QTest::newRow("kilohertz") << "135.7 kHz"
-                               << "0.1357"
-                               << "0.1357";
-    QTest::newRow("high") << "100 GHz"
-                          << "100000"
-                          << "100000";
-    QTest::newRow("in a sentence") << "Horn 10 GHz, H plane"
-                                   << "10000"
-                                   << "refused";
-    QTest::newRow("other numbers") << "Array of 16"
-                                   << ""
-                                   << "refused";
-    QTest::newRow("decimal comma") << "2,45 GHz"
-                                   << ""
-                                   << "refused";
-    QTest::newRow("zero") << "0"
-                          << ""
-                          << "refused";
-    QTest::newRow("negative") << "-900"
-                              << ""
-                              << "refused";
-    QTest::newRow("nothing") << ""
-                             << ""
-                             << "";
-}
-
-void TestPatternUnits::frequencies()
-{
-    QFETCH(const QString, text);
-    QFETCH(const QString, inName);
-    QFETCH(const QString, typed);
-    QCOMPARE(frequencyInName(text), inName);
-    QCOMPARE(readFrequency(text).value_or(QStringLiteral("refused")), typed);
-}
-
-void TestPatternUnits::fileNames_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << "Horn 10 GHz"
-                           << "Horn 10 GHz";
-    QTest::newRow("a path") << "a/b\\c:d"
-                            << "a_b_c_d";
-    QTest::newRow("out of the folder") << "../../x"
-                                       << "_.._x";
-    QTest::newRow("dots around") << " .hidden. "
-                                 << "hidden";
-    QTest::newRow("nothing left") << " . "
-                                  << "curve";
-    QTest::newRow("Chinese") << QString::fromUtf8("喇叭天线") << QString::fromUtf8("喇叭天线");
-}
-
-void TestPatternUnits::fileNames()
-{
-    QFETCH(const QString, text);
-    QTEST(fileNameFrom(text, QStringLiteral("curve")), "name");
-}
-
-void TestPatternUnits::recentFiles()
-{
-    RecentFiles files(
-        {QStringLiteral("/a"), QStringLiteral("/b"), QStringLiteral("/a"), QString()});
-    QCOMPARE(files.paths(), QStringList({QStringLiteral("/a"), QStringLiteral("/b")}));
-    files.add(QStringLiteral("/x/../b"));
-    QCOMPARE(files.paths().first(), QStringLiteral("/b"));
-    QCOMPARE(files.paths().size(), 2);
-    for (int i = 0; i < 2 * RecentFiles::limit; ++i)
-        files.add(QStringLiteral("/%1").arg(i));
-    QCOMPARE(files.paths().size(), int(RecentFiles::limit));
-    files.remove(files.paths().first());
-    QCOMPARE(files.paths().first(), QStringLiteral("/%1").arg(2 * RecentFiles::limit - 2));
-}
-
-void TestPatternUnits::commandLines_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("wish");
-    QTest::addColumn<QString>("text"); // part of what is printed
-    QTest::addColumn<QStringList>("files");
-    using List = QStringList;
-    const QStringList none;
-    const QString no;
-    QTest::newRow("files") << List{QStringLiteral("a.csv"), QStringLiteral("b.csv")}
-                           << int(CommandLine::Wish::Run) << no
-                           << List{QStringLiteral("a.csv"), QStringLiteral("b.csv")};
-    QTest::newRow("help") << List{QStringLiteral("--help")} << int(CommandLine::Wish::Print)
-                          << "--language" << none;
-    QTest::newRow("version") << List{QStringLiteral("--version")} << int(CommandLine::Wish::Print)
-                             << MZ_VERSION << none;
-    QTest::newRow("language") << List{QStringLiteral("--language"), QStringLiteral("cn"),
-                                      QStringLiteral("a.csv")}
-                              << int(CommandLine::Wish::Run) << no << List{QStringLiteral("a.csv")};
-    QTest::newRow("no such language") << List{QStringLiteral("--language"), QStringLiteral("xx")}
-                                      << int(CommandLine::Wish::Refuse) << "xx" << none;
-    QTest::newRow("no such option")
-        << List{QStringLiteral("--colour")} << int(CommandLine::Wish::Refuse) << "colour" << none;
-    QTest::newRow("a file like an option")
-        << List{QStringLiteral("--"), QStringLiteral("--a.csv")} << int(CommandLine::Wish::Run)
-        << no << List{QStringLiteral("--a.csv")};
-}
-
-void TestPatternUnits::commandLines()
-{
-    QFETCH(const QStringList, arguments);
-    QFETCH(const QString, text);
-    QFETCH(const QStringList, files);
-    const CommandLine line = readCommandLine(QStringList(QStringLiteral("program")) + arguments);
-    QTEST(int(line.wish), "wish");
-    QVERIFY2(line.text.contains(text), qPrintable(line.text));
-    QCOMPARE(line.files, files);
-}
-
-void TestPatternUnits::settingsSurvive()
-{
-    const QString file = m_folder.filePath(QStringLiteral("settings/workbench.json"));
-    QCOMPARE(WorkbenchSettings(file).language(), QStringLiteral("en"));
-    {
-        WorkbenchSettings settings(file);
-        settings.setLanguage(QStringLiteral("cn"));
-        settings.setFolder(m_folder.path());
-        settings.setRecentFiles({QStringLiteral("/a, b"), QString::fromUtf8("/天线.csv")});
-    }
-    const WorkbenchSettings settings(file);
-    QCOMPARE(settings.language(), QStringLiteral("cn"));
-    QCOMPARE(settings.folder(), m_folder.path());
-    QCOMPARE(settings.recentFiles(),
-             QStringList({QStringLiteral("/a, b"), QString::fromUtf8("/天线.csv")}));
-    WorkbenchSettings(file).setFolder(QStringLiteral("/gone"));
-    QVERIFY(settings.folder().isEmpty());
-}
-
-QString TestPatternUnits::write(const QByteArray &content)
-{
-    QFile file(m_folder.filePath(QStringLiteral("table.csv")));
+    QFile file(m_folder.filePath(text(name)));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("no test file");
     return file.fileName();
 }
 
-void TestPatternUnits::lossOfALink_data()
+void TestPatternUnits::scalesAtFirstSight()
 {
-    QTest::addColumn<int>("link");
-    QTest::addColumn<double>("frequency");
-    QTest::addColumn<double>("loss");
-    QTest::addColumn<bool>("extrapolated");
-    const int up = int(LossCorrection::Link::Up);
-    const int down = int(LossCorrection::Link::Down);
-    QTest::newRow("tabulated") << up << 800.0 << 1.5 << false;
-    QTest::newRow("between") << up << 850.0 << 1.75 << false;
-    QTest::newRow("lowest") << down << 700.0 << 1.0 << false;
-    QTest::newRow("highest") << down << 900.0 << 3.0 << false;
-    QTest::newRow("above the table") << up << 1000.0 << 2.5 << true;
-    QTest::newRow("below the table") << down << 600.0 << 0.0 << true;
+    const Points wide = cosinePattern(2.15, -30, -180, 180);
+    const Points strong = cosinePattern(20.9, -60, -90, 90);
+    const Points weak = cosinePattern(-20, -35, -90, 90);
+    const Points null{{-10, -3}, {0, -300}, {10, 0}}; // which hides nothing
+    QCOMPARE(levels({}), (Scale{-40, 0, 4}));
+    QCOMPARE(levels({wide}), (Scale{-30, 5, 7}));
+    QCOMPARE(levels({null}), (Scale{-40, 0, 8}));
+    QCOMPARE(levels({strong, weak}), (Scale{-50, 30, 8}));
+    QCOMPARE(levels({{{0, -3}, {1, -3}}}), (Scale{-35, 0, 7}));
+
+    QCOMPARE(angles(-180, 180), (Scale{-180, 180, 8}));
+    QCOMPARE(angles(0, 359), (Scale{0, 360, 8}));
+    QCOMPARE(angles(-90, 90), (Scale{-90, 90, 6}));
+    QCOMPARE(angles(-120, 60), (Scale{-180, 180, 8}));
+    QCOMPARE(angles(-10, 10), (Scale{-10, 10, 4}));
+    QCOMPARE(angles(-400, 400), (Scale{-400, 400, 8})); // more than a circle
+
+    QCOMPARE(ticks(-30, 5), (Scale{-30, 5, 7}));
+    QCOMPARE(ticks(0, 2.5), (Scale{0, 2.5, 5}));
+    QCOMPARE(ticks(0, 3.14159), (Scale{0, 3.14159, 5})); // no round tick fits
+    QCOMPARE(ticks(10, -10), (Scale{10, -10, 1}));       // upside down
+}
+
+void TestPatternUnits::frequencies()
+{
+    QCOMPARE(frequency("2450"), text("2450/2450"));
+    QCOMPARE(frequency("2.45 GHz"), text("2450/2450"));
+    QCOMPARE(frequency("900MHz"), text("900/900"));
+    QCOMPARE(frequency("135.7 kHz"), text("0.1357/0.1357"));
+    QCOMPARE(frequency("100 GHz"), text("100000/100000"));
+    QCOMPARE(frequency("Horn 10 GHz, H plane"), text("10000/refused"));
+    for (const char *none : {"Array of 16", "2,45 GHz", "0", "-900"})
+        QCOMPARE(frequency(none), text("/refused"));
+    QCOMPARE(frequency(""), text("/"));
+}
+
+void TestPatternUnits::fileNames()
+{
+    QCOMPARE(fileName("a/b\\c:d"), text("a_b_c_d"));
+    QCOMPARE(fileName("../../x"), text("_.._x")); // not out of the folder
+    QCOMPARE(fileName(" .hidden. "), text("hidden"));
+    QCOMPARE(fileName(" . "), text("curve"));
+    QCOMPARE(fileName("喇叭天线"), text("喇叭天线"));
+}
+
+void TestPatternUnits::recentFiles()
+{
+    RecentFiles files({text("/a"), text("/b"), text("/a"), QString()});
+    QCOMPARE(files.paths(), QStringList({text("/a"), text("/b")}));
+    files.add(text("/x/../b"));
+    QCOMPARE(files.paths(), QStringList({text("/b"), text("/a")}));
+    for (int i = 0; i < 2 * RecentFiles::limit; ++i)
+        files.add(text("/%1").arg(i));
+    QCOMPARE(files.paths().size(), int(RecentFiles::limit));
+    files.remove(files.paths().first());
+    QCOMPARE(files.paths().first(), text("/%1").arg(2 * RecentFiles::limit - 2));
+}
+
+void TestPatternUnits::commandLines()
+{
+    const QChar blank = QLatin1Char(' ');
+    const auto read = [blank](const char *arguments) {
+        return readCommandLine((text("program ") + text(arguments)).split(blank));
+    };
+    // What runs, by language and files.
+    const auto running = [&](const char *arguments) {
+        const CommandLine line = read(arguments);
+        return line.wish == Wish::Run ? line.language + blank + line.files.join(blank) : line.text;
+    };
+    QCOMPARE(running("a.csv b.csv"), text(" a.csv b.csv"));
+    QCOMPARE(running("--language cn a.csv"), text("cn a.csv"));
+    QCOMPARE(running("-- --a.csv"), text(" --a.csv"));
+    const auto tells = [&](const char *arguments, Wish wish, const char *told) {
+        const CommandLine line = read(arguments);
+        return line.wish == wish && line.text.contains(text(told));
+    };
+    QVERIFY(tells("--help", Wish::Print, "--language"));
+    QVERIFY(tells("--version", Wish::Print, MZ_VERSION));
+    QVERIFY(tells("--language xx", Wish::Refuse, "xx"));
+    QVERIFY(tells("--colour", Wish::Refuse, "colour"));
+}
+
+void TestPatternUnits::settingsSurvive()
+{
+    const QString file = m_folder.filePath(text("settings/workbench.json"));
+    const QStringList recent{text("/a, b"), text("/天线.csv")};
+    QCOMPARE(WorkbenchSettings(file).language(), text("en"));
+    {
+        WorkbenchSettings settings(file);
+        settings.setLanguage(text("cn"));
+        settings.setFolder(m_folder.path());
+        settings.setRecentFiles(recent);
+    }
+    const WorkbenchSettings settings(file);
+    QCOMPARE(settings.language(), text("cn"));
+    QCOMPARE(settings.folder(), m_folder.path());
+    QCOMPARE(settings.recentFiles(), recent);
+    WorkbenchSettings(file).setFolder(text("/gone"));
+    QVERIFY(settings.folder().isEmpty());
 }
 
 void TestPatternUnits::lossOfALink()
 {
-    QCOMPARE(LossCorrection::load(write("category,a,b,c,700,800,900\n"
-                                        "cable,upside,,dB,1,1,1.5\nswitch,upside,,dB,0.25,0.5,0.5\n"
-                                        "cable,downside,,dB,1,2,3\n")),
-             QString());
-    QCOMPARE(LossCorrection::tableName(), QStringLiteral("table.csv"));
-    QFETCH(const int, link);
-    QFETCH(const double, frequency);
-    QFETCH(const double, loss);
-    QFETCH(const bool, extrapolated);
-    const auto found = LossCorrection::at(LossCorrection::Link(link), frequency);
-    QVERIFY(found.has_value());
-    QVERIFY(std::abs(found->value - loss) < 1e-12);
-    QCOMPARE(found->extrapolated, extrapolated);
-    const QVector<QPointF> points{{-10, -3}, {0, 0}};
-    const QVector<QPointF> corrected = LossCorrection::corrected(points, *found);
-    QCOMPARE(corrected.first(), QPointF(-10, -3 + found->value));
-    QCOMPARE(points.first().y(), -3.0);
-}
-
-void TestPatternUnits::badLossTableKeepsTheGoodOne_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("told");
-    QTest::newRow("empty") << QByteArray() << "header";
-    QTest::newRow("a curve file") << QByteArray("Title\nName\nAngle,Power\n0,1\n") << "header";
-    QTest::newRow("header alone") << QByteArray("category,a,b,c,700\n") << "upside";
-    QTest::newRow("rows before the header")
-        << QByteArray("cable,upside,,dB,1\ncategory,a,b,c,700\n") << "upside";
+    const QString file =
+        write("table.csv", "category,a,b,c,700,800,900\n"
+                           "cable,upside,,dB,1,1,1.5\nswitch,upside,,dB,0.25,0.5,0.5\n"
+                           "cable,downside,,dB,1,2,3\n");
+    QCOMPARE(LossCorrection::load(file), QString());
+    QCOMPARE(LossCorrection::tableName(), text("table.csv"));
+    const auto loss = [](Link link, double megahertz) {
+        const auto found = LossCorrection::at(link, megahertz).value();
+        return text(found.extrapolated ? "%1, extrapolated" : "%1").arg(found.value);
+    };
+    QCOMPARE(loss(Link::Up, 850.0), text("1.75"));
+    QCOMPARE(loss(Link::Down, 700.0), text("1"));
+    QCOMPARE(loss(Link::Down, 900.0), text("3"));
+    QCOMPARE(loss(Link::Up, 1000.0), text("2.5, extrapolated"));
+    QCOMPARE(loss(Link::Down, 600.0), text("0, extrapolated"));
+    const Points points{{-10, -3}, {0, 0}};
+    const auto one = LossCorrection::at(Link::Down, 700.0).value();
+    QCOMPARE(LossCorrection::corrected(points, one), (Points{{-10, -2}, {0, 1}}));
 }
 
 void TestPatternUnits::badLossTableKeepsTheGoodOne()
 {
-    QFETCH(const QByteArray, content);
-    QFETCH(const QString, told);
-    QCOMPARE(LossCorrection::load(write("category,a,b,c,700\ncable,upside,,dB,1.5\n")), QString());
-    const QString problem = LossCorrection::load(write(content));
-    QVERIFY2(problem.contains(told), qPrintable(problem));
-    QVERIFY(LossCorrection::load(m_folder.path()).contains(QStringLiteral("folder")));
-    QVERIFY(!LossCorrection::load(m_folder.filePath(QStringLiteral("missing"))).isEmpty());
+    const QString good = write("good.csv", "category,a,b,c,700\ncable,upside,,dB,1.5\n");
+    QCOMPARE(LossCorrection::load(good), QString());
+    const QString curve = write("curve.csv", goodHead + "0,1\n");
+    const QString bare = write("bare.csv", "category,a,b,c,700\n");
+    const QString turned = write("turned.csv", "cable,upside,,dB,1\ncategory,a,b,c,700\n");
+    QVERIFY(LossCorrection::load(curve).contains(text("header")));
+    QVERIFY(LossCorrection::load(bare).contains(text("upside")));
+    QVERIFY(LossCorrection::load(turned).contains(text("upside")));
+    QVERIFY(LossCorrection::load(m_folder.path()).contains(text("folder")));
+    QVERIFY(!LossCorrection::load(m_folder.filePath(text("missing"))).isEmpty());
     QCOMPARE(FormulaCalc::Instance()->upsideMap(), (QMap<double, double>{{700.0, 1.5}}));
     // One frequency alone answers for itself only.
-    QCOMPARE(LossCorrection::at(LossCorrection::Link::Up, 700.0)->value, 1.5);
-    QVERIFY(!LossCorrection::at(LossCorrection::Link::Up, 800.0));
+    QCOMPARE(LossCorrection::at(Link::Up, 700.0)->value, 1.5);
+    QVERIFY(!LossCorrection::at(Link::Up, 800.0));
 }
 
 void TestPatternUnits::reportTellsEverything()
 {
     ReportCurve curve;
-    curve.name = QStringLiteral("A<B & co");
-    curve.color = QStringLiteral("#ff0000");
-    curve.frequency = QStringLiteral("2450");
-    curve.material = QStringLiteral("PTFE");
+    curve.name = text("A<B & co");
+    curve.color = text("#ff0000");
+    curve.frequency = text("2450");
+    curve.material = text("PTFE");
     curve.points = 361;
     curve.firstAngle = -180.0;
     curve.lastAngle = 180.0;
-    curve.correction = QStringLiteral("up-link +1.00 dB (extrapolated)");
-    curve.figures = QStringList{QStringLiteral("12.0000")};
-    curve.supplementary = QStringList{QStringLiteral("78.00")};
+    curve.correction = text("up-link +1.00 dB (extrapolated)");
+    curve.figures = QStringList{text("12.0000")};
+    curve.supplementary = QStringList{text("78.00")};
     Report report;
-    report.title = QStringLiteral("Tests <1>");
+    report.title = text("Tests <1>");
     report.created = QDateTime(QDate(2024, 2, 29), QTime(12, 30));
-    report.picture = QStringLiteral("data:picture");
-    report.figureHeadings = QStringList{QStringLiteral("Gain")};
-    report.supplementaryHeadings = QStringList{QStringLiteral("HPBW")};
+    report.picture = text("data:picture");
+    report.figureHeadings = QStringList{text("Gain")};
+    report.supplementaryHeadings = QStringList{text("HPBW")};
     report.curves = {curve};
 
     const QString html = reportHtml(report);
-    const QStringList parts{QStringLiteral("Tests &lt;1&gt;"),
-                            QStringLiteral("A&lt;B &amp; co"),
-                            QStringLiteral("2024-02-29 12:30"),
-                            QStringLiteral("data:picture"),
-                            QStringLiteral("#ff0000"),
-                            QStringLiteral("2450"),
-                            QStringLiteral("PTFE"),
-                            QStringLiteral("361"),
-                            QString::fromUtf8("-180° to 180°"),
-                            QStringLiteral("(extrapolated)"),
-                            QStringLiteral("12.0000"),
-                            QStringLiteral("78.00")};
-    for (const QString &part : parts)
-        QVERIFY2(html.contains(part), qPrintable(part));
+    for (const char *part :
+         {"Tests &lt;1&gt;", "A&lt;B &amp; co", "2024-02-29 12:30", "data:picture", "#ff0000",
+          "2450", "PTFE", "361", "-180° to 180°", "(extrapolated)", "12.0000", "78.00"})
+        QVERIFY2(html.contains(text(part)), part);
     // The textbook figures come behind the pattern parameters, under a heading of their own.
-    QVERIFY(html.indexOf(QStringLiteral("12.0000")) <
-            html.indexOf(QStringLiteral("Supplementary")));
-    QVERIFY(html.indexOf(QStringLiteral("Supplementary")) < html.indexOf(QStringLiteral("78.00")));
+    const int heading = html.indexOf(text("Supplementary"));
+    QVERIFY(html.indexOf(text("12.0000")) < heading);
+    QVERIFY(heading < html.indexOf(text("78.00")));
+}
+
+void TestPatternUnits::curveFile_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QVector<Points>>("curves");
+    QTest::addColumn<QString>("told"); // part of what the operator is told, empty: nothing
+    const auto row = [](const char *name, const QByteArray &rows, const Points &points,
+                        const char *told) {
+        QTest::newRow(name) << goodHead + rows << QVector<Points>{points} << told;
+    };
+    row("good", "0,-3.5\n90,12\n", {{0, -3.5}, {90, 12}}, "");
+    row("last line without its end", "0,1\r\n1,2", {{0, 1}, {1, 2}}, "");
+    row("numbers of every shape", "-1.5e1,+2\n 3 ,.5\n1e-05,-0\n", {{-15, 2}, {3, .5}, {1e-05, 0}},
+        "");
+    row("header alone", "", {}, "holds no point");
+    row("row of text", "0,1\nlower half\nzero,2\n", {{0, 1}, {0, 2}}, "read as 0: 1.");
+    row("row of one field", "0,1\nlower half\n", {{0, 1}}, "fewer than two fields: 1.");
+    row("NaN and infinities", "0,nan\n1,inf\n-inf,2\n3,4\n", {{3, 4}}, "not finite: 3.");
+    row("decimal commas", "0,5,-3,5\n", {{0, 5}}, "Decimal commas");
+    const QByteArray picture("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+    const QVector<Points> none;
+    QTest::newRow("byte-order mark") << "\xef\xbb\xbf" + goodHead + "0,1\n"
+                                     << QVector<Points>{{{0, 1}}} << "";
+    QTest::newRow("empty") << QByteArray() << none << "The file is empty";
+    QTest::newRow("picture") << picture << none << "Incorrect file format";
+}
+
+void TestPatternUnits::curveFile()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QVector<Points>, curves);
+    QFETCH(const QString, told);
+    CurveFileReader reader;
+    QVERIFY(reader.read({write("one.csv", bytes)}));
+    QCOMPARE(reader.curves().size(), curves.size());
+    QCOMPARE(reader.failures().size(), 1 - curves.size());
+    for (const ReadCurve &curve : reader.curves()) {
+        QCOMPARE(curve.title, text("Title"));
+        QCOMPARE(curve.name, text("Curve"));
+        QCOMPARE(curve.points, curves.first());
+    }
+    const QString all = (reader.failures() + reader.remarks()).join(QLatin1Char('\n'));
+    QVERIFY2(told.isEmpty() ? all.isEmpty() : all.contains(told), qPrintable(all));
+    QVERIFY(all.isEmpty() || all.startsWith(text("one.csv: ")));
+}
+
+void TestPatternUnits::badFileKeepsNoneFromBeingRead()
+{
+    CurveFileReader reader;
+    QVERIFY(
+        reader.read({write("a.csv", goodHead + "0,1\n"), m_folder.path(),
+                     m_folder.filePath(text("missing.csv")), write("b.csv", goodHead + "0,2\n")}));
+    QCOMPARE(reader.curves().size(), 2);
+    QCOMPARE(reader.curves().last().points, Points({{0, 2}}));
+    QCOMPARE(reader.failures().size(), 2);
+    QVERIFY(reader.failures().first().contains(text("folder")));
+    QVERIFY(reader.failures().last().contains(text("opened")));
+}
+
+void TestPatternUnits::cancelKeepsNothing()
+{
+    const QStringList files{write("a.csv", goodHead + "0,1\n"), write("b.csv", goodHead + "0,2\n")};
+    CurveFileReader reader;
+    int last = -1;
+    QVERIFY(reader.read(files, [&last](const QString &, int perMille) {
+        const bool rises = perMille >= last;
+        last = perMille;
+        return rises && perMille <= 1000;
+    }));
+    QVERIFY(last >= 500);
+    const auto cancelAtSecond = [&files](const QString &file, int) {
+        return file == files.first();
+    };
+    QVERIFY(!reader.read(files, cancelAtSecond));
+    QVERIFY(reader.curves().isEmpty());
+    QVERIFY(reader.failures().isEmpty());
 }
 
 MZ_TEST_GUILESS_MAIN(TestPatternUnits)
+
 #include "tst_patternunits.moc"
