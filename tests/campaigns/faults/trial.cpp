@@ -93,7 +93,7 @@ void Trial::checkClosing()
     const int boxes = m_witness.boxes().size();
     m_operator.perform(Deed::Close);
     const int rows = m_witness.rows();
-    const int polls = m_instrument.polls();
+    const int polls = m_witness.polls();
     QTest::qWait(silence);
     m_witness.readRows();
     if (m_witness.boxes().size() > boxes)
@@ -102,7 +102,7 @@ void Trial::checkClosing()
     if (m_witness.rows() > rows)
         m_result.add("rows",
                      {QStringLiteral("%1 rows after the close").arg(m_witness.rows() - rows)});
-    if (m_instrument.polls() > polls)
+    if (m_witness.polls() > polls)
         m_result.add("state", {QStringLiteral("polled after the close")});
     m_result.add("state", faultsOfState());
 }

@@ -25,6 +25,7 @@ Witness::Witness(const ConsoleTester &console, Instrument &instrument)
 {
     auto *link = console.window().findChild<SerialLogic *>();
     connect(link, &SerialLogic::updatePower, this, &Witness::takeReading);
+    connect(link, &SerialLogic::displayLog, this, &Witness::takeCommand);
     // Connected behind the console's own slot, so that the row is written when this one runs.
     auto *session = console.window().findChild<LinkSession *>();
     connect(session, &LinkSession::recordDue, this, &Witness::takeRecordDue);
@@ -43,6 +44,11 @@ void Witness::takeReading(double power, const QString &text)
 {
     ++m_readings;
     m_reading = QString::number(power, 'f', 2) + QLatin1Char(',') + text;
+}
+
+void Witness::takeCommand(const QString &command)
+{
+    m_polls += command == QLatin1String("GET?\n") ? 1 : 0;
 }
 
 void Witness::takeRecordDue()

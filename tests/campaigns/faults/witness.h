@@ -26,6 +26,8 @@ public:
 
     /// Readings that the console was told of, in all.
     int readings() const { return m_readings; }
+    /// Readings that the console asked for, in all.
+    int polls() const { return m_polls; }
     int rows() const { return m_rows; }
     /// Rows that the present link has given with a true reading in them.
     int trueRows() const { return m_trueRows; }
@@ -37,6 +39,7 @@ public:
 
 private:
     void takeReading(double power, const QString &text);
+    void takeCommand(const QString &command);
     void takeRecordDue();
     void judge(const QString &row);
 
@@ -46,6 +49,7 @@ private:
     QString m_reading;             // what the console was last told on this link
     int m_mark = 0;                // in the instrument's trace, where this link began
     int m_readings = 0;
+    int m_polls = 0;
     int m_rows = 0;
     int m_trueRows = 0;
     int m_tasks = 0;
