@@ -289,11 +289,11 @@ void TestChartCurves::fillsDenseCurves()
     ChartBench bench(noise(50000));
     bench.view.setXRange(0, 360);
     const QImage image = picture(bench.view);
-    for (double x = 5; x < 360; x += 5) {
+    for (int x = 5; x < 360; x += 5) {
         for (const double inside : {-20.0, -10.2, -29.8})
-            QVERIFY(showsCurve(bench.view, image, 1, {x, inside}, 0));
+            QVERIFY(showsCurve(bench.view, image, 1, {double(x), inside}, 0));
         for (const double outside : {-9.0, -31.0})
-            QVERIFY(!showsCurve(bench.view, image, 1, {x, outside}, 1));
+            QVERIFY(!showsCurve(bench.view, image, 1, {double(x), outside}, 1));
     }
 }
 
