@@ -399,7 +399,8 @@ void TestLinkCommands::logAndDisplay()
     QFETCH_GLOBAL(int, mode);
     LinkBench bench(mode, {Answer{{"RETURN:FREQ ", "2.45GHz\n"}}, {}, says("RETURN:CAL:OK")});
     logged.clear();
-    const auto restore = qScopeGuard([former = qInstallMessageHandler(log)] { qInstallMessageHandler(former); });
+    const auto restore =
+        qScopeGuard([former = qInstallMessageHandler(log)] { qInstallMessageHandler(former); });
     QVERIFY(bench.open());
     bench.letPiecesFollow();
     bench.link.queryFrequency();
@@ -424,7 +425,9 @@ debug|send cmd: "OFFS 1.00\n" 10
 debug|Read time out
 debug|send cmd: "CAL\n" 4
 debug|read data async: "RETURN:CAL:OK\n"
-debug|send cmd: "A\xB5\x00""B" 4)").arg(opened).split(QLatin1Char('\n'));
+debug|send cmd: "A\xB5\x00""B" 4)")
+                                     .arg(opened)
+                                     .split(QLatin1Char('\n'));
     QCOMPARE(logged, expected);
 
     QStringList displayed{text("FREQ?\n"), text("OFFS 1.00\n"), text("CAL\n"), text("Aµ")};
