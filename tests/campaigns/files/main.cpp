@@ -61,18 +61,31 @@ QVector<Failure> failuresFor(const Writer &writer, bool isSlice)
     return failures;
 }
 
+/// The performance that follows on \a files; the same files are followed by the same.
+Performance following(const Stage &stage, const Writer &writer, const Files &files,
+                      QVector<QPair<Files, Performance>> *known)
+{
+    for (const auto &[before, performance] : qAsConst(*known)) {
+        if (before == files)
+            return performance;
+    }
+    known->append({files, stage.perform(writer, 2, files)});
+    return known->last().second;
+}
+
 Figures tryEverything(const Stage &stage, const Writer &writer, const QVector<Failure> &failures)
 {
     const Judgement judgement(stage, writer);
     print(writer, "undisturbed", judgement.faults());
     Figures figures{judgement.calls().size(), 0, judgement.faults().isEmpty() ? 0 : 1};
+    QVector<QPair<Files, Performance>> known;
     for (int number = 0; number < judgement.calls().size(); ++number) {
         for (const Failure &failure : failures) {
             if (!failure.concerns(judgement.calls().at(number)))
                 continue;
             const Performance performance =
                 stage.perform(writer, 1, judgement.before(), {number, failure});
-            const Performance next = stage.perform(writer, 2, performance.files);
+            const Performance next = following(stage, writer, performance.files, &known);
             const QStringList faults = judgement.faultsOf(performance, failure) +
                                        judgement.faultsOfNext(next, performance);
             print(writer, "call " + QByteArray::number(number) + ' ' + failure.name, faults);
