@@ -206,6 +206,15 @@ void TestChartInteraction::toggledTables()
     QCOMPARE(emptied.size(), 0);
     run(bench.view, "clearSelectionSlot");
     QCOMPARE(emptied.size(), 1);
+    // A hidden curve has no figures to show.
+    bench.view.updatePathSelection(2);
+    run(bench.view, "showOrHideParameterTableSlot");
+    bench.view.paths()[1]->setHidden(true);
+    filled.clear();
+    emptied.clear();
+    bench.view.updatePathSelection(1);
+    QCOMPARE(filled.size(), 0);
+    QCOMPARE(emptied.size(), 1);
 }
 
 void TestChartInteraction::obeysKeys_data()

@@ -261,7 +261,9 @@ void TestListChart::levelsFollowTheDataUntilChosen()
     QCOMPARE(shown(polar()), (Ends{-180, 180, -30, 30}));
     min.setValue(-50.0);
     emit min.editingFinished();
+    QMetaObject::invokeMethod(&polar(), "panSlot");
     m_form->addCurve(text("C"), lobes(60, 40));
+    QCOMPARE(polar().viewport()->cursor().shape(), Qt::OpenHandCursor);
     QCOMPARE(shown(polar()), (Ends{-180, 180, -50, 30}));
     QCOMPARE(shown(cartesian()), (Ends{-180, 180, -50, 30}));
     child<QPushButton>("fitButton").click();

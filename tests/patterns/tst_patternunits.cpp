@@ -11,6 +11,7 @@
 #include "testmain.h"
 
 #include <QTemporaryDir>
+#include <QTextCodec>
 
 #include <cmath>
 
@@ -301,6 +302,10 @@ void TestPatternUnits::curveFile_data()
     const QVector<Points> none;
     QTest::newRow("byte-order mark") << "\xef\xbb\xbf" + goodHead + "0,1\n"
                                      << QVector<Points>{{{0, 1}}} << "";
+    QTest::newRow("UTF-16") << QTextCodec::codecForName("UTF-16LE")
+                                   ->fromUnicode(QChar(QChar::ByteOrderMark) +
+                                                 QString::fromUtf8(goodHead + "0,1\n"))
+                            << QVector<Points>{{{0, 1}}} << "";
     QTest::newRow("empty") << QByteArray() << none << "The file is empty";
     QTest::newRow("picture") << picture << none << "Incorrect file format";
 }
