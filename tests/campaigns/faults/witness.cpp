@@ -53,12 +53,13 @@ void Witness::takeCommand(const QString &command)
 
 void Witness::takeRecordDue()
 {
-    const auto *session = m_console.window().findChild<LinkSession *>();
-    if (!session->isOpen())
-        m_faultsOfRows.append(QStringLiteral("a record was due when the link had ended"));
     const int rows = m_rows;
     readRows();
-    if (m_rows > rows && !m_console.isRunning("readTimer"))
+    if (m_rows == rows)
+        return;
+    if (!m_console.window().findChild<LinkSession *>()->isOpen())
+        m_faultsOfRows.append(QStringLiteral("recorded when the link had ended"));
+    else if (!m_console.isRunning("readTimer"))
         m_faultsOfRows.append(QStringLiteral("recorded although nothing is read any more"));
 }
 
