@@ -34,7 +34,7 @@ LinkSession::LinkSession(SerialLogic *link, ConsolePanel *panel, StatusLabels *s
 
 QTimer *LinkSession::createTimer(const char *name, void (LinkSession::*due)())
 {
-    auto *timer = new QTimer(this);
+    auto *timer = new QTimer(parent());
     timer->setObjectName(QLatin1String(name));
     connect(timer, &QTimer::timeout, this, due);
     return timer;
@@ -153,6 +153,7 @@ void LinkSession::postponeRecord()
 
 void LinkSession::stopPolling()
 {
+    m_hasReading = false; // what was shown before is old when the polling goes on
     m_readTimer->stop();
 }
 

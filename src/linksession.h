@@ -41,8 +41,8 @@ public:
     void startPolling();
     /// A reading of this link has come, and the next one is due.
     void takeReading();
-    /// Whether what is shown is the link's latest reading. It is none before the first, and not
-    /// after a setting that was not confirmed, since that leaves the polling at rest.
+    /// Whether what is shown is the link's latest reading. It is none before the first, and none
+    /// between a setting, which lets the polling rest, and the next reading.
     bool isReadingCurrent() const;
     void stopPolling();
     /// A record that has no current reading yet is due again one second from now.

@@ -21,6 +21,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <utility>
+
 namespace {
 
 constexpr int clockPeriod = 1000; // ms
@@ -342,12 +344,18 @@ void MainWindow::startTask(void (SerialLogic::*task)(), const QString &name)
 {
     m_session->stopPolling();
     (m_link->*task)();
-    if (!m_link->awaitsResult())
-        return; // the command did not go out, of which the user has been told
+    if (!m_link->awaitsResult()) {
+        // The command did not go out. Of a lost link the user has been told.
+        if (m_session->isOpen())
+            m_session->startPolling();
+        return;
+    }
     m_loadingDialog->setTaskLabelText(name);
     loadingTimerOut();
     m_loadingTimer->start(waitPeriod);
     m_loadingDialog->exec();
+    if (const auto tell = std::exchange(m_tellResult, nullptr))
+        tell();
 }
 
 void MainWindow::loadingTimerOut()
@@ -367,32 +375,40 @@ void MainWindow::endWait()
     m_waitCountdown = longestWait;
 }
 
+void MainWindow::endTask(const std::function<void()> &showBox)
+{
+    const auto tell = [this, showBox] {
+        showBox();
+        m_session->startPolling();
+    };
+    // The link still awaits the result while it hands it over. The box waits for the end of the
+    // dialog, and with it of that: nothing could be read, nor recorded, as long as it is open.
+    const bool isWaiting = m_loadingTimer->isActive();
+    endWait();
+    if (isWaiting)
+        m_tellResult = tell;
+    else
+        tell();
+}
+
 void MainWindow::updateSetZeroSuccess()
 {
-    endWait();
-    infoMessageBox(tr("Set zero success!"));
-    m_session->startPolling();
+    endTask([this] { infoMessageBox(tr("Set zero success!")); });
 }
 
 void MainWindow::updateSetZeroFailed()
 {
-    endWait();
-    warn(tr("Set zero failed!"));
-    m_session->startPolling();
+    endTask([this] { warn(tr("Set zero failed!")); });
 }
 
 void MainWindow::updateCalibrationSuccess()
 {
-    endWait();
-    infoMessageBox(tr("Calibration success!"));
-    m_session->startPolling();
+    endTask([this] { infoMessageBox(tr("Calibration success!")); });
 }
 
 void MainWindow::updateCalibrationFailed()
 {
-    endWait();
-    warn(tr("Calibration failed!"));
-    m_session->startPolling();
+    endTask([this] { warn(tr("Calibration failed!")); });
 }
 
 // --- Readings, chart and records
@@ -420,13 +436,15 @@ void MainWindow::saveValue()
 
 bool MainWindow::readForRecord()
 {
-    if (m_link->awaitsResult()) {
-        // The instrument would answer a reading and the result in one line of replies.
+    // While a result is awaited, the instrument would answer both in one.
+    const bool isFree = !m_link->awaitsResult() && !m_loadingTimer->isActive();
+    if (isFree)
+        m_link->readMesureData();
+    if (m_session->isReadingCurrent())
+        return true;
+    if (m_session->isOpen()) // else the link is lost, of which the user has been told
         m_session->postponeRecord();
-        return false;
-    }
-    m_link->readMesureData();
-    return m_session->isReadingCurrent(); // otherwise none came: the link is lost
+    return false;
 }
 
 void MainWindow::timerOut()

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class ConnectDialog;
@@ -113,6 +114,7 @@ private:
 
     void startTask(void (SerialLogic::*task)(), const QString &name);
     void endWait();
+    void endTask(const std::function<void()> &showBox);
     bool readForRecord();
     void warn(const QString &text);
 
@@ -132,6 +134,7 @@ private:
     LoadingDialog *m_loadingDialog;
     QTimer *m_clockTimer;
     QTimer *m_loadingTimer;
-    int m_waitCountdown; // seconds left for zeroing or calibration
+    int m_waitCountdown;                // seconds left for zeroing or calibration
+    std::function<void()> m_tellResult; // of a task, when its dialog has ended
     bool m_errorBoxOpen = false;
 };
