@@ -10,6 +10,11 @@
 #include <sys/time.h>
 #include <unistd.h>
 
+// The C library's header declares the descriptors of poll() as written only, which they are not.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
+
 namespace {
 
 constexpr qint64 nsPerSecond = 1000000000;
