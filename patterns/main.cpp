@@ -16,6 +16,7 @@ namespace {
 
 int print(const CommandLine &line)
 {
+    useParentConsole();
     const bool refused = line.wish == CommandLine::Wish::Refuse;
     QTextStream(refused ? stderr : stdout) << line.text << '\n';
     return refused ? 1 : 0;
@@ -25,7 +26,6 @@ int print(const CommandLine &line)
 
 int main(int argc, char **argv)
 {
-    useParentConsole();
     QStringList arguments;
     {
         // Before there is a window system, so that help and version need none.

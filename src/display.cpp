@@ -55,6 +55,12 @@ bool prepare(const QStringList &arguments)
     return false;
 }
 
+void makeOptional()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb;offscreen");
+}
+
 QString missingText()
 {
     return QStringLiteral(

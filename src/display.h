@@ -13,6 +13,10 @@ namespace Display {
 /// that cannot be reached ends the program, with a text on standard error and status 1.
 bool prepare(const QStringList &arguments);
 
+/// For a program that can do without: a display that is named but cannot be reached is passed over
+/// as if there were none. Called after prepare().
+void makeOptional();
+
 /// What to tell a user who has no display.
 QString missingText();
 

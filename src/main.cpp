@@ -19,6 +19,7 @@ namespace {
 /// Prints why the program does not start; its exit code.
 int refuse(const QString &reason)
 {
+    useParentConsole();
     std::fputs(reason.toLocal8Bit().constData(), stderr);
     return EXIT_FAILURE;
 }
@@ -28,8 +29,17 @@ int tell(const StartOptions &options)
 {
     if (options.wish == StartOptions::Wish::Refuse)
         return refuse(options.text);
+    useParentConsole();
     std::fputs(options.text.toLocal8Bit().constData(), stdout);
     return EXIT_SUCCESS;
+}
+
+/// Tells how the machine and \a instrument are; the exit code.
+int examine(const QString &instrument)
+{
+    useParentConsole();
+    const bool hasDisplay = QApplication::platformName() != QLatin1String("offscreen");
+    return Doctor::examine(instrument, hasDisplay, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 QStringList rawArguments(int argc, char **argv)
@@ -44,7 +54,6 @@ QStringList rawArguments(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    useParentConsole();
     // Help needs no application object, and so not even a part of Qt's that is missing; that object
     // takes Qt's own options away.
     const QStringList arguments = rawArguments(argc, argv);
@@ -53,11 +62,13 @@ int main(int argc, char **argv)
         return tell(wished);
 
     const bool hasDisplay = Display::prepare(arguments);
+    if (wished.wish == StartOptions::Wish::Examine)
+        Display::makeOptional();
     AppStyle::enableHighDpi();
     QApplication app(argc, argv);
     const StartOptions options = StartOptions::read(QApplication::arguments());
     if (options.wish == StartOptions::Wish::Examine)
-        return Doctor::examine(options.examined, hasDisplay, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
+        return examine(options.examined);
     if (options.wish != StartOptions::Wish::Run)
         return tell(options);
     if (!hasDisplay)

@@ -226,6 +226,8 @@ void TestDoctor::examines()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
         environment.remove(QLatin1String(name));
+    if (!address.isEmpty()) // half of the cases have a display that went away
+        environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":4242"));
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(folder.path());
     QStringList arguments(QStringLiteral("--doctor"));
