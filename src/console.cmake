@@ -30,6 +30,7 @@ add_library(mz_console STATIC
     portlist.cpp portlist.h
     powerdisplay.cpp powerdisplay.h
     statuslabels.cpp statuslabels.h
+    taskwait.cpp taskwait.h
     timechart.cpp timechart.h
     writenotice.cpp writenotice.h
 )

@@ -6,7 +6,6 @@
 #include "linksession.h"
 #include "startoptions.h"
 #include "ui_mainwindow.h"
-#include "widgets/loadingdialog.h"
 #include "writenotice.h"
 
 #include <QDateTime>
@@ -21,13 +20,9 @@
 #include <QTimer>
 #include <QUrl>
 
-#include <utility>
-
 namespace {
 
 constexpr int clockPeriod = 1000; // ms
-constexpr int waitPeriod = 1000;  // ms
-constexpr int longestWait = 30;   // s
 constexpr QSize smallestWindow{1120, 800};
 
 std::unique_ptr<Ui::MainWindow> buildForm(QMainWindow *window)
@@ -49,10 +44,8 @@ MainWindow::MainWindow(QWidget *parent)
     , m_link(new SerialLogic(this))
     , m_session(new LinkSession(m_link, &m_panel, &m_status, &m_chart, this))
     , m_connectDialog(new ConnectDialog(this))
-    , m_loadingDialog(new LoadingDialog(this))
+    , m_wait(this)
     , m_clockTimer(new QTimer(this))
-    , m_loadingTimer(new QTimer(this))
-    , m_waitCountdown(longestWait)
 {
     resize(smallestWindow);
     setMinimumSize(smallestWindow);
@@ -60,9 +53,8 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_connectDialog, &ConnectDialog::openPort, this, &MainWindow::openPort);
     connect(m_session, &LinkSession::readingDue, this, &MainWindow::readValue);
     connect(m_session, &LinkSession::recordDue, this, &MainWindow::saveValue);
-    connect(m_session, &LinkSession::ended, this, &MainWindow::endWait);
-    m_loadingTimer->setObjectName(QStringLiteral("loadingTimer"));
-    connect(m_loadingTimer, &QTimer::timeout, this, &MainWindow::loadingTimerOut);
+    connect(m_session, &LinkSession::ended, this, [this] { m_wait.end(); });
+    connect(m_wait.timer(), &QTimer::timeout, this, &MainWindow::loadingTimerOut);
     m_clockTimer->setObjectName(QStringLiteral("clockTimer"));
     connect(m_clockTimer, &QTimer::timeout, this, &MainWindow::timerOut);
     m_clockTimer->start(clockPeriod);
@@ -350,45 +342,21 @@ void MainWindow::startTask(void (SerialLogic::*task)(), const QString &name)
             m_session->startPolling();
         return;
     }
-    m_loadingDialog->setTaskLabelText(name);
-    loadingTimerOut();
-    m_loadingTimer->start(waitPeriod);
-    m_loadingDialog->exec();
-    if (const auto tell = std::exchange(m_tellResult, nullptr))
-        tell();
+    m_wait.run(name);
 }
 
 void MainWindow::loadingTimerOut()
 {
-    m_loadingDialog->setLabelText(m_waitCountdown);
-    --m_waitCountdown;
-    if (m_waitCountdown != 0)
-        return;
-    endWait();
-    errorMessageBox(tr("%1 time out!").arg(m_loadingDialog->taskLabelText()));
-}
-
-void MainWindow::endWait()
-{
-    m_loadingTimer->stop();
-    m_loadingDialog->close();
-    m_waitCountdown = longestWait;
+    if (m_wait.countDown())
+        errorMessageBox(tr("%1 time out!").arg(m_wait.task()));
 }
 
 void MainWindow::endTask(const std::function<void()> &showBox)
 {
-    const auto tell = [this, showBox] {
+    m_wait.end([this, showBox] {
         showBox();
         m_session->startPolling();
-    };
-    // The link still awaits the result while it hands it over. The box waits for the end of the
-    // dialog, and with it of that: nothing could be read, nor recorded, as long as it is open.
-    const bool isWaiting = m_loadingTimer->isActive();
-    endWait();
-    if (isWaiting)
-        m_tellResult = tell;
-    else
-        tell();
+    });
 }
 
 void MainWindow::updateSetZeroSuccess()
@@ -437,7 +405,7 @@ void MainWindow::saveValue()
 bool MainWindow::readForRecord()
 {
     // While a result is awaited, the instrument would answer both in one.
-    const bool isFree = !m_link->awaitsResult() && !m_loadingTimer->isActive();
+    const bool isFree = !m_link->awaitsResult() && !m_wait.isRunning();
     if (isFree)
         m_link->readMesureData();
     if (m_session->isReadingCurrent())

@@ -5,6 +5,7 @@
 #include "linkmode.h"
 #include "portlist.h"
 #include "statuslabels.h"
+#include "taskwait.h"
 #include "timechart.h"
 
 #include <QMainWindow>
@@ -15,7 +16,6 @@
 
 class ConnectDialog;
 class LinkSession;
-class LoadingDialog;
 class QTimer;
 class SerialLogic;
 struct StartOptions;
@@ -113,7 +113,6 @@ private:
     void setLinkMode(LinkMode mode);
 
     void startTask(void (SerialLogic::*task)(), const QString &name);
-    void endWait();
     void endTask(const std::function<void()> &showBox);
     bool readForRecord();
     void warn(const QString &text);
@@ -131,10 +130,7 @@ private:
     SerialLogic *m_link;
     LinkSession *m_session;
     ConnectDialog *m_connectDialog;
-    LoadingDialog *m_loadingDialog;
+    TaskWait m_wait;
     QTimer *m_clockTimer;
-    QTimer *m_loadingTimer;
-    int m_waitCountdown;                // seconds left for zeroing or calibration
-    std::function<void()> m_tellResult; // of a task, when its dialog has ended
     bool m_errorBoxOpen = false;
 };
