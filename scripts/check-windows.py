@@ -24,7 +24,7 @@ RESOURCE_COMPILER = "x86_64-w64-mingw32-windres"
 # CMake adds the first two, and the campaigns, for Unix alone; the last source includes a peer's header
 # that Debian alone brings.
 UNIX_ONLY = {"ptylink.cpp", "fakeinstrument.cpp", "qcpchart.cpp"}
-UNIX_ONLY_FOLDER = ROOT / "tests" / "campaigns"
+UNIX_ONLY_FOLDER = ROOT / "campaigns"
 WARNINGS = ["-Wall", "-Wextra", "-Werror"]
 
 
