@@ -82,7 +82,7 @@ copies() {
 }
 
 matches() {
-    diff <(xclip -selection clipboard -o 2>/dev/null) <(tail -n +2 "$1") >/dev/null
+    diff <(timeout 5 xclip -selection clipboard -o 2>/dev/null) <(tail -n +2 "$1") >/dev/null
 }
 
 open 0 "$samples/horn.csv"
