@@ -3,6 +3,7 @@
 #include "powertext.h"
 
 #include <cmath>
+#include <utility>
 
 namespace sim {
 
@@ -30,8 +31,10 @@ UnitInfo info(FrequencyUnit unit)
 
 } // namespace
 
-Instrument::Instrument(const PowerSource &source, quint32 serialNumber, bool microSign)
-    : m_source(source)
+Instrument::Instrument(Sensor sensor, const PowerSource &source, quint32 serialNumber,
+                       bool microSign)
+    : m_sensor(std::move(sensor))
+    , m_source(source)
     , m_serialNumber(serialNumber)
     , m_microSign(microSign)
 {}
@@ -88,23 +91,24 @@ void Instrument::setRelative(bool on)
 {
     m_relative = on;
     if (on)
-        m_reference = absolutePower();
+        m_reference = absolutePower(m_sensor().level);
 }
 
 QByteArray Instrument::measure()
 {
-    const double power = absolutePower();
-    if (m_relative) {
-        const QByteArray text = twoDecimals(power - m_reference);
-        return text + "dBm," + text + "dB";
-    }
+    const Input input = m_sensor();
+    const double power = absolutePower(input.level);
+    if (input.overload)
+        return "OVERLOAD,OVERLOAD";
     const QByteArray dBm = twoDecimals(power) + "dBm";
+    if (m_relative)
+        return dBm + ',' + twoDecimals(power - m_reference) + "dB";
     return dBm + ',' + (m_powerUnit == PowerUnit::DBm ? dBm : wattText(power, m_microSign));
 }
 
-double Instrument::absolutePower()
+double Instrument::absolutePower(double level)
 {
-    return m_source.read(m_averageCount) + m_offset;
+    return m_source.read(level, m_averageCount) + m_offset;
 }
 
 } // namespace sim

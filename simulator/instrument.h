@@ -1,8 +1,11 @@
 #pragma once
 
+#include "levelscript.h"
 #include "powersource.h"
 
 #include <QByteArray>
+
+#include <functional>
 
 namespace sim {
 
@@ -17,8 +20,11 @@ enum class PowerUnit { DBm, Watt };
 class Instrument
 {
 public:
+    /// Tells what reaches the sensor now.
+    using Sensor = std::function<Input()>;
+
     /// \a serialNumber appears in the identity; \a microSign: watts with "µ" in place of "u".
-    Instrument(const PowerSource &source, quint32 serialNumber, bool microSign);
+    Instrument(Sensor sensor, const PowerSource &source, quint32 serialNumber, bool microSign);
 
     QByteArray identity() const;
 
@@ -43,12 +49,14 @@ public:
     bool isRelative() const { return m_relative; }
 
     /// One reading, "-20.00dBm,10.00uW": the power in dBm, then as displayed. In the relative state
-    /// both are relative to the reference, and the displayed one is in dB.
+    /// the displayed one is in dB over the reference. More than the sensor bears is
+    /// "OVERLOAD,OVERLOAD".
     QByteArray measure();
 
 private:
-    double absolutePower();
+    double absolutePower(double level);
 
+    Sensor m_sensor;
     PowerSource m_source;
     quint32 m_serialNumber;
     bool m_microSign;

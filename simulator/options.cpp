@@ -22,8 +22,9 @@ public:
     Reader()
     {
         m_parser.setApplicationDescription(tr("A simulated MZ6218 power meter."));
-        m_parser.addOptions({m_help, m_version, m_listen, m_port, m_serial, m_level, m_noise,
-                             m_seed, m_micro, m_calibrationTime, m_trace, m_fault});
+        m_parser.addOptions({m_help, m_version, m_listen, m_port, m_serial, m_level, m_script,
+                             m_pattern, m_rotator, m_rotatorSpeed, m_noise, m_seed, m_micro,
+                             m_calibrationTime, m_replay, m_replayTiming, m_trace, m_fault});
     }
 
     CommandLine read(const QStringList &arguments)
@@ -58,6 +59,13 @@ private:
         m_options.port = static_cast<quint16>(wholeNumber(m_port, 0, 65535));
         m_options.serial = m_parser.isSet(m_serial);
         m_options.level = number(m_level, -200, 200);
+        m_options.script = m_parser.value(m_script);
+        m_options.pattern = m_parser.value(m_pattern);
+        if (m_parser.isSet(m_rotator))
+            m_options.rotatorPort = static_cast<quint16>(wholeNumber(m_rotator, 0, 65535));
+        m_options.rotatorSpeed = number(m_rotatorSpeed, 0.01, 3600);
+        m_options.replay = m_parser.value(m_replay);
+        m_options.replayTiming = m_parser.isSet(m_replayTiming);
         m_options.noise = number(m_noise, 0, 100);
         m_options.seed =
             static_cast<quint32>(wholeNumber(m_seed, 0, std::numeric_limits<quint32>::max()));
@@ -76,14 +84,16 @@ private:
     double number(const QCommandLineOption &option, double minimum, double maximum)
     {
         const QString text = m_parser.value(option);
+        // No number here has groups of digits, so that a comma can only be a decimal one.
         bool isNumber = false;
-        const double value = text.toDouble(&isNumber);
+        const double value =
+            QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
         if (isNumber && value >= minimum && value <= maximum)
             return value;
         fail(tr("--%1 takes a number from %2 to %3, not \"%4\"")
                  .arg(option.names().first())
-                 .arg(minimum, 0, 'f', 0)
-                 .arg(maximum, 0, 'f', 0)
+                 .arg(minimum)
+                 .arg(maximum)
                  .arg(text));
         return minimum;
     }
@@ -128,6 +138,22 @@ private:
         tr("Offer a serial port too, and print its path (not on Windows).")};
     const QCommandLineOption m_level{QStringLiteral("level"), tr("Level of the source (-20)."),
                                      QStringLiteral("DBM"), QStringLiteral("-20")};
+    const QCommandLineOption m_script{
+        QStringLiteral("script"),
+        tr("Change the level by the clock: lines \"SECONDS level DBM\", \"SECONDS ramp FROM TO "
+           "OVER\", \"SECONDS overload\", \"SECONDS off\"."),
+        QStringLiteral("FILE")};
+    const QCommandLineOption m_pattern{
+        QStringLiteral("pattern"),
+        tr("Take the level from a curve file, at the turntable's angle; --level does not count."),
+        QStringLiteral("FILE")};
+    const QCommandLineOption m_rotator{
+        QStringLiteral("rotator"),
+        tr("Offer a turntable that speaks rotctld's protocol; 0 takes a free port."),
+        QStringLiteral("PORT")};
+    const QCommandLineOption m_rotatorSpeed{QStringLiteral("rotator-speed"),
+                                            tr("Speed of the turntable, in degrees a second (6)."),
+                                            QStringLiteral("DEGREES"), QStringLiteral("6")};
     const QCommandLineOption m_noise{
         QStringLiteral("noise"),
         tr("Deviation of a single reading (0.05); the drift goes with it, and 0 ends both."),
@@ -140,6 +166,14 @@ private:
     const QCommandLineOption m_calibrationTime{QStringLiteral("calibration-time"),
                                                tr("Time that zeroing and calibration take (3)."),
                                                QStringLiteral("SECONDS"), QStringLiteral("3")};
+    const QCommandLineOption m_replay{
+        QStringLiteral("replay"),
+        tr("Answer with the replies in a console's log, the file of an hour or the folder of a "
+           "day."),
+        QStringLiteral("LOG")};
+    const QCommandLineOption m_replayTiming{
+        QStringLiteral("replay-timing"),
+        tr("Let the replies of the log take the time that they took.")};
     const QCommandLineOption m_trace{QStringLiteral("trace"),
                                      tr("Print every line in both directions, with the time.")};
     const QCommandLineOption m_fault{QStringLiteral("fault"),

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <optional>
+
 namespace sim {
 
 /// Everything that can be chosen on the command line.
@@ -15,7 +17,13 @@ struct Options
     quint16 port = 5001;  ///< 0: one that is free
     bool serial = false;  ///< also offer a pseudo terminal
     double level = -20.0; ///< dBm
-    double noise = 0.05;  ///< dB, of a single reading
+    QString pattern;      ///< curve file whose levels take the place of level; empty: none
+    QString script;       ///< file with levels over the time; empty: none
+    std::optional<quint16> rotatorPort; ///< 0: one that is free; nothing: no rotator
+    double rotatorSpeed = 6.0;          ///< degrees a second
+    QString replay;                     ///< a console's log to answer from; empty: none
+    bool replayTiming = false;
+    double noise = 0.05; ///< dB, of a single reading
     quint32 seed = 1;
     bool microSign = false;
     int operationTime = 3000; ///< ms that zeroing and calibration take

@@ -10,17 +10,16 @@ constexpr double twoPi = 6.283185307179586;
 
 } // namespace
 
-PowerSource::PowerSource(double level, double noise, quint32 seed)
-    : m_level(level)
-    , m_noise(noise)
+PowerSource::PowerSource(double noise, quint32 seed)
+    : m_noise(noise)
     , m_random(seed)
     , m_phase(m_random.generateDouble())
 {}
 
-double PowerSource::read(int averageCount)
+double PowerSource::read(double level, int averageCount)
 {
     ++m_readings;
-    return m_level + m_noise * drift() + m_noise / std::sqrt(averageCount) * gauss();
+    return level + m_noise * drift() + m_noise / std::sqrt(averageCount) * gauss();
 }
 
 double PowerSource::drift() const

@@ -9,13 +9,13 @@ namespace sim {
 class PowerSource
 {
 public:
-    /// \a level in dBm; \a noise is the standard deviation of a single reading in dB. The drift is
-    /// in proportion to it, so that a source without noise stands perfectly still.
-    PowerSource(double level, double noise, quint32 seed);
+    /// \a noise is the standard deviation of a single reading in dB. The drift is in proportion to
+    /// it, so that a source without noise stands perfectly still.
+    PowerSource(double noise, quint32 seed);
 
-    /// The next reading in dBm, the mean of \a averageCount (1 or more) single ones: its noise
-    /// shrinks with the square root of the count, the drift does not.
-    double read(int averageCount);
+    /// The next reading in dBm of a nominal \a level, the mean of \a averageCount (1 or more)
+    /// single ones: its noise shrinks with the square root of the count, the drift does not.
+    double read(double level, int averageCount);
 
 private:
     double drift() const;
@@ -23,7 +23,6 @@ private:
     /// distribution would differ from one compiler to the next.
     double gauss();
 
-    double m_level;
     double m_noise;
     QRandomGenerator m_random;
     double m_phase; ///< of the drift, in turns

@@ -1,6 +1,7 @@
 #include "session.h"
 
 #include "link.h"
+#include "replay.h"
 #include "trace.h"
 
 #include <QTimer>
@@ -41,6 +42,8 @@ void Session::takeCommand(const QByteArray &line)
     const QList<Fault> faults = m_bench.faults.befalling(line);
     for (const Fault &fault : faults)
         m_bench.trace.note("fault " + faultName(fault.kind) + " befalls " + line);
+    if (m_bench.replay && replay(line, faults))
+        return;
     Quirks quirks;
     quirks.refuseSettings = contains(faults, FaultKind::Refuse);
     quirks.numericFrequencyOnly = contains(faults, FaultKind::NumericFrequency);
@@ -49,7 +52,35 @@ void Session::takeCommand(const QByteArray &line)
     if (answer.operation != Operation::None)
         start(answer.operation, faults);
     else if (!answer.line.isEmpty())
-        deliver(answer.line, faults);
+        deliver(m_bench.faults.delivery(answer.line, faults));
+}
+
+bool Session::replay(const QByteArray &line, const QList<Fault> &faults)
+{
+    if (line.trimmed().isEmpty())
+        return true;
+    const auto reply = m_bench.replay->next(line);
+    if (!reply) {
+        m_bench.trace.note("not in the log: " + line);
+        return false;
+    }
+    // What the log does not have is answered by an instrument with the same settings.
+    if (CommandInterpreter::isSetting(line) && reply->bytes.contains("OK"))
+        m_bench.interpreter.execute(line);
+    if (reply->bytes.isEmpty())
+        return true;
+    QList<Fault> all = faults;
+    const bool hasEnd = reply->bytes.endsWith('\n');
+    if (!hasEnd) {
+        Fault torn;
+        torn.kind = FaultKind::NoNewline;
+        all.append(torn);
+    }
+    QList<Step> steps = m_bench.faults.delivery(reply->bytes.chopped(hasEnd ? 1 : 0), all);
+    if (m_bench.replayTiming && !steps.isEmpty())
+        steps.first().delay += reply->delay;
+    deliver(steps);
+    return true;
 }
 
 void Session::start(Operation operation, const QList<Fault> &faults)
@@ -64,12 +95,13 @@ void Session::finishOperation()
 {
     const bool success = !contains(m_operationFaults, FaultKind::CalFail);
     if (!contains(m_operationFaults, FaultKind::CalSilent))
-        deliver(CommandInterpreter::result(m_operation, success), m_operationFaults);
+        deliver(m_bench.faults.delivery(CommandInterpreter::result(m_operation, success),
+                                        m_operationFaults));
 }
 
-void Session::deliver(const QByteArray &reply, const QList<Fault> &faults)
+void Session::deliver(const QList<Step> &steps)
 {
-    m_steps.append(m_bench.faults.delivery(reply, faults));
+    m_steps.append(steps);
     if (!m_stepTimer->isActive())
         advance();
 }

@@ -11,6 +11,7 @@ class QTimer;
 namespace sim {
 
 class Link;
+class Replay;
 class Trace;
 
 /// What all links of one instrument share.
@@ -20,6 +21,8 @@ struct Bench
     FaultInjector &faults;
     Trace &trace;
     int operationTime; ///< ms that zeroing and calibration take
+    Replay *replay;    ///< what to answer with first; null: nothing
+    bool replayTiming; ///< whether those replies take the time that they took
 };
 
 /// The talk with one client: takes its commands in and sends the replies out in their order, each
@@ -38,9 +41,10 @@ signals:
 private:
     void takeBytes(const QByteArray &bytes);
     void takeCommand(const QByteArray &line);
+    bool replay(const QByteArray &line, const QList<Fault> &faults);
     void start(Operation operation, const QList<Fault> &faults);
     void finishOperation();
-    void deliver(const QByteArray &reply, const QList<Fault> &faults);
+    void deliver(const QList<Step> &steps);
     void advance();
     void take(const Step &step);
     void reset();

@@ -1,6 +1,7 @@
 #include "trace.h"
 
 #include <QDateTime>
+#include <QLocale>
 
 namespace sim {
 
@@ -31,7 +32,9 @@ void Trace::write(const char *word, const QByteArray &text)
     if (!m_file)
         return;
     const QByteArray time =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz")).toLatin1();
+        QLocale::c()
+            .toString(QDateTime::currentDateTime(), QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"))
+            .toLatin1();
     const QByteArray line = time + ' ' + word + ' ' + printable(text) + '\n';
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), m_file);
     std::fflush(m_file);

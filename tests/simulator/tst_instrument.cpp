@@ -12,18 +12,18 @@ namespace {
 
 Instrument steadyInstrument(bool microSign = false)
 {
-    return Instrument(PowerSource(-20.0, 0.0, 1), 7, microSign);
+    return Instrument([] { return Input{-20.0}; }, PowerSource(0.0, 1), 7, microSign);
 }
 
 /// The standard deviation of what \a count successive readings differ by.
 double jitter(int averageCount)
 {
     constexpr int count = 2000;
-    PowerSource source(-20.0, 1.0, 42);
-    double last = source.read(averageCount);
+    PowerSource source(1.0, 42);
+    double last = source.read(-20.0, averageCount);
     double sum = 0.0;
     for (int i = 0; i < count; ++i) {
-        const double next = source.read(averageCount);
+        const double next = source.read(-20.0, averageCount);
         sum += (next - last) * (next - last);
         last = next;
     }
@@ -70,8 +70,9 @@ void TestInstrument::talk_data()
         "UNIT:POW W > OK | UNIT:POW? > UNIT:POW W | GET? > GET -20.00dBm,10.00uW | "
         "UNIT:POW dBm > OK | UNIT:POW? > UNIT:POW dBm | GET? > GET -20.00dBm,-20.00dBm");
     row("relative to the power at ON, anew at each ON",
-        "REL ON > OK | REL? > REL ON | GET? > GET 0.00dBm,0.00dB | "
-        "OFFS -2.00 > OK | GET? > GET -2.00dBm,-2.00dB | REL ON > OK | GET? > GET 0.00dBm,0.00dB | "
+        "REL ON > OK | REL? > REL ON | GET? > GET -20.00dBm,0.00dB | "
+        "OFFS -2.00 > OK | GET? > GET -22.00dBm,-2.00dB | REL ON > OK | GET? > GET "
+        "-22.00dBm,0.00dB | "
         "REL OFF > OK | GET? > GET -22.00dBm,-22.00dBm");
     row("case, blanks and a carriage return do not matter",
         " freq   2.45 ghz \r > OK | Freq?\r > FREQ 2.45GHz");
@@ -152,10 +153,10 @@ void TestInstrument::microSign()
 void TestInstrument::sourceRepeatsForASeed()
 {
     const auto readings = [](quint32 seed) {
-        PowerSource source(-20.0, 0.1, seed);
+        PowerSource source(0.1, seed);
         QList<double> list;
         for (int i = 0; i < 1000; ++i)
-            list.append(source.read(1));
+            list.append(source.read(-20.0, 1));
         return list;
     };
     const QList<double> list = readings(5);
