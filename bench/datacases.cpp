@@ -1,10 +1,10 @@
 #include "cases.h"
 
-#include "2d/curvetext.h"
-#include "2d/patternanalysis.h"
-#include "filewriting.h"
+#include "2d/data/curvetext.h"
+#include "2d/data/patternanalysis.h"
 #include "measure.h"
 #include "module/formulacalc.h"
+#include "storage/filewriting.h"
 #include "testcurve.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "ownchart.h"
 
-#include "2d/graphicsbase.h"
+#include "2d/view/graphicsbase.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 // Shows one window, prints the processor time from the start of the process to the end of the first
 // painting in ms, and ends. "console" shows the console, "chart" an empty window with a chart.
 #include "appinit.h"
-#include "appstyle.h"
+#include "frame/appstyle.h"
 #include "mainwindow.h"
 #include "messagelog.h"
 

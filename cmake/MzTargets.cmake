@@ -29,6 +29,31 @@ if(MZ_BUILD_FUZZ)
     target_link_options(mz_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Includes are written from these two roots, so that each names the room of what it includes.
+target_include_directories(mz_flags INTERFACE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}")
+
+# mz_add_layer(NAME SOURCES ... LIBRARIES ...): the library of one folder. What it links is what its
+# sources may include; scripts/layers.py holds them to it at every build.
+function(mz_add_layer name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_LIBRARIES} PRIVATE mz_flags)
+    file(RELATIVE_PATH folder "${CMAKE_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+    list(TRANSFORM ARG_SOURCES PREPEND "${folder}/")
+    set_property(GLOBAL APPEND_STRING PROPERTY MZ_LAYERS "${name}|${ARG_LIBRARIES}|${ARG_SOURCES}\n")
+    add_dependencies(${name} mz_layers)
+endfunction()
+
+add_custom_target(mz_layers
+    COMMAND "${Python3_EXECUTABLE}" "${CMAKE_SOURCE_DIR}/scripts/layers.py" check "${CMAKE_BINARY_DIR}/layers.txt"
+    COMMENT "Holding includes to the layers" VERBATIM)
+
+# mz_write_layers(): after the last layer, writes the list that scripts/layers.py reads.
+function(mz_write_layers)
+    get_property(layers GLOBAL PROPERTY MZ_LAYERS)
+    file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/layers.txt" CONTENT "${layers}")
+endfunction()
+
 # mz_add_program(NAME SOURCES ... LIBRARIES ...): a program in build/bin with the shared resources.
 function(mz_add_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})

@@ -1,8 +1,8 @@
 /// The command lines of the three programs: arguments parted by line feeds.
 
+#include "console/startoptions.h"
 #include "patterns/commandline.h"
 #include "simulator/options.h"
-#include "startoptions.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 /// Curve text from files and from the clipboard: what was read is finite and survives a round trip.
 
-#include "2d/curvetext.h"
-#include "2d/patternanalysis.h"
+#include "2d/data/curvetext.h"
+#include "2d/data/patternanalysis.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,7 +1,7 @@
 /// The settings file: whatever it holds, five lines come out, and the choices read again unchanged.
 /// (A prefix that stands twice in a line goes twice, so the two texts may differ.)
 
-#include "consolesettings.h"
+#include "storage/consolesettings.h"
 
 #include <QByteArray>
 

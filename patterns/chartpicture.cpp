@@ -1,7 +1,7 @@
 #include "patterns/chartpicture.h"
 
-#include "2d/graphicsbase.h"
-#include "2d/listchart.h"
+#include "2d/form/listchart.h"
+#include "2d/view/graphicsbase.h"
 
 #include <QBuffer>
 #include <QChart>

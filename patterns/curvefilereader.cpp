@@ -1,6 +1,6 @@
 #include "patterns/curvefilereader.h"
 
-#include "2d/curvetext.h"
+#include "2d/data/curvetext.h"
 
 #include <QFile>
 #include <QFileInfo>

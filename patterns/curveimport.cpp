@@ -1,6 +1,6 @@
 #include "patterns/curveimport.h"
 
-#include "2d/listchart.h"
+#include "2d/form/listchart.h"
 #include "patterns/curvefilereader.h"
 
 #include <QFileInfo>

@@ -1,10 +1,10 @@
-#include "appstyle.h"
-#include "display.h"
-#include "parentconsole.h"
+#include "frame/appstyle.h"
+#include "frame/display.h"
 #include "patterns/commandline.h"
 #include "patterns/patternwindow.h"
 #include "patterns/workbench.h"
-#include "stopsignals.h"
+#include "process/parentconsole.h"
+#include "process/stopsignals.h"
 
 #include <QApplication>
 #include <QIcon>

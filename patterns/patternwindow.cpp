@@ -1,14 +1,14 @@
 #include "patterns/patternwindow.h"
 #include "ui_patternwindow.h"
 
-#include "2d/curvetext.h"
-#include "2d/graphicsbase.h"
-#include "filewriting.h"
+#include "2d/data/curvetext.h"
+#include "2d/view/graphicsbase.h"
 #include "patterns/chartpicture.h"
 #include "patterns/curveimport.h"
 #include "patterns/filenames.h"
 #include "patterns/reportpage.h"
 #include "patterns/workbench.h"
+#include "storage/filewriting.h"
 
 #include <QActionGroup>
 #include <QClipboard>

@@ -1,8 +1,8 @@
 #include "patterns/reportpage.h"
 
-#include "2d/listchart.h"
-#include "2d/paratabletext.h"
-#include "2d/supplementtext.h"
+#include "2d/data/paratabletext.h"
+#include "2d/data/supplementtext.h"
+#include "2d/form/listchart.h"
 #include "patterns/chartpicture.h"
 #include "patterns/report.h"
 

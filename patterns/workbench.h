@@ -1,6 +1,6 @@
 #pragma once
 
-#include "language.h"
+#include "frame/language.h"
 #include "patterns/recentfiles.h"
 #include "patterns/workbenchsettings.h"
 

@@ -1,6 +1,6 @@
 #include "patterns/workbenchsettings.h"
 
-#include "filewriting.h"
+#include "storage/filewriting.h"
 
 #include <QDebug>
 #include <QDir>

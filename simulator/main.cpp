@@ -1,6 +1,6 @@
 #include "instrumentserver.h"
 #include "options.h"
-#include "stopsignals.h"
+#include "process/stopsignals.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #include "appinit.h"
 
-#include "frameedge.h"
+#include "frame/frameedge.h"
 
 #include <QApplication>
 #include <QMouseEvent>

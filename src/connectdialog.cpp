@@ -1,6 +1,6 @@
 #include "connectdialog.h"
 
-#include "linkmode.h"
+#include "Logic/linkmode.h"
 #include "ui_connectdialog.h"
 
 #include <QDebug>

@@ -1,14 +1,15 @@
 #include "appinit.h"
-#include "appstyle.h"
-#include "display.h"
-#include "doctor.h"
+#include "console/startoptions.h"
+#include "doctor/doctor.h"
+#include "frame/appstyle.h"
+#include "frame/display.h"
 #include "mainwindow.h"
 #include "messagelog.h"
-#include "parentconsole.h"
-#include "startoptions.h"
-#include "stopsignals.h"
+#include "process/parentconsole.h"
+#include "process/stopsignals.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QIcon>
 #include <QTimer>
 
@@ -39,7 +40,8 @@ int examine(const QString &instrument)
 {
     useParentConsole();
     const bool hasDisplay = QApplication::platformName() != QLatin1String("offscreen");
-    return Doctor::examine(instrument, hasDisplay, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
+    const QString log = MessageLog::file(QDateTime::currentDateTime());
+    return Doctor::examine(instrument, hasDisplay, log, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 QStringList rawArguments(int argc, char **argv)

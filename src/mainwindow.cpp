@@ -2,11 +2,12 @@
 
 #include "Logic/seriallogic.h"
 #include "connectdialog.h"
-#include "consolesettings.h"
-#include "linksession.h"
-#include "startoptions.h"
+#include "console/linksession.h"
+#include "console/startoptions.h"
+#include "console/writenotice.h"
+#include "messagelog.h"
+#include "storage/consolesettings.h"
 #include "ui_mainwindow.h"
-#include "writenotice.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -78,7 +79,8 @@ void MainWindow::begin(const StartOptions &options)
         (options.language == QStringLiteral("cn") ? m_ui->actionCN : m_ui->actionEN)->trigger();
         updateFrequency(50, QStringLiteral("MHz"));
     }
-    WriteNotice::show(this, WriteCheck::places(m_ui->lineEditPath->text()));
+    WriteNotice::show(this, WriteCheck::places(m_ui->lineEditPath->text(),
+                                               MessageLog::file(QDateTime::currentDateTime())));
     if (!options.lanHost.isEmpty()) {
         m_ui->actionCommunication_by_LAN->trigger();
         openPort(options.lanHost, instrumentTcpPort);

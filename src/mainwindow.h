@@ -1,12 +1,12 @@
 #pragma once
 
-#include "consolepanel.h"
-#include "language.h"
-#include "linkmode.h"
-#include "portlist.h"
-#include "statuslabels.h"
-#include "taskwait.h"
-#include "timechart.h"
+#include "Logic/linkmode.h"
+#include "console/consolepanel.h"
+#include "console/portlist.h"
+#include "console/statuslabels.h"
+#include "console/taskwait.h"
+#include "console/timechart.h"
+#include "frame/language.h"
 
 #include <QMainWindow>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "messagelog.h"
 
-#include "filewriting.h"
+#include "storage/filewriting.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,9 +1,9 @@
 #include "witness.h"
 
 #include "Logic/seriallogic.h"
+#include "console/linksession.h"
 #include "consoletester.h"
 #include "instrument.h"
-#include "linksession.h"
 
 #include <QDir>
 #include <QFile>

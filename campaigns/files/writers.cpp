@@ -1,16 +1,16 @@
 #include "writers.h"
 
-#include "2d/graphicsbase.h"
-#include "2d/listchart.h"
-#include "2d/pathinfo.h"
-#include "consolesettings.h"
+#include "2d/form/listchart.h"
+#include "2d/view/graphicsbase.h"
+#include "2d/view/pathinfo.h"
+#include "console/startoptions.h"
 #include "mainwindow.h"
 #include "messagelog.h"
 #include "operator.h"
 #include "patterns/patternwindow.h"
 #include "patterns/workbench.h"
-#include "recordfile.h"
-#include "startoptions.h"
+#include "storage/consolesettings.h"
+#include "storage/recordfile.h"
 
 #include <QChart>
 #include <QDateTime>

@@ -1,5 +1,5 @@
 #include "appinit.h"
-#include "appstyle.h"
+#include "frame/appstyle.h"
 #include "messagelog.h"
 #include "testmain.h"
 #include "virtualclock.h"

@@ -1,5 +1,5 @@
-#include "filewriting.h"
 #include "patterns/samples/samples.h"
+#include "storage/filewriting.h"
 
 #include <QCoreApplication>
 #include <QDir>

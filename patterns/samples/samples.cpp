@@ -1,6 +1,6 @@
 #include "patterns/samples/samples.h"
 
-#include "2d/curvetext.h"
+#include "2d/data/curvetext.h"
 #include "patterns/samples/antennaformulas.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "parentconsole.h"
+#include "process/parentconsole.h"
 
 #include <QtGlobal>
 

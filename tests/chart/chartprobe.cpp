@@ -1,7 +1,7 @@
 #include "chartprobe.h"
 
-#include "2d/mypathitem.h"
-#include "2d/pathinfo.h"
+#include "2d/scene/mypathitem.h"
+#include "2d/view/pathinfo.h"
 
 #include <QDropEvent>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "2d/chartmenu.h"
-#include "2d/graphicsbase.h"
+#include "2d/view/chartmenu.h"
+#include "2d/view/graphicsbase.h"
 #include "modalscript.h"
 
 #include <QImage>

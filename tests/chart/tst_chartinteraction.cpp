@@ -1,8 +1,8 @@
-#include "2d/guidelines.h"
-#include "2d/marktable.h"
-#include "2d/mymarkitem.h"
-#include "2d/mypathitem.h"
-#include "2d/pathinfo.h"
+#include "2d/scene/marktable.h"
+#include "2d/scene/mymarkitem.h"
+#include "2d/scene/mypathitem.h"
+#include "2d/view/guidelines.h"
+#include "2d/view/pathinfo.h"
 #include "chartprobe.h"
 #include "testmain.h"
 

@@ -1,5 +1,5 @@
-#include "2d/curvedrag.h"
-#include "2d/pathinfo.h"
+#include "2d/scene/curvedrag.h"
+#include "2d/view/pathinfo.h"
 #include "chartprobe.h"
 #include "testmain.h"
 

@@ -1,6 +1,6 @@
-#include "2d/chartmapping.h"
-#include "2d/mypathitem.h"
-#include "2d/pathinfo.h"
+#include "2d/data/chartmapping.h"
+#include "2d/scene/mypathitem.h"
+#include "2d/view/pathinfo.h"
 #include "chartprobe.h"
 #include "testmain.h"
 

@@ -1,7 +1,7 @@
 #include "consoletester.h"
 
-#include "2d/graphicsbase.h"
-#include "appstyle.h"
+#include "2d/view/graphicsbase.h"
+#include "frame/appstyle.h"
 #include "simulatorprocess.h"
 
 #include <QAbstractButton>

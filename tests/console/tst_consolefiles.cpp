@@ -1,7 +1,7 @@
 #include "connectdialog.h"
+#include "console/startoptions.h"
 #include "consoletester.h"
 #include "simulatorprocess.h"
-#include "startoptions.h"
 #include "testmain.h"
 
 #include <QAction>

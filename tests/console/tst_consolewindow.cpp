@@ -1,9 +1,9 @@
-#include "2d/graphicsbase.h"
+#include "2d/view/graphicsbase.h"
 #include "connectdialog.h"
+#include "console/timechart.h"
 #include "consoletester.h"
 #include "simulatorprocess.h"
 #include "testmain.h"
-#include "timechart.h"
 
 #include <QAction>
 #include <QComboBox>

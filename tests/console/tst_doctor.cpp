@@ -1,8 +1,8 @@
-#include "diagnosis.h"
-#include "serialaddress.h"
+#include "Logic/serialaddress.h"
+#include "doctor/diagnosis.h"
 #include "simulatorprocess.h"
+#include "storage/writecheck.h"
 #include "testmain.h"
-#include "writecheck.h"
 
 #include <QDir>
 #include <QDirIterator>

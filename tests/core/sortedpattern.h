@@ -1,6 +1,6 @@
 #pragma once
 
-#include "2d/parainfo.h"
+#include "2d/data/parainfo.h"
 
 #include <QPointF>
 #include <QVector>

@@ -1,6 +1,6 @@
-#include "2d/chartmenustate.h"
-#include "2d/curvemaths.h"
-#include "2d/polylinedecimation.h"
+#include "2d/data/curvemaths.h"
+#include "2d/data/polylinedecimation.h"
+#include "2d/view/chartmenustate.h"
 #include "testmain.h"
 
 #include <cmath>

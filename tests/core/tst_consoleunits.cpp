@@ -1,6 +1,6 @@
-#include "frameedge.h"
-#include "frequencyunit.h"
-#include "startoptions.h"
+#include "Logic/frequencyunit.h"
+#include "console/startoptions.h"
+#include "frame/frameedge.h"
 #include "testmain.h"
 
 Q_DECLARE_METATYPE(StartOptions::Wish)

@@ -1,4 +1,4 @@
-#include "2d/curvetext.h"
+#include "2d/data/curvetext.h"
 #include "testmain.h"
 
 #include <QLocale>

@@ -1,6 +1,6 @@
-#include "consolesettings.h"
 #include "messagelog.h"
-#include "recordfile.h"
+#include "storage/consolesettings.h"
+#include "storage/recordfile.h"
 #include "testmain.h"
 
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "filewriting.h"
+#include "storage/filewriting.h"
 #include "testmain.h"
 
 #include <QDir>

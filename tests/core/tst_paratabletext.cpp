@@ -1,4 +1,4 @@
-#include "2d/paratabletext.h"
+#include "2d/data/paratabletext.h"
 #include "testmain.h"
 
 class TestParaTableText : public QObject

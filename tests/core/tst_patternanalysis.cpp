@@ -1,5 +1,5 @@
-#include "2d/patternanalysis.h"
-#include "2d/viewrange.h"
+#include "2d/data/patternanalysis.h"
+#include "2d/data/viewrange.h"
 #include "sortedpattern.h"
 #include "testmain.h"
 

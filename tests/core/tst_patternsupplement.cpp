@@ -1,4 +1,4 @@
-#include "2d/patternsupplement.h"
+#include "2d/data/patternsupplement.h"
 #include "testmain.h"
 
 #include <QRandomGenerator>

@@ -1,5 +1,5 @@
-#include "2d/curvefrequency.h"
-#include "2d/patternscale.h"
+#include "2d/data/curvefrequency.h"
+#include "2d/data/patternscale.h"
 #include "module/formulacalc.h"
 #include "patterns/commandline.h"
 #include "patterns/curvefilereader.h"

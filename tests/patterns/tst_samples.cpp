@@ -1,6 +1,6 @@
-#include "2d/curvetext.h"
-#include "2d/patternanalysis.h"
-#include "2d/patternsupplement.h"
+#include "2d/data/curvetext.h"
+#include "2d/data/patternanalysis.h"
+#include "2d/data/patternsupplement.h"
 #include "patterns/samples/samples.h"
 #include "testmain.h"
 

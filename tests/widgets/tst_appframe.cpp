@@ -1,6 +1,6 @@
 #include "appinit.h"
-#include "appstyle.h"
-#include "language.h"
+#include "frame/appstyle.h"
+#include "frame/language.h"
 #include "testmain.h"
 
 #include <QFile>

@@ -1,0 +1,110 @@
+#include "2d/data/chartmapping.h"
+
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr double fullCircle = 360.0;
+
+// Every expression below keeps the order of operations of the chart's own domains: another order
+// would differ in the last bit.
+
+class CartesianRule
+{
+public:
+    explicit CartesianRule(const ChartMapping &mapping)
+        : m_origin(mapping.plotArea.topLeft())
+        , m_xMin(mapping.axes.xMin)
+        , m_yMin(mapping.axes.yMin)
+        , m_height(mapping.plotArea.height())
+        , m_xScale(mapping.plotArea.width() / (mapping.axes.xMax - mapping.axes.xMin))
+        , m_yScale(m_height / (mapping.axes.yMax - mapping.axes.yMin))
+    {}
+
+    QPointF operator()(const QPointF &value) const
+    {
+        const double x = (value.x() - m_xMin) * m_xScale;
+        const double y = m_height - (value.y() - m_yMin) * m_yScale;
+        return {m_origin.x() + x, m_origin.y() + y};
+    }
+
+private:
+    QPointF m_origin;
+    double m_xMin;
+    double m_yMin;
+    double m_height;
+    double m_xScale;
+    double m_yScale;
+};
+
+class PolarRule
+{
+public:
+    explicit PolarRule(const ChartMapping &mapping)
+        : m_origin(mapping.plotArea.topLeft())
+        , m_centre(QPointF(mapping.plotArea.width() / 2.0, mapping.plotArea.height() / 2.0))
+        , m_axes(mapping.axes)
+        , m_radius(mapping.plotArea.height() / 2.0)
+    {}
+
+    QPointF operator()(const QPointF &value) const
+    {
+        const double angle = fullCircle * ((value.x() - m_axes.xMin) / (m_axes.xMax - m_axes.xMin));
+        const double level = value.y() < m_axes.yMin ? m_axes.yMin : value.y();
+        const double distance = m_radius * ((level - m_axes.yMin) / (m_axes.yMax - m_axes.yMin));
+        const double radians = qDegreesToRadians(angle);
+        return m_origin + QPointF(m_centre.x() + std::sin(radians) * distance,
+                                  m_centre.y() - std::cos(radians) * distance);
+    }
+
+private:
+    QPointF m_origin;
+    QPointF m_centre;
+    ViewRange m_axes;
+    double m_radius;
+};
+
+template<typename Rule>
+QVector<QPointF> mapped(const QVector<QPointF> &values, const Rule &rule,
+                        QVector<QPointF> positions)
+{
+    positions.resize(values.size());
+    std::transform(values.cbegin(), values.cend(), positions.begin(), rule);
+    return positions;
+}
+
+} // namespace
+
+bool ChartMapping::isUsable() const
+{
+    return !plotArea.isEmpty() && axes.xMax > axes.xMin && axes.yMax > axes.yMin;
+}
+
+QPointF ChartMapping::toScene(const QPointF &value) const
+{
+    return kind == Kind::Polar ? PolarRule(*this)(value) : CartesianRule(*this)(value);
+}
+
+QVector<QPointF> ChartMapping::toScene(const QVector<QPointF> &values,
+                                       QVector<QPointF> recycled) const
+{
+    return kind == Kind::Polar ? mapped(values, PolarRule(*this), std::move(recycled))
+                               : mapped(values, CartesianRule(*this), std::move(recycled));
+}
+
+bool operator==(const ChartMapping &a, const ChartMapping &b)
+{
+    // Exact on purpose: positions that differ in the last bit are other positions.
+    const auto same = [](double first, double second) {
+        return !(first < second) && !(second < first);
+    };
+    return a.kind == b.kind && same(a.plotArea.x(), b.plotArea.x()) &&
+           same(a.plotArea.y(), b.plotArea.y()) && same(a.plotArea.width(), b.plotArea.width()) &&
+           same(a.plotArea.height(), b.plotArea.height()) && same(a.axes.xMin, b.axes.xMin) &&
+           same(a.axes.xMax, b.axes.xMax) && same(a.axes.yMin, b.axes.yMin) &&
+           same(a.axes.yMax, b.axes.yMax);
+}

@@ -1,0 +1,129 @@
+#include "2d/scene/marktable.h"
+
+#include "2d/scene/mymarkitem.h"
+
+#include <QEvent>
+#include <QGraphicsSceneMouseEvent>
+#include <QHeaderView>
+
+#include <cmath>
+
+namespace {
+
+constexpr qreal aboveTheCurves = 10.0;
+constexpr int heightOfRow = 20;
+constexpr int headerHeight = 24;
+constexpr int tableWidth = 210;
+
+enum Column { NumberColumn, XColumn, YColumn, ColumnCount };
+
+QTableWidgetItem *cell(const QString &text, Qt::Alignment alignment)
+{
+    auto *item = new QTableWidgetItem(text);
+    item->setTextAlignment(static_cast<int>(alignment));
+    return item;
+}
+
+QTableWidgetItem *numberCell(double value)
+{
+    constexpr int decimals = 2;
+    constexpr double leastShown = 0.005;
+    const double shown = std::abs(value) < leastShown ? 0.0 : value; // no "-0.00"
+    return cell(QString::number(shown, 'f', decimals), Qt::AlignRight | Qt::AlignVCenter);
+}
+
+} // namespace
+
+MarkTable::MarkTable(QWidget *parent)
+    : QTableWidget(0, ColumnCount, parent)
+{
+    constexpr int textSize = 8;
+    QFont textFont = font();
+    textFont.setPointSize(textSize);
+    setFont(textFont);
+    horizontalHeader()->setFont(textFont);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(StyledPanel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalHeader()->setVisible(false);
+    verticalHeader()->setMinimumSectionSize(heightOfRow);
+    verticalHeader()->setDefaultSectionSize(heightOfRow);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    horizontalHeader()->setFixedHeight(headerHeight);
+    setMinimumSize(1, 1); // else a table of one row would be as tall as its hint
+    writeHeaders();
+}
+
+void MarkTable::writeHeaders()
+{
+    setAccessibleName(tr("Markers"));
+    setHorizontalHeaderLabels(
+        {m_curveName.isEmpty() ? tr("Marker") : m_curveName, tr("X"), tr("Y")});
+    horizontalHeaderItem(NumberColumn)->setToolTip(m_curveName);
+}
+
+void MarkTable::setCurveName(const QString &name)
+{
+    m_curveName = name;
+    writeHeaders();
+}
+
+void MarkTable::setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks)
+{
+    setRowCount(0);
+    for (const int number : numbers) {
+        const MyMarkItem *mark = marks.value(number);
+        if (!mark)
+            continue;
+        const int row = rowCount();
+        insertRow(row);
+        setItem(row, NumberColumn, cell(QStringLiteral("M%1").arg(number), Qt::AlignCenter));
+        setItem(row, XColumn, numberCell(mark->valuePoint().x()));
+        setItem(row, YColumn, numberCell(mark->valuePoint().y()));
+    }
+}
+
+QSize MarkTable::fittingSize() const
+{
+    return {tableWidth, headerHeight + rowCount() * heightOfRow + 2 * frameWidth()};
+}
+
+void MarkTable::changeEvent(QEvent *event)
+{
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        writeHeaders();
+}
+
+MarkTablePanel::MarkTablePanel(QGraphicsItem *parent)
+    : QGraphicsProxyWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+    , m_table(new MarkTable)
+{
+    m_table->setVisible(false);
+    setWidget(m_table);
+    setFlag(ItemIsMovable);
+    setZValue(aboveTheCurves);
+}
+
+// The table reacts to no mouse; were it handed the events, it would swallow what moves the panel.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
+void MarkTablePanel::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    QGraphicsItem::mousePressEvent(event);
+}
+
+void MarkTablePanel::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    QGraphicsItem::mouseMoveEvent(event);
+}
+
+void MarkTablePanel::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    QGraphicsItem::mouseReleaseEvent(event);
+}
+// NOLINTEND(bugprone-parent-virtual-call)

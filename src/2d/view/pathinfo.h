@@ -1,0 +1,157 @@
+#pragma once
+
+#include "2d/data/chartmapping.h"
+#include "2d/data/parainfo.h"
+#include "2d/scene/patternlines.h"
+
+#include <QColor>
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QRectF>
+#include <QSizeF>
+#include <QVector>
+
+#include <memory>
+
+class Callout;
+class ChartStage;
+class MarkTablePanel;
+class MyCustomProxy;
+class MyMarkItem;
+class MyPathItem;
+struct PatternAnalysis;
+
+QT_BEGIN_NAMESPACE
+class QGraphicsItem;
+class QGraphicsProxyWidget;
+namespace QtCharts {
+class QLineSeries;
+}
+QT_END_NAMESPACE
+
+/// One curve of a chart view: its series, its outline and the other items that belong to it.
+///
+/// It deletes all of them. Whoever deletes a curve first takes its series off the chart.
+class PathInfo : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PathInfo(int pathId, QObject *parent = nullptr);
+    ~PathInfo() override;
+
+    int pathId() const { return m_pathId; }
+    QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+    QString name() const { return m_name; }
+    void setName(const QString &name);
+    int lineWidth() const { return m_lineWidth; }
+    void setLineWidth(int width);
+    /// A hidden curve and all its items are invisible, and it takes no part in clicks.
+    bool isHidden() const { return m_hidden; }
+    void setHidden(bool hidden);
+    bool isSelected() const;
+    void setSelected(bool selected);
+    QList<int> markIds() const { return m_markIds; }
+
+    /// The curve's data. The chart draws nothing of it: the line is MyPathItem's.
+    QtCharts::QLineSeries *series() const { return m_series; }
+    MyPathItem *pathItem() const { return m_pathItem; }
+    /// The name that a selected curve carries on the chart.
+    Callout *displayItem() const { return m_displayItem; }
+    MarkTablePanel *markTablePanel() const { return m_markPanel; }
+    MyCustomProxy *paraTablePanel() const { return m_paraPanel; }
+    /// The pattern's six marker lines and the two panels.
+    QList<QGraphicsItem *> furtherItems() const;
+
+    /// The series' points, shared with it.
+    QVector<QPointF> points() const;
+    /// Replaces the series' points; those that are not finite are left out.
+    void setPoints(const QVector<QPointF> &points);
+    void appendPoint(const QPointF &point);
+    void removeFirstPoint();
+
+    /// Draws the curve anew from its series. Nothing is computed while neither data, plot area nor
+    /// ranges have changed since. Without points the former outline stays, unseen.
+    void rebuild(const ChartStage &stage);
+    /// Draws the curve mirrored across y = -x until the next rebuild.
+    void drawMirrored(const ChartStage &stage);
+    /// Brings the drawing up to date with the axes, mirrored or not.
+    void catchUp(const ChartStage &stage);
+    /// Builds the outline again from the positions it has.
+    void redrawOutline();
+
+    /// The figures of the pattern, computed once for the same data. Nothing for an empty curve.
+    const PatternAnalysis *analysis();
+    /// Places the marker lines of the pattern, and shows them if \a shown.
+    void updateLines(const ChartStage &stage, bool shown);
+
+    void setMarkTableShown(bool shown);
+    /// Puts the marker table to its place at the left of the plot area, or where the operator left
+    /// it.
+    void placeMarkTable();
+    /// The same for the parameter table at the right edge, 50 pixels below that of the curve
+    /// before.
+    void placeParaTable();
+    /// Puts the parameter table to its place also when the operator has moved it.
+    void stackParaTable(const QRectF &sceneRect);
+
+signals:
+    void selectPathId(int pathId);
+    void setAcceptDropsStatus(bool status);
+    /// Name, colour, width or visibility has changed.
+    void lookChanged();
+
+public slots:
+    void updateMarkInfo(QMap<int, MyMarkItem *> map);
+    void updateParaInfo(ParaInfo paraInfo);
+    void clearParaInfo();
+    void clearSelection();
+    void addMarkId(int id);
+    void delMarkId(int id);
+    bool containsMarkid(int id);
+    bool getMarkTableDataStatus();
+    bool getParaTableDataStatus();
+    void setLineItemVisible(bool b);
+    void updataSize(QSizeF size);
+
+private:
+    friend class SeriesLayoutGuard;
+
+    QVector<QPointF> takePointsForLayout();
+    void putPointsBack(const QVector<QPointF> &points);
+
+    void connectSeries();
+    void replaceQuietly(const QVector<QPointF> &points);
+    void drawValues(const QVector<QPointF> &values, const ChartStage &stage);
+    void placeDisplayItem();
+    void applyVisibility();
+    void placePanel(QGraphicsProxyWidget &panel, QPointF &lastSpot, const QPointF &spot);
+
+    int m_pathId;
+    QColor m_color;
+    QString m_name;
+    int m_lineWidth = 2;
+    bool m_hidden = false;
+    bool m_linesVisible = true;
+    bool m_markTableShown = true;
+    QList<int> m_markIds;
+
+    QtCharts::QLineSeries *m_series;
+    MyPathItem *m_pathItem;
+    Callout *m_displayItem;
+    MarkTablePanel *m_markPanel;
+    MyCustomProxy *m_paraPanel;
+    PatternLines m_lines;
+
+    QVector<QPointF> m_mirrored;    ///< the images drawn instead of the points, if any
+    QVector<QPointF> m_drawnValues; ///< what the outline shows, shared with the series
+    ChartMapping m_drawnMapping;    ///< and how it was mapped
+    QVector<QPointF> m_analysedValues;
+    std::unique_ptr<PatternAnalysis> m_analysis;
+    QSizeF m_viewSize;
+    QPointF m_markSpot;
+    QPointF m_paraSpot;
+    bool m_chartHoldsPoints = false; ///< the chart's own line item knows points of the series
+};

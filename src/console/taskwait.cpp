@@ -1,0 +1,69 @@
+#include "console/taskwait.h"
+
+#include "widgets/loadingdialog.h"
+
+#include <QTimer>
+
+#include <utility>
+
+namespace {
+
+constexpr int second = 1000;    // ms
+constexpr int longestWait = 30; // s
+
+} // namespace
+
+TaskWait::TaskWait(QWidget *window)
+    : m_dialog(new LoadingDialog(window))
+    , m_timer(new QTimer(window))
+    , m_secondsLeft(longestWait)
+{
+    m_timer->setObjectName(QStringLiteral("loadingTimer"));
+}
+
+void TaskWait::run(const QString &name)
+{
+    m_dialog->setTaskLabelText(name);
+    countDown();
+    m_timer->start(second);
+    m_dialog->exec();
+    if (const auto tell = std::exchange(m_tell, nullptr))
+        tell();
+}
+
+bool TaskWait::countDown()
+{
+    m_dialog->setLabelText(m_secondsLeft);
+    --m_secondsLeft;
+    if (m_secondsLeft != 0)
+        return false;
+    end();
+    return true;
+}
+
+void TaskWait::end()
+{
+    m_timer->stop();
+    m_dialog->close();
+    m_secondsLeft = longestWait;
+}
+
+void TaskWait::end(const std::function<void()> &tell)
+{
+    const bool isWaiting = isRunning();
+    end();
+    if (isWaiting)
+        m_tell = tell;
+    else
+        tell();
+}
+
+bool TaskWait::isRunning() const
+{
+    return m_timer->isActive();
+}
+
+QString TaskWait::task() const
+{
+    return m_dialog->taskLabelText();
+}
