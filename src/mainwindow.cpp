@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QScopedValueRollback>
@@ -93,6 +94,12 @@ void MainWindow::begin(const StartOptions &options)
 
 void MainWindow::connectLink()
 {
+    connect(m_link, &SerialLogic::busy, this, [](bool isBusy) {
+        if (isBusy)
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        else
+            QGuiApplication::restoreOverrideCursor();
+    });
     connect(m_link, &SerialLogic::errors, this, &MainWindow::errorMessageBox);
     connect(m_link, &SerialLogic::updateSetFailed, this, &MainWindow::errorMessageBox);
     connect(m_link, &SerialLogic::updateIDN, this, &MainWindow::updateIDN);

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -28,6 +30,53 @@ QString valueText(const QString &line, QLatin1String prefix)
     QString text = withoutNewlines(line);
     takePrefix(text, prefix);
     return text;
+}
+
+/// The finite number that \a text is.
+std::optional<double> number(const QString &text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+/// Whether \a value is what the instrument tells when it is asked for \a name.
+bool isValueOf(const QByteArray &name, QString value)
+{
+    if (name == "FREQ") {
+        for (const char *unit : {"GHz", "MHz", "KHz"}) {
+            if (value.endsWith(QLatin1String(unit), Qt::CaseInsensitive)) {
+                value.chop(3);
+                break;
+            }
+        }
+        return number(value).has_value();
+    }
+    if (name == "OFFS")
+        return number(value.remove(QLatin1String("dB"))).has_value();
+    if (name == "GET") {
+        const QStringList fields = value.split(QLatin1Char(','));
+        return fields.size() == 2 && number(QString(fields.first()).remove(QLatin1String("dBm")));
+    }
+    if (name == "AVER:COUN") {
+        bool isNumber = false;
+        value.toInt(&isNumber);
+        return isNumber;
+    }
+    const auto isOneOf = [&value](const char *one, const char *other) {
+        return value.compare(QLatin1String(one), Qt::CaseInsensitive) == 0 ||
+               value.compare(QLatin1String(other), Qt::CaseInsensitive) == 0;
+    };
+    if (name == "UNIT:POW")
+        return isOneOf("dBm", "W");
+    if (name == "REL")
+        return isOneOf("ON", "OFF");
+    return !value.trimmed().isEmpty();
+}
+
+bool isRefusal(const QString &line)
+{
+    return line.contains(QLatin1String("ERR")) || line.contains(QLatin1String("FAIL"));
 }
 
 } // namespace
@@ -88,7 +137,8 @@ Power power(const QString &line)
     QStringList fields = text.split(QLatin1Char(','));
     if (fields.size() != 2)
         return {};
-    return {fields.first().remove(QLatin1String("dBm")).toDouble(), fields.last()};
+    const std::optional<double> level = number(fields.first().remove(QLatin1String("dBm")));
+    return {level.value_or(Power().dbm), fields.last()};
 }
 
 TaskResult taskResult(const QString &line)
@@ -104,6 +154,25 @@ TaskResult taskResult(const QString &line)
         return line.contains(report.first);
     });
     return found == reports.end() ? TaskResult::None : found->second;
+}
+
+Outcome outcome(const QByteArray &command, const QString &line)
+{
+    const QByteArray text = command.trimmed();
+    if (text.endsWith('?')) {
+        const QByteArray name = text.mid(text.startsWith('*') ? 1 : 0).chopped(1);
+        QString value = line;
+        if (takePrefix(value, QLatin1String("RETURN:" + name + ' ')) && isValueOf(name, value))
+            return Outcome::Ok;
+        return isRefusal(line) ? Outcome::Refused : Outcome::Garbled;
+    }
+    const TaskResult result = taskResult(line);
+    const bool isOk = text == "CAL"        ? result == TaskResult::CalibrationSucceeded
+                      : text == "CAL:ZERO" ? result == TaskResult::ZeroSucceeded
+                                           : isConfirmed(line);
+    if (isOk)
+        return Outcome::Ok;
+    return isRefusal(line) ? Outcome::Refused : Outcome::Garbled;
 }
 
 } // namespace ReplyParser

@@ -3,14 +3,16 @@
 #include "Logic/commandtexts.h"
 #include "Logic/replyparser.h"
 
-#include <QCursor>
+#include <QDeadlineTimer>
 #include <QDebug>
-#include <QGuiApplication>
+#include <QEventLoop>
+#include <QScopeGuard>
 #include <QSerialPort>
 #include <QTcpSocket>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -20,37 +22,10 @@ constexpr int tcpMode = 1;
 constexpr int tcpSendAttempts = 3;
 constexpr int tolerableUnconfirmedWrites = 3;
 
-/// Shows the busy pointer for as long as it lives, in programs that have a pointer.
-class BusyPointer
-{
-public:
-    BusyPointer()
-    {
-        if (m_hasPointer)
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    }
-    ~BusyPointer()
-    {
-        if (m_hasPointer)
-            QGuiApplication::restoreOverrideCursor();
-    }
-    Q_DISABLE_COPY_MOVE(BusyPointer)
-
-private:
-    bool m_hasPointer = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
-};
-
-/// Calls \a wait with times in ms that add up to \a total until it is true. A wait that can be felt
-/// shows the busy pointer; the many short ones do not, lest it flickers with every reading.
-template<typename Wait>
-bool waitShowingBusy(int total, Wait wait)
-{
-    const int unfelt = std::min(total, 200);
-    if (wait(unfelt))
-        return true;
-    const BusyPointer busy;
-    return wait(total - unfelt);
-}
+// A wait that is shorter cannot be felt.
+constexpr int unfeltWait = 200; // ms
+// The longest part of a wait without a look at whether it is cancelled.
+constexpr int slice = 50; // ms
 
 } // namespace
 
@@ -66,7 +41,8 @@ SerialLogic::SerialLogic(QObject *parent)
     connect(m_port, &QSerialPort::readyRead, this, &SerialLogic::readDataSlot);
     connect(m_port, &QSerialPort::errorOccurred, this, &SerialLogic::closeLostPort);
     connect(m_socket, &QTcpSocket::readyRead, this, &SerialLogic::readDataSlot);
-    connect(m_socket, &QTcpSocket::disconnected, this, &SerialLogic::lost);
+    connect(m_socket, &QTcpSocket::disconnected, this, &SerialLogic::tellLoss);
+    qRegisterMetaType<Outcome>();
 }
 
 SerialLogic::~SerialLogic() = default;
@@ -119,8 +95,9 @@ bool SerialLogic::openTcp(const QString &host, int port)
                                 QAbstractSocket::AnyIPProtocol);
     };
     const auto waitUntilConnected = [this] {
-        const BusyPointer busy;
-        return m_socket->waitForConnected(m_waits.connecting);
+        emit busy(true);
+        const auto over = qScopeGuard([this] { emit busy(false); });
+        return waitForConnection();
     };
 
     startClean();
@@ -164,12 +141,19 @@ void SerialLogic::delayClose()
 void SerialLogic::closeLostPort()
 {
     // An adapter that was unplugged reads as a hung-up line, which is a read error on Linux. Its
-    // notifier would fire without end; the next command tells the operator.
+    // notifier would fire without end; the next command tells the user.
     const QSerialPort::SerialPortError error = m_port->error();
     const bool isLost = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
     if (!isLost || !m_port->isOpen())
         return;
     m_port->close();
+    tellLoss();
+}
+
+void SerialLogic::tellLoss()
+{
+    if (m_asyncReply && !m_task.isEmpty())
+        emit replied(std::exchange(m_task, {}), {}, Outcome::Link);
     emit lost();
 }
 
@@ -179,6 +163,8 @@ bool SerialLogic::sendCmd(const QByteArray &cmd)
     const uint shown = qstrnlen(cmd.constData(), uint(cmd.size()));
     emit displayLog(QString::fromLatin1(cmd.constData(), int(shown)));
 
+    if (m_dropsLateInput)
+        discardInput();
     const QIODevice *const device = openDevice();
     m_staleBytes = device ? device->bytesAvailable() : 0;
     switch (m_linkMode) {
@@ -198,9 +184,8 @@ bool SerialLogic::sendSerial(const QByteArray &cmd)
         return false;
     }
     m_port->write(cmd);
-    if (waitShowingBusy(m_waits.serialWriting, [this](int ms) {
-            return m_port->isOpen() && m_port->waitForBytesWritten(ms);
-        }))
+    if (waitTelling(m_waits.serialWriting,
+                    [this](int ms) { return m_port->isOpen() && m_port->waitForBytesWritten(ms); }))
         return true;
     emit errors(tr("Failed to send cmd."));
     return false;
@@ -215,7 +200,7 @@ bool SerialLogic::sendTcp(const QByteArray &cmd)
         if (m_socket->state() != QAbstractSocket::ConnectedState)
             continue;
         m_socket->write(cmd);
-        if (waitShowingBusy(m_waits.tcpWriting, [this](int ms) {
+        if (waitTelling(m_waits.tcpWriting, [this](int ms) {
                 return m_socket->state() == QAbstractSocket::ConnectedState &&
                        m_socket->waitForBytesWritten(ms);
             }))
@@ -228,6 +213,63 @@ bool SerialLogic::sendTcp(const QByteArray &cmd)
     }
     m_linkTimer->stop();
     emit errors(tr("Please connect first."));
+    return false;
+}
+
+bool SerialLogic::isUp() const
+{
+    return m_linkMode == serialMode ? m_port->isOpen()
+                                    : m_socket->state() == QAbstractSocket::ConnectedState;
+}
+
+bool SerialLogic::waitForConnection()
+{
+    if (!m_isCancelled)
+        return m_socket->waitForConnected(m_waits.connecting);
+    QEventLoop loop;
+    const QDeadlineTimer limit(m_waits.connecting);
+    QTimer tick;
+    const auto isOver = [this, &limit] {
+        const QAbstractSocket::SocketState state = m_socket->state();
+        return state == QAbstractSocket::ConnectedState ||
+               state == QAbstractSocket::UnconnectedState || limit.hasExpired() || m_isCancelled();
+    };
+    const auto look = [&] {
+        if (isOver())
+            loop.quit();
+    };
+    connect(&tick, &QTimer::timeout, &loop, look);
+    connect(m_socket, &QTcpSocket::stateChanged, &loop, look);
+    tick.start(slice);
+    if (!isOver())
+        loop.exec();
+    return m_socket->state() == QAbstractSocket::ConnectedState;
+}
+
+/// Calls \a wait with times in ms that add up to \a total until it is true. A wait that can be felt
+/// is told of; the many short ones are not, so that the pointer does not flicker with every
+/// reading.
+template<typename Wait>
+bool SerialLogic::waitTelling(int total, Wait wait)
+{
+    const int unfelt = std::min(total, unfeltWait);
+    if (waitInSlices(unfelt, wait))
+        return true;
+    emit busy(true);
+    const auto over = qScopeGuard([this] { emit busy(false); });
+    return waitInSlices(total - unfelt, wait);
+}
+
+template<typename Wait>
+bool SerialLogic::waitInSlices(int total, Wait wait)
+{
+    if (!m_isCancelled)
+        return wait(total);
+    const QDeadlineTimer limit(total);
+    while (isUp() && !m_isCancelled() && !limit.hasExpired()) {
+        if (wait(int(std::min<qint64>(slice, limit.remainingTime()))))
+            return true;
+    }
     return false;
 }
 
@@ -250,7 +292,7 @@ bool SerialLogic::waitForNewBytes()
     // brought the reply in already.
     if (device->bytesAvailable() > m_staleBytes)
         return true;
-    return waitShowingBusy(m_waits.reading, [device](int ms) {
+    return waitTelling(m_waits.reading, [device](int ms) {
         return device->isOpen() && device->waitForReadyRead(ms);
     });
 }
@@ -268,6 +310,7 @@ bool SerialLogic::dropOverlongLine()
         return false;
     qWarning() << "read data: no end of line, dropped" << m_buffer.text().size() << "characters";
     m_buffer.clear();
+    m_wasOverlong = true;
     return true;
 }
 
@@ -303,6 +346,8 @@ void SerialLogic::readDataSlot()
 
 void SerialLogic::reportTask(const QString &line)
 {
+    const QByteArray command = std::exchange(m_task, {});
+    emit replied(command, line, ReplyParser::outcome(command, line));
     switch (ReplyParser::taskResult(line)) {
     case ReplyParser::TaskResult::CalibrationSucceeded:
         emit updateCalibrationSuccess();
@@ -331,10 +376,18 @@ void SerialLogic::stopRead()
 
 std::optional<QString> SerialLogic::ask(const QByteArray &command)
 {
-    if (!sendCmd(command))
+    if (!sendCmd(command)) {
+        emit replied(command, {}, Outcome::Link);
         return std::nullopt;
+    }
     QString reply;
-    readData(reply);
+    m_wasOverlong = false;
+    Outcome outcome = Outcome::Garbled;
+    if (readData(reply))
+        outcome = ReplyParser::outcome(command, reply);
+    else if (!m_wasOverlong)
+        outcome = isUp() ? Outcome::Timeout : Outcome::Link;
+    emit replied(command, reply, outcome);
     return reply;
 }
 
@@ -447,8 +500,12 @@ void SerialLogic::startTask(const QByteArray &command)
     // A result must not be told from inside the wait for the write: a receiver that asks the user
     // something there keeps it waiting until the write counts as unconfirmed and goes out again. So
     // the flag stays down for as long as the command is being sent.
-    if (!sendCmd(command))
+    m_task.clear();
+    if (!sendCmd(command)) {
+        emit replied(command, {}, Outcome::Link);
         return;
+    }
+    m_task = command;
     m_asyncReply = true;
     // What came in meanwhile announces itself no more; it is told from the event loop, since who
     // started the task may not wait for the result yet.
@@ -465,6 +522,18 @@ void SerialLogic::discardInput()
         device->waitForReadyRead(0);
         takeInput();
     }
+}
+
+bool SerialLogic::dropInput(int ms)
+{
+    m_buffer.clear();
+    const bool came = !takeInput().isEmpty();
+    const bool comes = waitInSlices(ms, [this](int part) {
+        QIODevice *const device = openDevice();
+        return device && device->waitForReadyRead(part);
+    });
+    takeInput();
+    return came || comes;
 }
 
 void SerialLogic::readMesureData()

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "Logic/linebuffer.h"
+#include "Logic/outcome.h"
 
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 class QIODevice;
 class QSerialPort;
@@ -25,7 +28,7 @@ struct LinkWaits
 /// The one object through which the program talks to the instrument, over a serial port or over
 /// TCP.
 ///
-/// It lives on the GUI thread and blocks it while it waits; no operation throws. Every setter asks
+/// It lives in one thread and blocks it while it waits; no operation throws. Every setter asks
 /// the instrument for the value again once it was confirmed, so that the `update...` signals always
 /// carry what the instrument holds. A query whose command went out emits its signal in every case:
 /// with an empty text or a zero when no answer came. What concerns the user goes out through
@@ -38,7 +41,7 @@ public:
     explicit SerialLogic(QObject *parent = nullptr);
     ~SerialLogic() override;
 
-    /// Chooses the road to the instrument: 0 = serial port, 1 = TCP. Any other mode sends nothing.
+    /// Chooses the transport: 0 = serial port, 1 = TCP. Any other mode sends nothing.
     void setLinkMode(const int &mode);
 
     /// Opens the link: \a name is the port and \a value the baud rate in serial mode, the host and
@@ -62,8 +65,19 @@ public:
     /// Replaces the times to wait, for instruments and tests that need others.
     void setWaits(const LinkWaits &waits) { m_waits = waits; }
 
+    /// Lets every wait look at \a isCancelled some twenty times a second, and end as if its time
+    /// had run out once that is true. Only for a thread that nothing else lives in: connecting
+    /// then runs an event loop, since the socket's own wait cannot be cut short.
+    void setCancel(std::function<bool()> isCancelled) { m_isCancelled = std::move(isCancelled); }
+    /// Lets everything that came before a command was sent be dropped, so that it is not taken for
+    /// the reply.
+    void setDropsLateInput(bool drops) { m_dropsLateInput = drops; }
+    /// Waits \a ms for input and drops it together with all that was there already; false when
+    /// nothing came.
+    bool dropInput(int ms);
+
 public slots:
-    /// Closes both roads at once.
+    /// Closes both transports at once.
     void delayClose();
     /// Does nothing: the pace of the readings belongs to the console.
     void startRead();
@@ -106,6 +120,12 @@ signals:
     void lost();
     /// A line for the on-screen log.
     void displayLog(QString log);
+    /// A wait that can be felt begins (true) or ends (false); the program does not react meanwhile.
+    void busy(bool isBusy);
+    /// What became of \a command, before the signal with its value. \a line is the reply without
+    /// its newline, empty when none came. A setting that is confirmed is followed by the query for
+    /// the value, zeroing and calibration tell when their result has come.
+    void replied(QByteArray command, QString line, Outcome outcome);
 
     void updateIDN(QString idn);
     /// \a value in \a unit ("GHz", "MHz", "KHz"); no unit when the answer carried none.
@@ -138,6 +158,7 @@ private:
     bool openTcp(const QString &host, int port);
     void startClean();
     void closeLostPort();
+    void tellLoss();
 
     QIODevice *openDevice() const;
     bool sendSerial(const QByteArray &cmd);
@@ -145,6 +166,12 @@ private:
     bool waitForNewBytes();
     QByteArray takeInput();
     bool dropOverlongLine();
+    bool isUp() const;
+    bool waitForConnection();
+    template<typename Wait>
+    bool waitTelling(int total, Wait wait);
+    template<typename Wait>
+    bool waitInSlices(int total, Wait wait);
 
     std::optional<QString> ask(const QByteArray &command);
     bool confirm(const QByteArray &command);
@@ -163,5 +190,9 @@ private:
 
     QTimer *m_closeTimer;
     qint64 m_staleBytes = 0; // those that no read had taken when the last command was sent
+    QByteArray m_task;       // the command whose result is awaited
+    bool m_wasOverlong = false;
+    bool m_dropsLateInput = false;
+    std::function<bool()> m_isCancelled;
     LinkWaits m_waits;
 };

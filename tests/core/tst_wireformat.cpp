@@ -43,6 +43,7 @@ private slots:
     void power();
     void otherValues();
     void taskResult();
+    void outcome();
 };
 
 void TestWireFormat::commandsCarryTheirValue()
@@ -137,7 +138,12 @@ void TestWireFormat::power()
     QCOMPARE(read("RETURN:GET -20.00dBm,10.00µW\n"), line("-20|10.00µW"));
     QCOMPARE(read("RETURN:GET 3.5,3.50dBm"), line("3.5|3.50dBm"));
     QCOMPARE(read("RETURN:GET -20.00dBm,"), line("-20|"));
-    QCOMPARE(read("RETURN:GET -2\xFF.0dBm,1uW"), line("0|1uW"));
+    // A field that is no number is no reading, but says why.
+    QCOMPARE(read("RETURN:GET -2\xFF.0dBm,1uW"), line("100|1uW"));
+    QCOMPARE(read("RETURN:GET OVERLOAD,OVERLOAD"), line("100|OVERLOAD"));
+    QCOMPARE(read("RETURN:GET nan,---"), line("100|---"));
+    QCOMPARE(read("RETURN:GET -infdBm,0W"), line("100|0W"));
+    QCOMPARE(read("RETURN:GET ,1uW"), line("100|1uW"));
     // No reading: one field, three, another prefix.
     QCOMPARE(read("RETURN:GET -20.00dBm"), line("100|"));
     QCOMPARE(read("RETURN:GET -20.RETURN:GET -21.00dBm,10.00uW"), line("100|"));
@@ -181,6 +187,31 @@ void TestWireFormat::taskResult()
     QCOMPARE(result("RETURN:CAL:ZERO:FAIL RETURN:CAL:ZERO:OK"), TaskResult::ZeroSucceeded);
     QCOMPARE(result("return:cal:ok"), TaskResult::None);
     QCOMPARE(result("RETURN:CAL:ZERO:"), TaskResult::None);
+}
+
+void TestWireFormat::outcome()
+{
+    const auto outcomes = [](const QByteArray &command, const QList<QByteArray> &replies) {
+        QByteArray letters;
+        for (const QByteArray &reply : replies)
+            letters += "OTGRL"[int(ReplyParser::outcome(command + '\n', QString::fromUtf8(reply)))];
+        return letters;
+    };
+    const QByteArray error = "RETURN:ERR -222,Data out of range";
+    QCOMPARE(outcomes("OFFS 1.00", {"RETURN:OK", error, "RETURN:OFFS 1.00dB"}), "ORG");
+    QCOMPARE(outcomes("OFFS?", {"RETURN:OFFS 1.00dB", error, "RETURN:OFFS -", "RETURN:REL ON", ""}),
+             "ORGGG");
+    QCOMPARE(outcomes("GET?", {"RETURN:GET -2dBm,1uW", "RETURN:GET OVERLOAD,OVERLOAD",
+                               "RETURN:GET -2dBm", "RETURN:GET nan,1uW", "-2dBm,1uW"}),
+             "OGGGG");
+    QCOMPARE(outcomes("FREQ?", {"RETURN:FREQ 2.45GHz", "RETURN:FREQ 2.45", "RETURN:FREQ 2?5GHz"}),
+             "OOG");
+    QCOMPARE(outcomes("*IDN?", {"RETURN:IDN MZ6218", "RETURN:IDN ", "MZ6218"}), "OGG");
+    QCOMPARE(outcomes("REL?", {"RETURN:REL OFF", "RETURN:REL 0?"}), "OG");
+    QCOMPARE(outcomes("UNIT:POW?", {"RETURN:UNIT:POW DBM", "RETURN:UNIT:POW V"}), "OG");
+    QCOMPARE(outcomes("AVER:COUN?", {"RETURN:AVER:COUN 16", "RETURN:AVER:COUN 1.5"}), "OG");
+    QCOMPARE(outcomes("CAL", {"RETURN:CAL:OK", "RETURN:CAL:FAIL", "RETURN:CAL:ZERO:OK"}), "ORG");
+    QCOMPARE(outcomes("CAL:ZERO", {"RETURN:CAL:ZERO:OK", "RETURN:CAL:ZERO:FAIL"}), "OR");
 }
 
 MZ_TEST_GUILESS_MAIN(TestWireFormat)
