@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linkmode.h"
+#include "Logic/linkmode.h"
 
 #include <QString>
 
