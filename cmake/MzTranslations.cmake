@@ -30,7 +30,8 @@ function(mz_check_translations)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS
         "${CMAKE_SOURCE_DIR}/src/*.cpp" "${CMAKE_SOURCE_DIR}/src/*.h" "${CMAKE_SOURCE_DIR}/src/*.ui"
         "${CMAKE_SOURCE_DIR}/patterns/*.cpp" "${CMAKE_SOURCE_DIR}/patterns/*.h"
-        "${CMAKE_SOURCE_DIR}/patterns/*.ui")
+        "${CMAKE_SOURCE_DIR}/patterns/*.ui"
+        "${CMAKE_SOURCE_DIR}/sweep/*.cpp" "${CMAKE_SOURCE_DIR}/sweep/*.h")
     set(script "${CMAKE_SOURCE_DIR}/scripts/translations.py")
     set(stamp "${CMAKE_CURRENT_BINARY_DIR}/translations-complete")
     add_custom_command(OUTPUT "${stamp}"

@@ -22,7 +22,7 @@ ROOT = Path(__file__).resolve().parent.parent
 FOLDER = ROOT / "src" / "resources" / "translations"
 LANGUAGES = {"lx_cn.ts": "zh_CN", "lx_en.ts": "en"}
 # The simulator is a command-line program for developers and speaks English only.
-SOURCES = ["src", "patterns"]
+SOURCES = ["src", "patterns", "sweep"]
 
 
 def extract(lupdate, target, language, keep_unused):

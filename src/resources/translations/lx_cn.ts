@@ -1469,6 +1469,37 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>PlanText</name>
+    <message>
+        <source>An angle is no number.</source>
+        <translation>有一个角度不是数字。</translation>
+    </message>
+    <message>
+        <source>The step must be above 0 degrees.</source>
+        <translation>步长必须大于 0 度。</translation>
+    </message>
+    <message>
+        <source>The sense is 1 or -1.</source>
+        <translation>方向只能是 1 或 -1。</translation>
+    </message>
+    <message>
+        <source>The sweep spans more than one turn.</source>
+        <translation>扫描范围超过一整圈。</translation>
+    </message>
+    <message>
+        <source>The sweep has too many points.</source>
+        <translation>扫描点数太多。</translation>
+    </message>
+    <message>
+        <source>The table does not reach all angles; it turns from %1 to %2 degrees.</source>
+        <translation>转台无法到达所有角度；其转动范围为 %1 至 %2 度。</translation>
+    </message>
+    <message>
+        <source>The table does not reach all angles.</source>
+        <translation>转台无法到达所有角度。</translation>
+    </message>
+</context>
+<context>
     <name>PointTableModel</name>
     <message>
         <source>Angle [°]</source>
@@ -1524,6 +1555,25 @@ correction</source>
     <message>
         <source>Supplementary (textbook definitions)</source>
         <translation>补充参数（按教科书定义）</translation>
+    </message>
+</context>
+<context>
+    <name>RotatorClient</name>
+    <message>
+        <source>The rotator&apos;s reply is none.</source>
+        <translation>转台控制器的应答无法识别。</translation>
+    </message>
+    <message>
+        <source>The rotator does not tell its position (error %1).</source>
+        <translation>转台没有报告位置（错误 %1）。</translation>
+    </message>
+    <message>
+        <source>The rotator cannot be reached.</source>
+        <translation>无法连接转台。</translation>
+    </message>
+    <message>
+        <source>The rotator does not answer.</source>
+        <translation>转台没有应答。</translation>
     </message>
 </context>
 <context>

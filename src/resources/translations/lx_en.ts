@@ -1469,6 +1469,37 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>PlanText</name>
+    <message>
+        <source>An angle is no number.</source>
+        <translation>An angle is no number.</translation>
+    </message>
+    <message>
+        <source>The step must be above 0 degrees.</source>
+        <translation>The step must be above 0 degrees.</translation>
+    </message>
+    <message>
+        <source>The sense is 1 or -1.</source>
+        <translation>The sense is 1 or -1.</translation>
+    </message>
+    <message>
+        <source>The sweep spans more than one turn.</source>
+        <translation>The sweep spans more than one turn.</translation>
+    </message>
+    <message>
+        <source>The sweep has too many points.</source>
+        <translation>The sweep has too many points.</translation>
+    </message>
+    <message>
+        <source>The table does not reach all angles; it turns from %1 to %2 degrees.</source>
+        <translation>The table does not reach all angles; it turns from %1 to %2 degrees.</translation>
+    </message>
+    <message>
+        <source>The table does not reach all angles.</source>
+        <translation>The table does not reach all angles.</translation>
+    </message>
+</context>
+<context>
     <name>PointTableModel</name>
     <message>
         <source>Angle [°]</source>
@@ -1524,6 +1555,25 @@ correction</translation>
     <message>
         <source>Supplementary (textbook definitions)</source>
         <translation>Supplementary (textbook definitions)</translation>
+    </message>
+</context>
+<context>
+    <name>RotatorClient</name>
+    <message>
+        <source>The rotator&apos;s reply is none.</source>
+        <translation>The rotator&apos;s reply is none.</translation>
+    </message>
+    <message>
+        <source>The rotator does not tell its position (error %1).</source>
+        <translation>The rotator does not tell its position (error %1).</translation>
+    </message>
+    <message>
+        <source>The rotator cannot be reached.</source>
+        <translation>The rotator cannot be reached.</translation>
+    </message>
+    <message>
+        <source>The rotator does not answer.</source>
+        <translation>The rotator does not answer.</translation>
     </message>
 </context>
 <context>
