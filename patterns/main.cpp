@@ -1,6 +1,7 @@
 #include "frame/appstyle.h"
 #include "frame/display.h"
 #include "patterns/commandline.h"
+#include "patterns/openactions.h"
 #include "patterns/patternwindow.h"
 #include "patterns/workbench.h"
 #include "process/parentconsole.h"
@@ -61,6 +62,6 @@ int main(int argc, char **argv)
     Workbench workbench;
     if (!line.language.isEmpty())
         workbench.useLanguage(line.language);
-    workbench.openWindow()->openFiles(line.files);
+    workbench.openWindow()->opening().openFiles(line.files);
     return QApplication::exec();
 }

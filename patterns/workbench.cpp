@@ -6,7 +6,7 @@
 #include <QStandardPaths>
 
 Workbench::Workbench(const QString &settingsFile, QObject *parent)
-    : QObject(parent)
+    : WindowContext(parent)
     , m_settings(settingsFile)
     , m_recentFiles(m_settings.recentFiles())
 {

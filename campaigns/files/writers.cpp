@@ -8,6 +8,7 @@
 #include "messagelog.h"
 #include "operator.h"
 #include "patterns/patternwindow.h"
+#include "patterns/saveactions.h"
 #include "patterns/workbench.h"
 #include "storage/consolesettings.h"
 #include "storage/recordfile.h"
@@ -109,7 +110,7 @@ Writer::Act exportBy(const char *slot, const char *file)
 }
 
 /// The workbench, which is told the name of the file.
-Writer::Act saveBy(bool (PatternWindow::*save)(const QString &), const char *file)
+Writer::Act saveBy(bool (SaveActions::*save)(const QString &), const char *file)
 {
     return [save, file](int round, const Begin &begin) {
         Workbench workbench(QDir::tempPath() + QStringLiteral("/workbench-of-a-save.json"));
@@ -120,7 +121,7 @@ Writer::Act saveBy(bool (PatternWindow::*save)(const QString &), const char *fil
         curves.select(window.form().addCurve(QStringLiteral("F%1").arg(round), curve(round)));
         const Operator theOperator;
         begin();
-        (window.*save)(QDir::current().filePath(QString::fromLatin1(file)));
+        (window.saving().*save)(QDir::current().filePath(QString::fromLatin1(file)));
     };
 }
 
@@ -205,7 +206,7 @@ QVector<Writer> exports()
     const QString noSave = QStringLiteral("box: The file could not be written");
     const auto data = exportBy("exportGraphicsDataSlot", "curve.csv");
     const auto picture = exportBy("exportGraphicsImageSlot", "chart.png");
-    const auto saved = [&noSave](const char *name, bool (PatternWindow::*save)(const QString &),
+    const auto saved = [&noSave](const char *name, bool (SaveActions::*save)(const QString &),
                                  const char *file) {
         return slow(writer(name, {whole(file)}, noSave, saveBy(save, file)));
     };
@@ -213,10 +214,10 @@ QVector<Writer> exports()
         fromNothing(slow(writer("chart: curve, new", {whole("curve.csv")}, noExport, data))),
         slow(writer("chart: curve, replaced", {whole("curve.csv")}, noExport, data)),
         slow(writer("chart: picture", {whole("chart.png")}, noPicture, picture)),
-        saved("workbench: curve", &PatternWindow::saveCurve, "curve.csv"),
-        saved("workbench: picture", &PatternWindow::savePicture, "chart.png"),
-        saved("workbench: report", &PatternWindow::saveReport, "report.html"),
-        saved("workbench: PDF report", &PatternWindow::saveReport, "report.pdf"),
+        saved("workbench: curve", &SaveActions::saveCurve, "curve.csv"),
+        saved("workbench: picture", &SaveActions::savePicture, "chart.png"),
+        saved("workbench: report", &SaveActions::saveReport, "report.html"),
+        saved("workbench: PDF report", &SaveActions::saveReport, "report.pdf"),
     };
 }
 

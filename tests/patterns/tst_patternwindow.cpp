@@ -3,7 +3,10 @@
 #include "2d/view/pathinfo.h"
 #include "chartprobe.h"
 #include "patterns/curveimport.h"
+#include "patterns/lossactions.h"
+#include "patterns/openactions.h"
 #include "patterns/patternwindow.h"
+#include "patterns/saveactions.h"
 #include "patterns/workbench.h"
 #include "testmain.h"
 
@@ -103,15 +106,19 @@ void TestPatternWindow::init()
 
 void TestPatternWindow::cleanup()
 {
-    QApplication::closeAllWindows();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // Not closed: that would ask about curves that no file holds.
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    QVector<PatternWindow *> ours;
+    for (QWidget *window : windows)
+        ours.append(qobject_cast<PatternWindow *>(window));
+    qDeleteAll(ours);
     m_workbench.reset();
 }
 
 void TestPatternWindow::samplesFillChartsAndTables()
 {
     const ModalScript noMessage({});
-    m_window->openFiles(
+    m_window->opening().openFiles(
         {sample("dipole.csv"), sample("patch.csv"), sample("horn.csv"), sample("array.csv")});
     QVERIFY(noMessage.isDone());
     QCOMPARE(curves().ids().size(), 4);
@@ -128,12 +135,12 @@ void TestPatternWindow::samplesFillChartsAndTables()
 
 void TestPatternWindow::badFilesAreToldTogether()
 {
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     const QVector<QPointF> before = curves().points(1);
     const QStringList files{write("empty.csv", ""), m_folder->path(),
                             write("inf.csv", "T\nN\nAngle,Power\n0,inf\n"),
                             write("nameless.csv", "T\n\nAngle,Power\n0,1\n")};
-    const QString message = told([&] { m_window->openFiles(files); });
+    const QString message = told([&] { m_window->opening().openFiles(files); });
     for (const char *part : {"empty.csv", "folder", "inf.csv", "no point"})
         QVERIFY2(message.contains(text(part)), qPrintable(message));
     QCOMPARE(names(m_window->form().polarChart()).count(QLatin1Char('|')), 2);
@@ -142,7 +149,7 @@ void TestPatternWindow::badFilesAreToldTogether()
 
 void TestPatternWindow::cancelLeavesTheChartsAsTheyWere()
 {
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     QByteArray bytes = QByteArrayLiteral("T\nLong\nAngle,Power\n");
     for (int i = 0; i < 600000; ++i)
         bytes += QByteArray::number(i) + ",-12.25\n";
@@ -160,29 +167,29 @@ void TestPatternWindow::cancelLeavesTheChartsAsTheyWere()
     QVERIFY(cancelled.opened.isEmpty());
     QCOMPARE(curves().ids(), QList<int>({1}));
     canceller.stop();
-    m_window->openFiles({longFile});
+    m_window->opening().openFiles({longFile});
     QCOMPARE(curves().points(2).size(), 600000);
 }
 
 void TestPatternWindow::curveComesBackFromItsFile()
 {
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     curves().select(1);
-    QVERIFY(m_window->saveCurve(file("again.csv")));
+    QVERIFY(m_window->saving().saveCurve(file("again.csv")));
     QCOMPARE(contentOf(file("again.csv")), contentOf(sample("horn.csv")));
     const QString place = file("no such folder/x.png");
-    const QString message = told([&] { QVERIFY(!m_window->saveCurve(place)); });
+    const QString message = told([&] { QVERIFY(!m_window->saving().saveCurve(place)); });
     QVERIFY2(message.contains(QDir::toNativeSeparators(place)), qPrintable(message));
-    QCOMPARE(told([&] { QVERIFY(!m_window->savePicture(place)); }), message);
-    QCOMPARE(told([&] { QVERIFY(!m_window->saveReport(place)); }), message);
+    QCOMPARE(told([&] { QVERIFY(!m_window->saving().savePicture(place)); }), message);
+    QCOMPARE(told([&] { QVERIFY(!m_window->saving().saveReport(place)); }), message);
 }
 
 void TestPatternWindow::picturesShowBothCharts()
 {
-    m_window->openFiles({sample("horn.csv"), sample("patch.csv")});
+    m_window->opening().openFiles({sample("horn.csv"), sample("patch.csv")});
     for (const auto &[name, start] :
          {std::pair("x.png", "\x89PNG"), std::pair("x.JPG", "\xff\xd8\xff")}) {
-        QVERIFY(m_window->savePicture(file(name)));
+        QVERIFY(m_window->saving().savePicture(file(name)));
         QVERIFY(contentOf(file(name)).startsWith(start));
         const QImage image(file(name));
         const QRect left(0, 0, image.width() / 3, image.height());
@@ -194,10 +201,10 @@ void TestPatternWindow::picturesShowBothCharts()
 
 void TestPatternWindow::reportsHoldThePicture()
 {
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     for (const auto &[name, start] :
          {std::pair("x.html", "<!DOCTYPE html>"), std::pair("x.pdf", "%PDF-")}) {
-        QVERIFY(m_window->saveReport(file(name)));
+        QVERIFY(m_window->saving().saveReport(file(name)));
         QVERIFY(contentOf(file(name)).startsWith(start));
         QVERIFY(QFileInfo(file(name)).size() > 20000);
     }
@@ -205,9 +212,9 @@ void TestPatternWindow::reportsHoldThePicture()
 
 void TestPatternWindow::lossIsAddedToACopy()
 {
-    m_window->openFiles({sample("patch.csv"), sample("horn.csv")});
+    m_window->opening().openFiles({sample("patch.csv"), sample("horn.csv")});
     const QVector<QPointF> original = curves().points(1);
-    QVERIFY(m_window->loadLossTable(sample("loss-table.csv")));
+    QVERIFY(m_window->losses().loadTable(sample("loss-table.csv")));
     curves().select(1);
     action("actionApplyUplink").trigger();
     curves().select(2);
@@ -226,8 +233,8 @@ void TestPatternWindow::lossIsAddedToACopy()
 
 void TestPatternWindow::lossNeedsAFrequency()
 {
-    QVERIFY(m_window->loadLossTable(sample("loss-table.csv")));
-    const QString bad = told([&] { QVERIFY(!m_window->loadLossTable(sample("horn.csv"))); });
+    QVERIFY(m_window->losses().loadTable(sample("loss-table.csv")));
+    const QString bad = told([&] { QVERIFY(!m_window->losses().loadTable(sample("horn.csv"))); });
     QVERIFY2(bad.contains(text("horn.csv")), qPrintable(bad));
     m_window->form().addCurve(text("unknown"), {{0, 1}, {1, 2}});
     curves().select(1);
@@ -241,7 +248,7 @@ void TestPatternWindow::windowsShareRecentFiles()
     const PatternWindow *other = m_workbench->openWindow();
     auto *menu = other->findChild<QMenu *>(text("menuRecent"));
     QVERIFY(!menu->isEnabled());
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     QVERIFY(menu->isEnabled());
     menu->actions().first()->trigger();
     QCOMPARE(other->form().curves().ids().size(), 1);
@@ -255,7 +262,7 @@ void TestPatternWindow::actionsFollowTheSelection()
         QCOMPARE(action("actionSaveCurve").isEnabled(), curve);
     };
     verifyEnabled(false, false);
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     verifyEnabled(true, false);
     curves().select(1);
     verifyEnabled(true, true);
@@ -266,7 +273,7 @@ void TestPatternWindow::actionsFollowTheSelection()
 
 void TestPatternWindow::viewActionsReachBothCharts()
 {
-    m_window->openFiles({sample("horn.csv")});
+    m_window->opening().openFiles({sample("horn.csv")});
     for (const GraphicsBase *view :
          {&m_window->form().polarChart(), &m_window->form().cartesianChart()}) {
         const MyPathItem *item = view->paths().value(1)->pathItem();
@@ -283,7 +290,7 @@ void TestPatternWindow::viewActionsReachBothCharts()
 void TestPatternWindow::closedWindowIsGone()
 {
     const QPointer<PatternWindow> other = m_workbench->openWindow();
-    other->openFiles({sample("horn.csv")});
+    other->opening().openFiles({sample("horn.csv")});
     other->close();
     QTRY_VERIFY(other.isNull());
     m_workbench->setLanguage(text("cn"));

@@ -8,6 +8,13 @@
 
 #include <algorithm>
 
+bool operator==(const CurveRecord &a, const CurveRecord &b)
+{
+    return a.file == b.file && a.title == b.title && a.frequency == b.frequency &&
+           a.material == b.material && a.correction == b.correction &&
+           a.extrapolated == b.extrapolated && a.notes == b.notes && a.isSaved == b.isSaved;
+}
+
 CurveSet::CurveSet(GraphicsBase &polar, GraphicsBase &cartesian, QObject *parent)
     : QObject(parent)
     , m_polar(polar)
@@ -62,6 +69,14 @@ bool CurveSet::hasName(const QString &name) const
                        [&name](const PathInfo *path) { return path->name() == name; });
 }
 
+QString CurveSet::freeName(const QString &name) const
+{
+    QString free = name;
+    for (int number = 2; hasName(free); ++number)
+        free = QStringLiteral("%1 (%2)").arg(name).arg(number);
+    return free;
+}
+
 int CurveSet::add(const QString &name, const QVector<QPointF> &points, const CurveRecord &record)
 {
     int id = 0;
@@ -69,9 +84,56 @@ int CurveSet::add(const QString &name, const QVector<QPointF> &points, const Cur
         const QScopedValueRollback<bool> ours(m_following, true);
         id = m_polar.addCurve(name, points)->pathId();
         m_records.insert(id, record);
+        m_keys.insert(id, ++m_lastKey);
     }
     follow(m_polar, m_cartesian);
     return id;
+}
+
+void CurveSet::setPoints(int id, const QVector<QPointF> &points)
+{
+    for (GraphicsBase *view : {&m_polar, &m_cartesian}) {
+        if (PathInfo *curve = view->paths().value(id)) {
+            curve->setPoints(points);
+            view->rebuildPath(id);
+        }
+    }
+    emit changed();
+}
+
+CurveState CurveSet::state(int id) const
+{
+    const PathInfo *curve = path(id);
+    if (curve == nullptr)
+        return {};
+    return {m_keys.value(id), curve->look(), curve->points(), record(id)};
+}
+
+int CurveSet::idOf(int key) const
+{
+    return m_keys.key(key);
+}
+
+void CurveSet::restore(const CurveState &state)
+{
+    CurveLook look = state.look;
+    int id = idOf(state.key);
+    if (id == 0 || name(id) != look.name)
+        look.name = freeName(look.name);
+    if (id != 0)
+        look.hidden = isHidden(id);
+    {
+        const QScopedValueRollback<bool> ours(m_following, true);
+        const bool isNew = id == 0;
+        for (GraphicsBase *view : {&m_polar, &m_cartesian}) {
+            if (isNew)
+                id = view->addCurve(look.name, state.points)->pathId();
+            view->paths().value(id)->setLook(look);
+        }
+        m_keys.insert(id, state.key);
+        m_records.insert(id, state.record);
+    }
+    emit changed();
 }
 
 void CurveSet::remove(int id)
@@ -135,6 +197,7 @@ void CurveSet::follow(GraphicsBase &leader, GraphicsBase &follower)
             if (!leader.paths().contains(id)) {
                 follower.clearChart(id);
                 m_records.remove(id);
+                m_keys.remove(id);
             }
         }
         const QMap<int, PathInfo *> &curves = leader.paths();
@@ -155,16 +218,13 @@ void CurveSet::followCurve(const PathInfo &curve, GraphicsBase &follower)
     if (!m_records.contains(id)) {
         CurveRecord record;
         record.frequency = frequencyInName(curve.name());
+        record.isSaved = false;
         m_records.insert(id, record);
+        m_keys.insert(id, ++m_lastKey);
     }
-    if (twin->name() != curve.name())
-        twin->setName(curve.name());
-    if (twin->color() != curve.color())
-        twin->setColor(curve.color());
-    if (twin->lineWidth() != curve.lineWidth())
-        twin->setLineWidth(curve.lineWidth());
-    if (twin->isHidden() != curve.isHidden())
-        twin->setHidden(curve.isHidden());
+    if (twin->look().name != curve.name())
+        m_records[id].isSaved = false;
+    twin->setLook(curve.look());
 }
 
 void CurveSet::followSelection(GraphicsBase &leader)

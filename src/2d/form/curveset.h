@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QColor>
+#include "2d/view/curvelook.h"
+
 #include <QMap>
 #include <QObject>
 #include <QPointF>
+#include <QStringList>
 #include <QVector>
 
 class GraphicsBase;
@@ -15,9 +17,28 @@ struct CurveRecord
     QString file;              ///< where it was read from; empty: pasted or dropped
     QString title;             ///< title of the chart it was exported from
     QString frequency;         ///< MHz as text; empty: unknown
-    QString material;          ///< of the antenna or its cover, as the operator names it
+    QString material;          ///< of the antenna or its cover, as the user names it
     QString correction;        ///< what was added to the levels; empty: nothing
     bool extrapolated = false; ///< the correction was taken from beyond its table
+    /// What else is known, a sentence each: what its file says of maker, model or polarisation,
+    /// how it was computed. Shown in the curve's tool tip and in the report.
+    QStringList notes;
+    bool isSaved = true; ///< a file holds the curve as it is
+};
+
+bool operator==(const CurveRecord &a, const CurveRecord &b);
+inline bool operator!=(const CurveRecord &a, const CurveRecord &b)
+{
+    return !(a == b);
+}
+
+/// All of one curve, to be put back later.
+struct CurveState
+{
+    int key = 0; ///< a number that no other curve ever had, unlike the curves' own
+    CurveLook look;
+    QVector<QPointF> points; ///< shared with the chart
+    CurveRecord record;
 };
 
 /// The curves of a polar and a cartesian chart view that always show the same ones.
@@ -40,14 +61,25 @@ public:
     QVector<QPointF> points(int id) const;
     CurveRecord record(int id) const { return m_records.value(id); }
     bool hasName(const QString &name) const;
+    /// \a name, or with " (2)", " (3)" ... behind it the first that no curve has.
+    QString freeName(const QString &name) const;
 
     /// Adds a curve to both views and returns its number. The name must be free.
     int add(const QString &name, const QVector<QPointF> &points, const CurveRecord &record);
     void remove(int id);
+    /// Replaces the points of curve \a id: a measurement under way.
+    void setPoints(int id, const QVector<QPointF> &points);
     void setRecord(int id, const CurveRecord &record);
     /// Returns false, and changes nothing, when another curve has this name or it is empty.
     bool rename(int id, const QString &name);
     void setHidden(int id, bool hidden);
+
+    CurveState state(int id) const;
+    /// The number of the curve with \a key now, 0 when it is not there.
+    int idOf(int key) const;
+    /// Makes the curve with the key of \a state look and read as that says, and adds it when it is
+    /// not there, perhaps under another number. A name that is taken is numbered.
+    void restore(const CurveState &state);
 
     /// The number of the selected curve, 0 without one.
     int selected() const;
@@ -69,5 +101,7 @@ private:
     GraphicsBase &m_polar;
     GraphicsBase &m_cartesian;
     QMap<int, CurveRecord> m_records;
+    QMap<int, int> m_keys; ///< by number
+    int m_lastKey = 0;
     bool m_following = false; ///< changes of the views are our own doing
 };

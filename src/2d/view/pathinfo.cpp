@@ -117,6 +117,17 @@ void PathInfo::setHidden(bool hidden)
     emit lookChanged();
 }
 
+void PathInfo::setLook(const CurveLook &look)
+{
+    if (look.name != m_name)
+        setName(look.name);
+    if (look.color != m_color)
+        setColor(look.color);
+    if (look.width != m_lineWidth)
+        setLineWidth(look.width);
+    setHidden(look.hidden);
+}
+
 bool PathInfo::isSelected() const
 {
     return m_pathItem->isCurveSelected();

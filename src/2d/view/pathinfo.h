@@ -3,6 +3,7 @@
 #include "2d/data/chartmapping.h"
 #include "2d/data/parainfo.h"
 #include "2d/scene/patternlines.h"
+#include "2d/view/curvelook.h"
 
 #include <QColor>
 #include <QList>
@@ -51,6 +52,8 @@ public:
     /// A hidden curve and all its items are invisible, and it takes no part in clicks.
     bool isHidden() const { return m_hidden; }
     void setHidden(bool hidden);
+    CurveLook look() const { return {m_name, m_color, m_lineWidth, m_hidden}; }
+    void setLook(const CurveLook &look);
     bool isSelected() const;
     void setSelected(bool selected);
     QList<int> markIds() const { return m_markIds; }

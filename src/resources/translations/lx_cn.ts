@@ -270,6 +270,29 @@
     </message>
 </context>
 <context>
+    <name>CurveHistory</name>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Recolour</source>
+        <translation>更改颜色</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+</context>
+<context>
     <name>CurveName</name>
     <message>
         <source>Warning</source>
@@ -335,6 +358,37 @@ correction</source>
     <message>
         <source>A curve needs a name.</source>
         <translation>曲线需要名称。</translation>
+    </message>
+</context>
+<context>
+    <name>EditActions</name>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>撤销%1(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do %1</source>
+        <translation>重做%1(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>重做(&amp;D)</translation>
+    </message>
+    <message>
+        <source>There is no curve on the clipboard.</source>
+        <translation>剪贴板中没有曲线。</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>The parameter table is on the clipboard.</source>
+        <translation>参数表已复制到剪贴板。</translation>
     </message>
 </context>
 <context>
@@ -475,6 +529,63 @@ correction</source>
     <message>
         <source>%1,waiting...%2 s</source>
         <translation>正在%1，请稍候……%2 s</translation>
+    </message>
+</context>
+<context>
+    <name>LossActions</name>
+    <message>
+        <source>Load Loss Table</source>
+        <translation>载入损耗表</translation>
+    </message>
+    <message>
+        <source>Loss tables (*.csv);;All files (*)</source>
+        <translation>损耗表 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The loss table could not be loaded: %1
+%2</source>
+        <translation>无法载入损耗表：%1
+%2</translation>
+    </message>
+    <message>
+        <source>Loss table loaded: %1</source>
+        <translation>已载入损耗表：%1</translation>
+    </message>
+    <message>
+        <source>Please enter the frequency of &quot;%1&quot; in the list of curves first.</source>
+        <translation>请先在曲线列表中输入“%1”的频率。</translation>
+    </message>
+    <message>
+        <source>The loss table cannot tell the loss at %1 MHz.</source>
+        <translation>损耗表无法给出 %1 MHz 处的损耗。</translation>
+    </message>
+    <message>
+        <source>up-link %1%2 dB</source>
+        <translation>上行 %1%2 dB</translation>
+    </message>
+    <message>
+        <source>down-link %1%2 dB</source>
+        <translation>下行 %1%2 dB</translation>
+    </message>
+    <message>
+        <source>%1, up-link</source>
+        <translation>%1，上行</translation>
+    </message>
+    <message>
+        <source>%1, down-link</source>
+        <translation>%1，下行</translation>
+    </message>
+    <message>
+        <source>%1 (extrapolated)</source>
+        <translation>%1（外推）</translation>
+    </message>
+    <message>
+        <source>Correct Up-link</source>
+        <translation>上行校正</translation>
+    </message>
+    <message>
+        <source>Correct Down-link</source>
+        <translation>下行校正</translation>
     </message>
 </context>
 <context>
@@ -1075,6 +1186,41 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>OpenActions</name>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>清除列表(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Opening was cancelled; the charts are as they were.</source>
+        <translation>已取消打开，图表保持原样。</translation>
+    </message>
+    <message>
+        <source>Curves opened: %1.</source>
+        <translation>已打开曲线：%1 条。</translation>
+    </message>
+    <message>
+        <source>These files could not be opened:</source>
+        <translation>以下文件无法打开：</translation>
+    </message>
+    <message>
+        <source>The files were opened. Please look at these points:</source>
+        <translation>文件已打开，请注意以下各点：</translation>
+    </message>
+    <message>
+        <source>Open Curves</source>
+        <translation>打开曲线</translation>
+    </message>
+    <message>
+        <source>Curve files (*.csv);;All files (*)</source>
+        <translation>曲线文件 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The sample patterns are not installed.</source>
+        <translation>未安装方向图示例。</translation>
+    </message>
+</context>
+<context>
     <name>ParaInfoTable</name>
     <message>
         <source>Pattern parameters by frequency</source>
@@ -1292,30 +1438,6 @@ correction</source>
         <translation>关于 Qt(&amp;Q)</translation>
     </message>
     <message>
-        <source>&amp;Clear List</source>
-        <translation>清除列表(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Opening was cancelled; the charts are as they were.</source>
-        <translation>已取消打开，图表保持原样。</translation>
-    </message>
-    <message>
-        <source>Curves opened: %1.</source>
-        <translation>已打开曲线：%1 条。</translation>
-    </message>
-    <message>
-        <source>These files could not be opened:</source>
-        <translation>以下文件无法打开：</translation>
-    </message>
-    <message>
-        <source>The files were opened. Please look at these points:</source>
-        <translation>文件已打开，请注意以下各点：</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
-        <translation>“%1”不是图像格式：请使用 png 或 jpg。</translation>
-    </message>
-    <message>
         <source>The file could not be written, what was there is unchanged: %1
 %2</source>
         <translation>文件无法写入，原有内容未改变：%1
@@ -1326,102 +1448,8 @@ correction</source>
         <translation>已写入：%1</translation>
     </message>
     <message>
-        <source>The loss table could not be loaded: %1
-%2</source>
-        <translation>无法载入损耗表：%1
-%2</translation>
-    </message>
-    <message>
-        <source>Loss table loaded: %1</source>
-        <translation>已载入损耗表：%1</translation>
-    </message>
-    <message>
-        <source>Please enter the frequency of &quot;%1&quot; in the list of curves first.</source>
-        <translation>请先在曲线列表中输入“%1”的频率。</translation>
-    </message>
-    <message>
-        <source>The loss table cannot tell the loss at %1 MHz.</source>
-        <translation>损耗表无法给出 %1 MHz 处的损耗。</translation>
-    </message>
-    <message>
-        <source>up-link %1%2 dB</source>
-        <translation>上行 %1%2 dB</translation>
-    </message>
-    <message>
-        <source>down-link %1%2 dB</source>
-        <translation>下行 %1%2 dB</translation>
-    </message>
-    <message>
-        <source>%1, up-link</source>
-        <translation>%1，上行</translation>
-    </message>
-    <message>
-        <source>%1, down-link</source>
-        <translation>%1，下行</translation>
-    </message>
-    <message>
-        <source>%1 (extrapolated)</source>
-        <translation>%1（外推）</translation>
-    </message>
-    <message>
-        <source>Open Curves</source>
-        <translation>打开曲线</translation>
-    </message>
-    <message>
-        <source>Curve files (*.csv);;All files (*)</source>
-        <translation>曲线文件 (*.csv);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>The sample patterns are not installed.</source>
-        <translation>未安装方向图示例。</translation>
-    </message>
-    <message>
-        <source>curve</source>
-        <translation>曲线</translation>
-    </message>
-    <message>
-        <source>Save Curve</source>
-        <translation>保存曲线</translation>
-    </message>
-    <message>
-        <source>Save Picture</source>
-        <translation>保存图像</translation>
-    </message>
-    <message>
-        <source>patterns</source>
-        <translation>方向图</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.jpg)</source>
-        <translation>图像 (*.png *.jpg)</translation>
-    </message>
-    <message>
         <source>Save Report</source>
         <translation>保存报告</translation>
-    </message>
-    <message>
-        <source>report</source>
-        <translation>报告</translation>
-    </message>
-    <message>
-        <source>Reports (*.html *.pdf)</source>
-        <translation>报告 (*.html *.pdf)</translation>
-    </message>
-    <message>
-        <source>There is no curve on the clipboard.</source>
-        <translation>剪贴板中没有曲线。</translation>
-    </message>
-    <message>
-        <source>The parameter table is on the clipboard.</source>
-        <translation>参数表已复制到剪贴板。</translation>
-    </message>
-    <message>
-        <source>Load Loss Table</source>
-        <translation>载入损耗表</translation>
-    </message>
-    <message>
-        <source>Loss tables (*.csv);;All files (*)</source>
-        <translation>损耗表 (*.csv);;所有文件 (*)</translation>
     </message>
     <message>
         <source>About</source>
@@ -1466,6 +1494,26 @@ correction</source>
     <message>
         <source>&amp;Undo Symmetry</source>
         <translation>撤销镜像(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Measure</source>
+        <translation>测量(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Save &amp;All Curves...</source>
+        <translation>保存全部曲线(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Writes every curve to a file of its own in one folder</source>
+        <translation>将每条曲线分别写入同一文件夹中的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>重做(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1625,98 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>SaveActions</name>
+    <message>
+        <source>Curve files</source>
+        <translation>曲线文件</translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>Save Curve</source>
+        <translation>保存曲线</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>patterns</source>
+        <translation>方向图</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>PNG 图片</translation>
+    </message>
+    <message>
+        <source>JPEG picture</source>
+        <translation>JPEG 图片</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>HTML report</source>
+        <translation>HTML 报告</translation>
+    </message>
+    <message>
+        <source>PDF report</source>
+        <translation>PDF 报告</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
+        <translation>“%1”不是图像格式：请使用 png 或 jpg。</translation>
+    </message>
+    <message>
+        <source>Folder for the Curves</source>
+        <translation>曲线文件夹</translation>
+    </message>
+    <message>
+        <source>Curves written: %1.</source>
+        <translation>已写入曲线：%1。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>These curves are in no file:
+%1</source>
+        <translation>这些曲线未保存到文件：
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveQuestion</name>
+    <message>
+        <source>&quot;%1&quot; is no format that can be written here. Known formats: %2.</source>
+        <translation>此处不能写入“%1”格式。可用格式：%2。</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>This exists already:
+%1
+Replace it?</source>
+        <translation>已存在：
+%1
+要替换吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+</context>
+<context>
     <name>SerialLogic</name>
     <message>
         <source>Failed to connect %1</source>
@@ -1655,6 +1795,13 @@ correction</source>
     <message>
         <source>Front-to-back ratio: peak level minus the level in the opposite direction</source>
         <translation>前后比：峰值电平减去反方向电平</translation>
+    </message>
+</context>
+<context>
+    <name>ViewActions</name>
+    <message>
+        <source>Manage Curves</source>
+        <translation>管理曲线</translation>
     </message>
 </context>
 <context>

@@ -270,6 +270,29 @@
     </message>
 </context>
 <context>
+    <name>CurveHistory</name>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>Recolour</source>
+        <translation>Recolour</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+</context>
+<context>
     <name>CurveName</name>
     <message>
         <source>Warning</source>
@@ -335,6 +358,37 @@ correction</translation>
     <message>
         <source>A curve needs a name.</source>
         <translation>A curve needs a name.</translation>
+    </message>
+</context>
+<context>
+    <name>EditActions</name>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Undo %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>Re&amp;do %1</source>
+        <translation>Re&amp;do %1</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Re&amp;do</translation>
+    </message>
+    <message>
+        <source>There is no curve on the clipboard.</source>
+        <translation>There is no curve on the clipboard.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>The parameter table is on the clipboard.</source>
+        <translation>The parameter table is on the clipboard.</translation>
     </message>
 </context>
 <context>
@@ -475,6 +529,63 @@ correction</translation>
     <message>
         <source>%1,waiting...%2 s</source>
         <translation>%1,waiting...%2 s</translation>
+    </message>
+</context>
+<context>
+    <name>LossActions</name>
+    <message>
+        <source>Load Loss Table</source>
+        <translation>Load Loss Table</translation>
+    </message>
+    <message>
+        <source>Loss tables (*.csv);;All files (*)</source>
+        <translation>Loss tables (*.csv);;All files (*)</translation>
+    </message>
+    <message>
+        <source>The loss table could not be loaded: %1
+%2</source>
+        <translation>The loss table could not be loaded: %1
+%2</translation>
+    </message>
+    <message>
+        <source>Loss table loaded: %1</source>
+        <translation>Loss table loaded: %1</translation>
+    </message>
+    <message>
+        <source>Please enter the frequency of &quot;%1&quot; in the list of curves first.</source>
+        <translation>Please enter the frequency of &quot;%1&quot; in the list of curves first.</translation>
+    </message>
+    <message>
+        <source>The loss table cannot tell the loss at %1 MHz.</source>
+        <translation>The loss table cannot tell the loss at %1 MHz.</translation>
+    </message>
+    <message>
+        <source>up-link %1%2 dB</source>
+        <translation>up-link %1%2 dB</translation>
+    </message>
+    <message>
+        <source>down-link %1%2 dB</source>
+        <translation>down-link %1%2 dB</translation>
+    </message>
+    <message>
+        <source>%1, up-link</source>
+        <translation>%1, up-link</translation>
+    </message>
+    <message>
+        <source>%1, down-link</source>
+        <translation>%1, down-link</translation>
+    </message>
+    <message>
+        <source>%1 (extrapolated)</source>
+        <translation>%1 (extrapolated)</translation>
+    </message>
+    <message>
+        <source>Correct Up-link</source>
+        <translation>Correct Up-link</translation>
+    </message>
+    <message>
+        <source>Correct Down-link</source>
+        <translation>Correct Down-link</translation>
     </message>
 </context>
 <context>
@@ -1075,6 +1186,41 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>OpenActions</name>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Clear List</translation>
+    </message>
+    <message>
+        <source>Opening was cancelled; the charts are as they were.</source>
+        <translation>Opening was cancelled; the charts are as they were.</translation>
+    </message>
+    <message>
+        <source>Curves opened: %1.</source>
+        <translation>Curves opened: %1.</translation>
+    </message>
+    <message>
+        <source>These files could not be opened:</source>
+        <translation>These files could not be opened:</translation>
+    </message>
+    <message>
+        <source>The files were opened. Please look at these points:</source>
+        <translation>The files were opened. Please look at these points:</translation>
+    </message>
+    <message>
+        <source>Open Curves</source>
+        <translation>Open Curves</translation>
+    </message>
+    <message>
+        <source>Curve files (*.csv);;All files (*)</source>
+        <translation>Curve files (*.csv);;All files (*)</translation>
+    </message>
+    <message>
+        <source>The sample patterns are not installed.</source>
+        <translation>The sample patterns are not installed.</translation>
+    </message>
+</context>
+<context>
     <name>ParaInfoTable</name>
     <message>
         <source>Pattern parameters by frequency</source>
@@ -1292,30 +1438,6 @@ correction</translation>
         <translation>About &amp;Qt</translation>
     </message>
     <message>
-        <source>&amp;Clear List</source>
-        <translation>&amp;Clear List</translation>
-    </message>
-    <message>
-        <source>Opening was cancelled; the charts are as they were.</source>
-        <translation>Opening was cancelled; the charts are as they were.</translation>
-    </message>
-    <message>
-        <source>Curves opened: %1.</source>
-        <translation>Curves opened: %1.</translation>
-    </message>
-    <message>
-        <source>These files could not be opened:</source>
-        <translation>These files could not be opened:</translation>
-    </message>
-    <message>
-        <source>The files were opened. Please look at these points:</source>
-        <translation>The files were opened. Please look at these points:</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
-        <translation>&quot;%1&quot; is no format for pictures: use png or jpg.</translation>
-    </message>
-    <message>
         <source>The file could not be written, what was there is unchanged: %1
 %2</source>
         <translation>The file could not be written, what was there is unchanged: %1
@@ -1326,102 +1448,8 @@ correction</translation>
         <translation>Written: %1</translation>
     </message>
     <message>
-        <source>The loss table could not be loaded: %1
-%2</source>
-        <translation>The loss table could not be loaded: %1
-%2</translation>
-    </message>
-    <message>
-        <source>Loss table loaded: %1</source>
-        <translation>Loss table loaded: %1</translation>
-    </message>
-    <message>
-        <source>Please enter the frequency of &quot;%1&quot; in the list of curves first.</source>
-        <translation>Please enter the frequency of &quot;%1&quot; in the list of curves first.</translation>
-    </message>
-    <message>
-        <source>The loss table cannot tell the loss at %1 MHz.</source>
-        <translation>The loss table cannot tell the loss at %1 MHz.</translation>
-    </message>
-    <message>
-        <source>up-link %1%2 dB</source>
-        <translation>up-link %1%2 dB</translation>
-    </message>
-    <message>
-        <source>down-link %1%2 dB</source>
-        <translation>down-link %1%2 dB</translation>
-    </message>
-    <message>
-        <source>%1, up-link</source>
-        <translation>%1, up-link</translation>
-    </message>
-    <message>
-        <source>%1, down-link</source>
-        <translation>%1, down-link</translation>
-    </message>
-    <message>
-        <source>%1 (extrapolated)</source>
-        <translation>%1 (extrapolated)</translation>
-    </message>
-    <message>
-        <source>Open Curves</source>
-        <translation>Open Curves</translation>
-    </message>
-    <message>
-        <source>Curve files (*.csv);;All files (*)</source>
-        <translation>Curve files (*.csv);;All files (*)</translation>
-    </message>
-    <message>
-        <source>The sample patterns are not installed.</source>
-        <translation>The sample patterns are not installed.</translation>
-    </message>
-    <message>
-        <source>curve</source>
-        <translation>curve</translation>
-    </message>
-    <message>
-        <source>Save Curve</source>
-        <translation>Save Curve</translation>
-    </message>
-    <message>
-        <source>Save Picture</source>
-        <translation>Save Picture</translation>
-    </message>
-    <message>
-        <source>patterns</source>
-        <translation>patterns</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.jpg)</source>
-        <translation>Pictures (*.png *.jpg)</translation>
-    </message>
-    <message>
         <source>Save Report</source>
         <translation>Save Report</translation>
-    </message>
-    <message>
-        <source>report</source>
-        <translation>report</translation>
-    </message>
-    <message>
-        <source>Reports (*.html *.pdf)</source>
-        <translation>Reports (*.html *.pdf)</translation>
-    </message>
-    <message>
-        <source>There is no curve on the clipboard.</source>
-        <translation>There is no curve on the clipboard.</translation>
-    </message>
-    <message>
-        <source>The parameter table is on the clipboard.</source>
-        <translation>The parameter table is on the clipboard.</translation>
-    </message>
-    <message>
-        <source>Load Loss Table</source>
-        <translation>Load Loss Table</translation>
-    </message>
-    <message>
-        <source>Loss tables (*.csv);;All files (*)</source>
-        <translation>Loss tables (*.csv);;All files (*)</translation>
     </message>
     <message>
         <source>About</source>
@@ -1466,6 +1494,26 @@ correction</translation>
     <message>
         <source>&amp;Undo Symmetry</source>
         <translation>&amp;Undo Symmetry</translation>
+    </message>
+    <message>
+        <source>&amp;Measure</source>
+        <translation>&amp;Measure</translation>
+    </message>
+    <message>
+        <source>Save &amp;All Curves...</source>
+        <translation>Save &amp;All Curves...</translation>
+    </message>
+    <message>
+        <source>Writes every curve to a file of its own in one folder</source>
+        <translation>Writes every curve to a file of its own in one folder</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Re&amp;do</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1625,98 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>SaveActions</name>
+    <message>
+        <source>Curve files</source>
+        <translation>Curve files</translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation>curve</translation>
+    </message>
+    <message>
+        <source>Save Curve</source>
+        <translation>Save Curve</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Save Picture</translation>
+    </message>
+    <message>
+        <source>patterns</source>
+        <translation>patterns</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>PNG picture</translation>
+    </message>
+    <message>
+        <source>JPEG picture</source>
+        <translation>JPEG picture</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Save Report</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>report</translation>
+    </message>
+    <message>
+        <source>HTML report</source>
+        <translation>HTML report</translation>
+    </message>
+    <message>
+        <source>PDF report</source>
+        <translation>PDF report</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
+        <translation>&quot;%1&quot; is no format for pictures: use png or jpg.</translation>
+    </message>
+    <message>
+        <source>Folder for the Curves</source>
+        <translation>Folder for the Curves</translation>
+    </message>
+    <message>
+        <source>Curves written: %1.</source>
+        <translation>Curves written: %1.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>These curves are in no file:
+%1</source>
+        <translation>These curves are in no file:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveQuestion</name>
+    <message>
+        <source>&quot;%1&quot; is no format that can be written here. Known formats: %2.</source>
+        <translation>&quot;%1&quot; is no format that can be written here. Known formats: %2.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>This exists already:
+%1
+Replace it?</source>
+        <translation>This exists already:
+%1
+Replace it?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+</context>
+<context>
     <name>SerialLogic</name>
     <message>
         <source>Failed to connect %1</source>
@@ -1655,6 +1795,13 @@ correction</translation>
     <message>
         <source>Front-to-back ratio: peak level minus the level in the opposite direction</source>
         <translation>Front-to-back ratio: peak level minus the level in the opposite direction</translation>
+    </message>
+</context>
+<context>
+    <name>ViewActions</name>
+    <message>
+        <source>Manage Curves</source>
+        <translation>Manage Curves</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+
+class CurveDesk;
+
+namespace Ui {
+class PatternWindow;
+}
+
+/// The *View* menu.
+class ViewActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a ui and \a desk must outlive this object.
+    ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent = nullptr);
+
+    /// Shows what can be chosen now.
+    void update();
+
+private:
+    void setUpLanguages();
+
+    Ui::PatternWindow &m_ui;
+    CurveDesk &m_desk;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+/// What a window of the workbench needs of the program around it: the things that all windows
+/// share. Windows know this alone, so that none of them depends on how the program makes others.
+class WindowContext : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Makes and shows a further window.
+    virtual void openFurtherWindow() = 0;
+
+    /// The files opened last, the latest first, absolute paths.
+    virtual QStringList recentFiles() const = 0;
+    virtual void addRecentFile(const QString &file) = 0;
+    virtual void removeRecentFile(const QString &file) = 0;
+    virtual void clearRecentFiles() = 0;
+
+    /// The folder in which a file dialog starts.
+    virtual QString folder() const = 0;
+    /// Makes the folder of \a file the one in which the next file dialog starts.
+    virtual void rememberFolder(const QString &file) = 0;
+
+    virtual QByteArray windowGeometry() const = 0;
+    virtual void rememberGeometry(const QByteArray &geometry) = 0;
+
+    /// "en" or "cn".
+    virtual QString language() const = 0;
+    /// Shows all windows in "en" or "cn" from now on, also at the next start.
+    virtual void setLanguage(const QString &code) = 0;
+
+signals:
+    void languageChanged();
+    void recentFilesChanged();
+};
