@@ -14,12 +14,26 @@ void ValuePyramid::clear()
     m_size = 0;
 }
 
-void ValuePyramid::widen(Block &block, const ValueList &values, const Block &by)
+void ValuePyramid::truncate(int size)
 {
-    if (values[by.low] < values[block.low])
-        block.low = by.low;
-    if (values[by.high] > values[block.high])
-        block.high = by.high;
+    if (size >= m_size)
+        return;
+    m_size = size;
+    std::size_t complete = static_cast<std::size_t>(size);
+    for (std::vector<Block> &blocks : m_levels) {
+        complete /= fanOut;
+        blocks.resize(std::min(blocks.size(), complete));
+    }
+}
+
+/// One value for level 0, else a block of the level below.
+ValuePyramid::Block ValuePyramid::part(const ValueList &values, std::size_t level,
+                                       std::size_t index) const
+{
+    if (level > 0)
+        return m_levels[level - 1][index];
+    const int place = static_cast<int>(index);
+    return {values[place], values[place], place, place};
 }
 
 void ValuePyramid::extend(const ValueList &values)
@@ -35,13 +49,9 @@ void ValuePyramid::extend(const ValueList &values)
             blocks.reserve(complete);
         while (blocks.size() < complete) {
             const std::size_t begin = blocks.size() * fanOut;
-            const auto part = [&](std::size_t i) {
-                const int index = static_cast<int>(i);
-                return level == 0 ? Block{index, index} : m_levels[level - 1][i];
-            };
-            Block block = part(begin);
+            Block block = part(values, level, begin);
             for (std::size_t i = begin + 1; i < begin + fanOut; ++i)
-                widen(block, values, part(i));
+                widen(block, part(values, level, i));
             blocks.push_back(block);
         }
         below = complete;
@@ -50,7 +60,7 @@ void ValuePyramid::extend(const ValueList &values)
 
 ValuePyramid::Run ValuePyramid::run(const ValueList &values, int first, int last) const
 {
-    Block found{first, first};
+    Block found = part(values, 0, static_cast<std::size_t>(first));
     const long long end = static_cast<long long>(last) + 1;
     for (long long at = first; at < end;) {
         // the largest block that begins here and ends within the range
@@ -60,10 +70,12 @@ ValuePyramid::Run ValuePyramid::run(const ValueList &values, int first, int last
             span *= fanOut;
             ++level;
         }
-        const int index = static_cast<int>(at);
-        widen(found, values,
-              level == 0 ? Block{index, index}
-                         : m_levels[level - 1][static_cast<std::size_t>(at / span)]);
+        if (level > 0) {
+            widen(found, m_levels[level - 1][static_cast<std::size_t>(at / span)]);
+        } else {
+            const int place = static_cast<int>(at);
+            widen(found, {values[place], values[place], place, place});
+        }
         at += span;
     }
     return {first, found.low, found.high, last};

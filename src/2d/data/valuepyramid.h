@@ -36,6 +36,8 @@ public:
     void clear();
     /// Takes in what \a values holds behind the first size() values.
     void extend(const ValueList &values);
+    /// Forgets the values from \a size on.
+    void truncate(int size);
 
     /// The run from \a first to \a last, both inclusive and below size().
     Run run(const ValueList &values, int first, int last) const;
@@ -44,13 +46,28 @@ public:
     std::vector<Run> columns(const ValueList &values, int first, int last, int columns) const;
 
 private:
+    /// The values stand beside their places, so that the list itself is hardly looked into: it is
+    /// far larger than what a processor keeps at hand.
     struct Block
     {
+        double lowest = 0.0;
+        double highest = 0.0;
         int low = 0;
         int high = 0;
     };
 
-    static void widen(Block &block, const ValueList &values, const Block &by);
+    static void widen(Block &block, const Block &by)
+    {
+        if (by.lowest < block.lowest) {
+            block.lowest = by.lowest;
+            block.low = by.low;
+        }
+        if (by.highest > block.highest) {
+            block.highest = by.highest;
+            block.high = by.high;
+        }
+    }
+    Block part(const ValueList &values, std::size_t level, std::size_t index) const;
 
     std::vector<std::vector<Block>> m_levels; ///< complete blocks only, the smallest first
     int m_size = 0;

@@ -1559,6 +1559,21 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>RecordReader</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 holds no record.</source>
+        <translation>%1 不含记录。</translation>
+    </message>
+    <message>
+        <source>%1 is a record of another kind than the other files.</source>
+        <translation>%1 的记录类型与其他文件不同。</translation>
+    </message>
+</context>
+<context>
     <name>Report</name>
     <message>
         <source>%1° to %2°</source>

@@ -1559,6 +1559,21 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>RecordReader</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>%1 holds no record.</source>
+        <translation>%1 holds no record.</translation>
+    </message>
+    <message>
+        <source>%1 is a record of another kind than the other files.</source>
+        <translation>%1 is a record of another kind than the other files.</translation>
+    </message>
+</context>
+<context>
     <name>Report</name>
     <message>
         <source>%1° to %2°</source>
