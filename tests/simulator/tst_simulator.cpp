@@ -1,9 +1,11 @@
-#include "simulatortalk.h"
+#include "simulatorprocess.h"
+#include "tcplink.h"
 #include "testmain.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
+#include <QSerialPort>
 #include <QTcpServer>
+#include <QTcpSocket>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -11,27 +13,66 @@
 
 namespace {
 
-struct Run
-{
-    int exitCode;
-    QString out;
-    QString err;
-};
+constexpr int patience = 10000; // ms, for what is bound to happen
 
-/// Runs the simulator with \a arguments to its end.
-Run runToEnd(const QStringList &arguments)
+const QByteArray reading("RETURN:GET -20.00dBm,-20.00dBm");
+
+QStringList words(const QByteArray &line)
 {
-    QProcess process;
-    process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), arguments);
-    process.waitForFinished(patience);
-    const bool ended =
-        process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return QString::fromUtf8(line).split(QLatin1Char(' '));
 }
 
-const QStringList steady = words("--noise 0");
-const QStringList quick = words("--calibration-time 0");
+/// The next line on \a device without its newline; "(nothing)" when the other side or patience
+/// ends.
+QByteArray line(QIODevice &device)
+{
+    while (!device.canReadLine()) {
+        if (!device.waitForReadyRead(patience))
+            return "(nothing)";
+    }
+    return device.readLine().chopped(1);
+}
+
+void send(QIODevice &device, const QByteArray &bytes)
+{
+    device.write(bytes);
+    while (device.bytesToWrite() > 0 && device.waitForBytesWritten(patience)) {
+    }
+}
+
+QByteArray ask(QIODevice &device, const QByteArray &command)
+{
+    send(device, command + '\n');
+    return line(device);
+}
+
+/// A client over TCP, connected once the simulator has taken it.
+class Client : public QTcpSocket
+{
+public:
+    Client(SimulatorProcess &simulator, quint16 port)
+    {
+        connectToHost(simulator.address(), port);
+        waitForConnected(patience);
+    }
+    explicit Client(SimulatorProcess &simulator)
+        : Client(simulator, simulator.port())
+    {}
+};
+
+QByteArray fileWith(const QTemporaryDir &folder, const QByteArray &text)
+{
+    QFile file(folder.filePath(QStringLiteral("file")));
+    file.open(QIODevice::WriteOnly);
+    file.write(text);
+    return file.fileName().toUtf8();
+}
+
+bool open(QSerialPort &port, const QString &path)
+{
+    port.setPortName(path);
+    return port.open(QIODevice::ReadWrite) && port.setBaudRate(QSerialPort::Baud115200);
+}
 
 } // namespace
 
@@ -39,277 +80,286 @@ class TestSimulator : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void cleanup();
-    void talkAndTrace();
-    void sameSeedSameReadings();
-    void clientsTakeTurns();
-    void resultsComeLate();
-    void silentResults();
-    void resultsStayWithTheirClient();
-    void lateRepliesKeepTheirOrder();
-    void swallowedReply();
-    void drops_data();
-    void drops();
-    void hostileClient();
-    void manyCommandsAtOnce();
-    void portTaken();
-    void badCommandLine();
-    void helpAndVersion();
-    void stopSignals();
-
 private:
+    bool start(const QByteArray &options)
+    {
+        return m_simulator.start(words("--noise 0 --micro-sign " + options));
+    }
+
     SimulatorProcess m_simulator;
-};
 
-void TestSimulator::cleanup()
-{
-    const bool wasRunning = m_simulator.isRunning();
-    const int exitCode = m_simulator.stop();
+private slots:
+    void cleanup()
+    {
+        const int expected = m_simulator.isRunning() ? 0 : -1;
+        const int exitCode = m_simulator.stop();
 #ifdef Q_OS_UNIX
-    QCOMPARE(exitCode, wasRunning ? 0 : -1);
-#endif
-    Q_UNUSED(wasRunning)
-    Q_UNUSED(exitCode)
-    QCOMPARE(m_simulator.errorText(), QString());
-}
-
-void TestSimulator::talkAndTrace()
-{
-    QVERIFY(m_simulator.start(steady + words("--micro-sign")));
-    QCOMPARE(m_simulator.address(), QLatin1String("127.0.0.1"));
-    QCOMPARE(m_simulator.serialPath(), QString());
-    Client client(m_simulator);
-    QCOMPARE(ask(client, "FREQ 2.45GHz"), QByteArray("RETURN:OK"));
-    QCOMPARE(ask(client, "FREQ?"), QByteArray("RETURN:FREQ 2.45GHz"));
-    QCOMPARE(ask(client, "UNIT:POW W"), QByteArray("RETURN:OK"));
-    QCOMPARE(ask(client, "GET? \r"), QByteArray("RETURN:GET -20.00dBm,10.00\xc2\xb5W"));
-
-    QVERIFY(m_simulator.waitForCommand(QLatin1String("GET? \\r")));
-    QVERIFY(!m_simulator.waitForCommand(QLatin1String("FREQ?"), 2, 0));
-    QCOMPARE(m_simulator.commands().join(QLatin1Char('|')),
-             QLatin1String("FREQ 2.45GHz|FREQ?|UNIT:POW W|GET? \\r"));
-    QCOMPARE(m_simulator.replies().last(),
-             QLatin1String("RETURN:GET -20.00dBm,10.00\\xc2\\xb5W\\n"));
-}
-
-void TestSimulator::sameSeedSameReadings()
-{
-    QList<QByteArray> runs;
-    for (const char *seed : {"11", "11", "12"}) {
-        QVERIFY(m_simulator.start(words("--seed") + words(seed)));
-        Client client(m_simulator);
-        QByteArray readings;
-        for (int i = 0; i < 20; ++i)
-            readings += ask(client, "GET?");
-        runs.append(readings);
-    }
-    QCOMPARE(runs.at(1), runs.at(0));
-    QVERIFY(runs.at(2) != runs.at(0));
-}
-
-void TestSimulator::clientsTakeTurns()
-{
-    QVERIFY(m_simulator.start(steady));
-    Client first(m_simulator);
-    QCOMPARE(ask(first, "OFFS 5"), QByteArray("RETURN:OK"));
-    Client impatient(m_simulator);
-    send(impatient, "OFFS 9\n");
-    impatient.abort();
-    QVERIFY(QTest::qWaitFor([this] { return m_simulator.notes().size() == 2; }, patience));
-    QCOMPARE(ask(first, "REL?"), QByteArray("RETURN:REL OFF"));
-    Client second(m_simulator);
-    QCOMPARE(second.state(), QAbstractSocket::ConnectedState);
-    send(second, "OFFS?\n");
-    QCOMPARE(ask(first, "GET?"), QByteArray("RETURN:GET -15.00dBm,-15.00dBm"));
-    QVERIFY(!m_simulator.commands().contains(QLatin1String("OFFS?")));
-    first.abort();
-    QCOMPARE(line(second), QByteArray("RETURN:OFFS 5.00dB"));
-}
-
-void TestSimulator::resultsComeLate()
-{
-    QVERIFY(m_simulator.start(steady + words("--calibration-time 0.4")));
-    Client client(m_simulator);
-    QElapsedTimer timer;
-    timer.start();
-    send(client, "CAL:ZERO\nGET?\n");
-    QCOMPARE(line(client), reading);
-    QCOMPARE(line(client), QByteArray("RETURN:CAL:ZERO:OK"));
-    QVERIFY(timer.elapsed() >= 350);
-    // A second start takes the place of the first.
-    send(client, "CAL:ZERO\nCAL\n");
-    QCOMPARE(line(client), QByteArray("RETURN:CAL:OK"));
-    QCOMPARE(ask(client, "GET?"), reading);
-}
-
-void TestSimulator::silentResults()
-{
-    QVERIFY(m_simulator.start(steady + quick +
-                              words("--fault cal-silent,times=1 --fault late:50,only=OFFS?")));
-    Client client(m_simulator);
-    // The late answer lets the time of the calibration pass.
-    send(client, "CAL\n");
-    QCOMPARE(ask(client, "OFFS?"), QByteArray("RETURN:OFFS 0.00dB"));
-    QCOMPARE(ask(client, "GET?"), reading);
-    QCOMPARE(ask(client, "CAL"), QByteArray("RETURN:CAL:OK"));
-}
-
-void TestSimulator::resultsStayWithTheirClient()
-{
-    QVERIFY(
-        m_simulator.start(steady + words("--calibration-time 0.2 --fault late:500,only=OFFS?")));
-    Client first(m_simulator);
-    send(first, "OFFS?\nCAL\nGE");
-    QVERIFY(m_simulator.waitForCommand(QLatin1String("CAL")));
-    first.abort();
-    Client second(m_simulator);
-    QCOMPARE(ask(second, "GET?"), reading);
-    QCOMPARE(ask(second, "OFFS?"), QByteArray("RETURN:OFFS 0.00dB"));
-    QVERIFY(!m_simulator.replies().contains(QLatin1String("RETURN:CAL:OK\\n")));
-}
-
-void TestSimulator::lateRepliesKeepTheirOrder()
-{
-    QVERIFY(m_simulator.start(steady + words("--fault late:300,only=GET?")));
-    Client client(m_simulator);
-    QElapsedTimer timer;
-    timer.start();
-    send(client, "GET?\nOFFS?\nGET?\n");
-    QCOMPARE(line(client), reading);
-    QVERIFY(timer.elapsed() >= 300);
-    QCOMPARE(line(client), QByteArray("RETURN:OFFS 0.00dB"));
-    QCOMPARE(line(client), reading);
-    QVERIFY(timer.elapsed() >= 600);
-}
-
-void TestSimulator::swallowedReply()
-{
-    QVERIFY(m_simulator.start(steady +
-                              words("--fault no-reply,only=GET?,times=1 --fault refuse,only=OFFS "
-                                    "--fault numeric-frequency --fault no-newline,only=REL?")));
-    Client client(m_simulator);
-    send(client, "GET?\n");
-    QCOMPARE(ask(client, "OFFS 3"), QByteArray("RETURN:ERR -221,Settings conflict"));
-    QCOMPARE(ask(client, "FREQ 2GHz"), QByteArray("RETURN:ERR -104,Data type error"));
-    QCOMPARE(ask(client, "FREQ 2.00"), QByteArray("RETURN:OK"));
-    QCOMPARE(ask(client, "GET?"), reading);
-    QCOMPARE(m_simulator.commands().count(QLatin1String("GET?")), 2);
-    send(client, "REL?\n");
-    QCOMPARE(ask(client, "OFFS?"), QByteArray("RETURN:REL OFFRETURN:OFFS 0.00dB"));
-}
-
-void TestSimulator::drops_data()
-{
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<QByteArray>("command");
-    QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char *fault, const char *command, const QByteArray &bytes) {
-        QTest::newRow(fault) << fault << QByteArray(command) << bytes;
-    };
-    row("drop-inside,only=GET?", "GET?", reading.left(15));
-    row("drop-after,only=GET?", "GET?", reading + '\n');
-    row("drop-before,only=REL", "REL ON", "");
-    row("drop-inside,only=CAL", "CAL", "RETURN:");
-}
-
-void TestSimulator::drops()
-{
-    QFETCH(QString, fault);
-    QFETCH(QByteArray, command);
-    QVERIFY(m_simulator.start(steady + quick + words("--fault") +
-                              QStringList(fault + QStringLiteral(",times=1"))));
-    Client client(m_simulator);
-    QCOMPARE(ask(client, "*IDN?").left(11), QByteArray("RETURN:IDN "));
-    send(client, command + '\n');
-    QVERIFY(client.state() != QAbstractSocket::ConnectedState ||
-            client.waitForDisconnected(patience));
-    QTEST(client.readAll(), "bytes");
-    Client again(m_simulator);
-    QCOMPARE(ask(again, "OFFS?"), QByteArray("RETURN:OFFS 0.00dB"));
-}
-
-void TestSimulator::hostileClient()
-{
-    QVERIFY(m_simulator.start(steady));
-    Client client(m_simulator);
-    send(client, QByteArray(1000000, 'x'));
-    send(client, QByteArray("\n\0\n", 3));
-    QCOMPARE(line(client), QByteArray("RETURN:ERR -113,Undefined header"));
-    send(client, "\r\n\n  \nFREQ %s%n%1\n");
-    QCOMPARE(line(client), QByteArray("RETURN:ERR -104,Data type error"));
-    QCOMPARE(ask(client, "GET?"), reading);
-}
-
-void TestSimulator::manyCommandsAtOnce()
-{
-    QVERIFY(m_simulator.start(steady));
-    Client client(m_simulator);
-    constexpr int count = 5000;
-    QByteArray commands;
-    for (int i = 0; i < count; ++i)
-        commands += "OFFS " + QByteArray::number(i % 100) + "\nOFFS?\n";
-    send(client, commands);
-    for (int i = 0; i < count; ++i) {
-        QCOMPARE(line(client), QByteArray("RETURN:OK"));
-        QCOMPARE(line(client), "RETURN:OFFS " + QByteArray::number(i % 100) + ".00dB");
-    }
-    QCOMPARE(m_simulator.commands().size(), 2 * count);
-}
-
-void TestSimulator::portTaken()
-{
-    QTcpServer other;
-    QVERIFY(other.listen(QHostAddress::LocalHost));
-    const QString port = QString::number(other.serverPort());
-    const Run run = runToEnd({QStringLiteral("--port"), port});
-    QVERIFY(run.exitCode > 0);
-    QVERIFY2(run.err.startsWith(QStringLiteral("Cannot listen on 127.0.0.1:%1: ").arg(port)),
-             qPrintable(run.err));
-    QCOMPARE(run.out, QString());
-}
-
-void TestSimulator::badCommandLine()
-{
-    const Run run = runToEnd(words("--port=x --noise=y"));
-    QVERIFY(run.exitCode > 0);
-    QCOMPARE(run.out, QString());
-    // The first of two mistakes, and the usage behind it.
-    const QRegularExpression told(QStringLiteral("^[^\n]*--port[^\n]*\n(.*\n)*Usage: "));
-    QVERIFY2(told.match(run.err).hasMatch(), qPrintable(run.err));
-}
-
-void TestSimulator::helpAndVersion()
-{
-    const Run help = runToEnd(words("--help"));
-    QCOMPARE(help.exitCode, 0);
-    for (const char *word : {"--listen", "--calibration-time", "no-reply", "cal-silent",
-                             "numeric-frequency", "every=N"})
-        QVERIFY2(help.out.contains(QLatin1String(word)), word);
-    const Run version = runToEnd(words("--version"));
-    QCOMPARE(version.exitCode, 0);
-    QCOMPARE(version.out, QStringLiteral("mz6218-sim " MZ_VERSION "\n"));
-}
-
-void TestSimulator::stopSignals()
-{
-#ifdef Q_OS_UNIX
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-        QProcess process;
-        process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), words("--port 0 --serial"));
-        QByteArray out;
-        while (!out.contains("Listening") && process.waitForReadyRead(patience))
-            out += process.readAllStandardOutput();
-        QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
-        QVERIFY(process.waitForFinished(patience));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 0);
-        QCOMPARE(process.readAllStandardError(), QByteArray());
-    }
+        QCOMPARE(exitCode, expected);
 #else
-    QSKIP("there are no such signals on this system");
+        Q_UNUSED(exitCode)
+        Q_UNUSED(expected)
 #endif
-}
+        QCOMPARE(m_simulator.errorText(), QString());
+    }
+
+    void talkAndTrace()
+    {
+        QVERIFY(start("--level -20,0"));
+        QCOMPARE(m_simulator.address(), QLatin1String("127.0.0.1"));
+        Client client(m_simulator);
+        QCOMPARE(ask(client, "UNIT:POW W"), QByteArray("RETURN:OK"));
+        QCOMPARE(ask(client, "GET? \r"), QByteArray("RETURN:GET -20.00dBm,10.00\xc2\xb5W"));
+        QCOMPARE(m_simulator.commands().join(QLatin1Char('|')),
+                 QLatin1String("UNIT:POW W|GET? \\r"));
+        QCOMPARE(m_simulator.replies().last(),
+                 QLatin1String("RETURN:GET -20.00dBm,10.00\\xc2\\xb5W\\n"));
+    }
+
+    void clientsTakeTurns()
+    {
+        QVERIFY(start("--calibration-time 0.2 --fault late:500,only=AVER:COUN?"));
+        Client first(m_simulator);
+        QCOMPARE(ask(first, "OFFS 5"), QByteArray("RETURN:OK"));
+        Client impatient(m_simulator);
+        send(impatient, "OFFS 9\n");
+        impatient.abort();
+        QTRY_COMPARE(m_simulator.notes().size(), 2);
+        Client second(m_simulator);
+        send(second, "OFFS?\n");
+        QCOMPARE(ask(first, "REL?"), QByteArray("RETURN:REL OFF"));
+        QVERIFY(!m_simulator.commands().contains(QLatin1String("OFFS?")));
+        // What is under way goes with its client.
+        send(first, "AVER:COUN?\nCAL\nGE");
+        QVERIFY(m_simulator.waitForCommand(QLatin1String("CAL")));
+        first.abort();
+        QCOMPARE(line(second), QByteArray("RETURN:OFFS 5.00dB"));
+        QCOMPARE(ask(second, "AVER:COUN?"), QByteArray("RETURN:AVER:COUN 1"));
+        QVERIFY(!m_simulator.replies().contains(QLatin1String("RETURN:CAL:OK\\n")));
+    }
+
+    void resultsComeWhenTheyAreDone()
+    {
+        QVERIFY(start("--calibration-time 0.2 --fault cal-silent,only=CAL,times=1 "
+                      "--fault late:400,only=OFFS?,times=1"));
+        Client client(m_simulator);
+        // The late answer lets the time of the silent calibration pass, and keeps its place.
+        send(client, "CAL\nOFFS?\nREL?\n");
+        QCOMPARE(line(client), QByteArray("RETURN:OFFS 0.00dB"));
+        QCOMPARE(line(client), QByteArray("RETURN:REL OFF"));
+        // A second start takes the place of the first.
+        send(client, "CAL:ZERO\nCAL\nGET?\n");
+        QCOMPARE(line(client), reading);
+        QCOMPARE(line(client), QByteArray("RETURN:CAL:OK"));
+        QCOMPARE(ask(client, "GET?"), reading);
+    }
+
+    void swallowedAndRefused()
+    {
+        QVERIFY(start("--fault no-reply,only=GET?,times=1 --fault refuse,only=OFFS "
+                      "--fault numeric-frequency --fault no-newline,only=REL?"));
+        Client client(m_simulator);
+        send(client, "GET?\n");
+        QCOMPARE(ask(client, "OFFS 3"), QByteArray("RETURN:ERR -221,Settings conflict"));
+        QCOMPARE(ask(client, "FREQ 2GHz"), QByteArray("RETURN:ERR -104,Data type error"));
+        QCOMPARE(ask(client, "FREQ 2.00"), QByteArray("RETURN:OK"));
+        send(client, "REL?\n");
+        QCOMPARE(ask(client, "OFFS?"), QByteArray("RETURN:REL OFFRETURN:OFFS 0.00dB"));
+    }
+
+    void drops_data()
+    {
+        QTest::addColumn<QByteArray>("command");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("drop-inside,only=GET?") << QByteArray("GET?") << reading.left(15);
+        QTest::newRow("drop-after,only=GET?") << QByteArray("GET?") << reading + '\n';
+        QTest::newRow("drop-before,only=REL") << QByteArray("REL ON") << QByteArray();
+        QTest::newRow("drop-inside,only=CAL") << QByteArray("CAL") << QByteArray("RETURN:");
+    }
+
+    void drops()
+    {
+        QFETCH(QByteArray, command);
+        QVERIFY(start(QByteArray("--calibration-time 0 --fault ") + QTest::currentDataTag() +
+                      ",times=1"));
+        Client client(m_simulator);
+        send(client, command + '\n');
+        QVERIFY(client.state() != QAbstractSocket::ConnectedState ||
+                client.waitForDisconnected(patience));
+        QTEST(client.readAll(), "bytes");
+        Client again(m_simulator);
+        QCOMPARE(ask(again, "OFFS?"), QByteArray("RETURN:OFFS 0.00dB"));
+    }
+
+    void hostileClient()
+    {
+        QVERIFY(start("--seed 3"));
+        Client client(m_simulator);
+        send(client, QByteArray(1000000, 'x') + QByteArray("\n\0\n", 3));
+        QCOMPARE(line(client), QByteArray("RETURN:ERR -113,Undefined header"));
+        send(client, "\r\n\n  \nFREQ %s%n%1\n");
+        QCOMPARE(line(client), QByteArray("RETURN:ERR -104,Data type error"));
+        // Everything that comes at once is answered, in order.
+        send(client, QByteArray("OFFS 1\nOFFS?\nOFFS 2\nOFFS?\n").repeated(1000));
+        for (int i = 0; i < 2000; ++i) {
+            QCOMPARE(line(client), QByteArray("RETURN:OK"));
+            QCOMPARE(line(client), "RETURN:OFFS " + QByteArray::number(1 + i % 2) + ".00dB");
+        }
+    }
+
+    void clientThatOnlySendsHasToWait()
+    {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        QTcpSocket client;
+        client.setReadBufferSize(1);
+        client.connectToHost(server.serverAddress(), server.serverPort());
+        QTRY_VERIFY(server.hasPendingConnections());
+        QTcpSocket *const socket = server.nextPendingConnection();
+        sim::TcpLink link(socket);
+        QByteArray echoed;
+        connect(&link, &sim::TcpLink::received, this, [&](const QByteArray &bytes) {
+            echoed += bytes;
+            link.send(bytes);
+        });
+        // More than fits between the two, so that the rest is left with the link.
+        const QByteArray unread(32 * 1024 * 1024, '.');
+        link.send(unread);
+        QVERIFY(socket->bytesToWrite() > 0);
+        const QByteArray sent = QByteArray("0123456789\n").repeated(50000);
+        client.write(sent);
+        QTRY_VERIFY(socket->bytesAvailable() > 0);
+        QCOMPARE(echoed, QByteArray());
+        // Once it reads, everything comes through, in order.
+        QByteArray answer;
+        connect(&client, &QTcpSocket::readyRead, this, [&] { answer += client.readAll(); });
+        client.setReadBufferSize(0);
+        QTRY_COMPARE_WITH_TIMEOUT(answer.size(), unread.size() + sent.size(), 30000);
+        QVERIFY(answer.endsWith(sent) && echoed == sent);
+    }
+
+    void antennaOnTurntable()
+    {
+        const QTemporaryDir folder;
+        const QByteArray path = fileWith(folder, "t\nn\nAngle,Power\n0,20\n30,-3.25\n");
+        QVERIFY(start("--rotator 0 --rotator-speed 3600 --pattern " + path));
+        Client meter(m_simulator);
+        Client rotator(m_simulator, m_simulator.rotatorPort());
+        QCOMPARE(ask(meter, "GET?"), QByteArray("RETURN:GET 20.00dBm,20.00dBm"));
+        QCOMPARE(ask(rotator, "P 390 0"), QByteArray("RPRT 0"));
+        QByteArray azimuth;
+        while (azimuth != "390.00" && azimuth != "(nothing)") {
+            azimuth = ask(rotator, "p");
+            line(rotator);
+        }
+        QCOMPARE(ask(meter, "GET?"), QByteArray("RETURN:GET -3.25dBm,-3.25dBm"));
+        QVERIFY(m_simulator.notes().contains(QLatin1String("rotator P 390 0")));
+    }
+
+    void scriptAndLog()
+    {
+        const QTemporaryDir folders[2];
+        const QByteArray log = fileWith(folders[0], R"(Debug: send cmd: "OFFS 5\n" 7(
+Debug: read data: "RETURN:OK\n"(
+Debug: send cmd: "REL?\n" 5(
+Debug: read data: "RETU"()");
+        QVERIFY(start("--script " + fileWith(folders[1], "0 overload\n") + " --replay " + log));
+        Client client(m_simulator);
+        QCOMPARE(ask(client, "GET?"), QByteArray("RETURN:GET OVERLOAD,OVERLOAD"));
+        QCOMPARE(ask(client, "OFFS 5"), QByteArray("RETURN:OK"));
+        send(client, "REL?\n");
+        QCOMPARE(ask(client, "OFFS?"), QByteArray("RETURETURN:OFFS 5.00dB"));
+        QVERIFY(m_simulator.notes().contains(QLatin1String("not in the log: GET?")));
+    }
+
+    void runsThatEndAtOnce()
+    {
+        QTcpServer other;
+        QVERIFY(other.listen(QHostAddress::LocalHost));
+        const QByteArray taken = "--port " + QByteArray::number(other.serverPort());
+        const QList<QPair<QByteArray, const char *>> mistakes{
+            {taken, "^Cannot listen on 127.0.0.1:\\d+: "},
+            {"--rotator" + taken.mid(6) + " --port 0", "^Cannot listen on 127.0.0.1:\\d+: "},
+            {"--pattern /nowhere/x.csv", "^Cannot read /nowhere/x.csv: "},
+            {"--port=x --noise=y", "^[^\n]*--port[^\n]*\n(.*\n)*Usage: "}};
+        const auto run = [](QProcess &process, const QByteArray &arguments) {
+            process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), words(arguments));
+            return process.waitForFinished(patience) &&
+                   process.exitStatus() == QProcess::NormalExit;
+        };
+        for (const auto &mistake : mistakes) {
+            QProcess process;
+            QVERIFY(run(process, mistake.first));
+            QVERIFY(process.exitCode() > 0);
+            const QString told = QString::fromLocal8Bit(process.readAllStandardError());
+            QVERIFY2(told.contains(QRegularExpression(QLatin1String(mistake.second))),
+                     qPrintable(told));
+            QCOMPARE(process.readAllStandardOutput(), QByteArray());
+        }
+        QProcess help;
+        QVERIFY(run(help, "--help") && help.exitCode() == 0);
+        const QByteArray text = help.readAllStandardOutput();
+        for (const char *word : {"--calibration-time", "--replay-timing", "cal-silent", "every=N"})
+            QVERIFY2(text.contains(word), word);
+    }
+
+#ifdef Q_OS_UNIX
+    void stopSignals()
+    {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            QProcess process;
+            process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), words("--port 0 --serial"));
+            QByteArray out;
+            while (!out.contains("Listening") && process.waitForReadyRead(patience))
+                out += process.readAllStandardOutput();
+            QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+            QVERIFY(process.waitForFinished(patience));
+            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process.exitCode(), 0);
+        }
+    }
+
+    void serialPort()
+    {
+        QVERIFY(start("--serial --calibration-time 0.1 --fault late:200,only=AVER:COUN?"));
+        Client socket(m_simulator);
+        const auto closed = [this] {
+            return m_simulator.notes().filter(QStringLiteral("closed")).size();
+        };
+        QSerialPort port;
+        QVERIFY(open(port, m_simulator.serialPath()));
+        QCOMPARE(ask(socket, "OFFS 20"), QByteArray("RETURN:OK"));
+        QCOMPARE(ask(port, "GET?\r"), QByteArray("RETURN:GET 0.00dBm,0.00dBm"));
+        // Nothing is echoed, nothing translated: control characters pass like others.
+        QCOMPARE(ask(port, "\x03\x04\x11\x1a\x7f"), QByteArray("RETURN:ERR -113,Undefined header"));
+        QVERIFY(m_simulator.commands().contains(QLatin1String("\\x03\\x04\\x11\\x1a\\x7f")));
+        // Nothing is left for the next client.
+        send(port, "OFFS?\nCAL\nAVER:COUN?\nGE");
+        QVERIFY(m_simulator.waitForCommand(QLatin1String("AVER:COUN?")));
+        port.close();
+        QTRY_COMPARE(closed(), 1);
+        QVERIFY(open(port, m_simulator.serialPath()));
+        QCOMPARE(ask(port, "AVER:COUN?"), QByteArray("RETURN:AVER:COUN 1"));
+        QCOMPARE(ask(port, "FREQ?"), QByteArray("RETURN:FREQ 50MHz"));
+    }
+
+    void dropTakesTheSerialPortAway()
+    {
+        QVERIFY(start("--serial --fault drop-inside,only=GET?,times=1"));
+        const QString path = m_simulator.serialPath();
+        QSerialPort port;
+        QVERIFY(open(port, path));
+        QCOMPARE(ask(port, "AVER:COUN 4"), QByteArray("RETURN:OK"));
+        port.write("GET?\nAVER:COUN 8\n");
+        QTRY_VERIFY(port.error() != QSerialPort::NoError);
+        QCOMPARE(port.readAll(), reading.left(15));
+        port.close();
+        // Another port leads to the same instrument.
+        QTRY_VERIFY(m_simulator.serialPath() != path);
+        QVERIFY(open(port, m_simulator.serialPath()));
+        QCOMPARE(ask(port, "AVER:COUN?"), QByteArray("RETURN:AVER:COUN 4"));
+    }
+#endif
+};
 
 MZ_TEST_GUILESS_MAIN(TestSimulator)
 #include "tst_simulator.moc"

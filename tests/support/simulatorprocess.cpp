@@ -93,6 +93,12 @@ quint16 SimulatorProcess::port()
     return m_port;
 }
 
+quint16 SimulatorProcess::rotatorPort()
+{
+    readOutput();
+    return m_rotatorPort;
+}
+
 QString SimulatorProcess::serialPath()
 {
     readOutput();
@@ -134,6 +140,7 @@ bool SimulatorProcess::launch(const QStringList &arguments)
     m_read = 0;
     m_address.clear();
     m_port = 0;
+    m_rotatorPort = 0;
     m_serialPath.clear();
     m_commands.clear();
     m_replies.clear();
@@ -171,6 +178,8 @@ void SimulatorProcess::readOutput()
         if (line.startsWith(listening)) {
             m_address = line.section(QLatin1Char(':'), 0, -2).mid(listening.size());
             m_port = line.section(QLatin1Char(':'), -1).toUShort();
+        } else if (line.startsWith(QLatin1String("Rotator on "))) {
+            m_rotatorPort = line.section(QLatin1Char(':'), -1).toUShort();
         } else if (line.startsWith(serial)) {
             m_serialPath = line.mid(serial.size());
         } else if (line.mid(timeWidth).startsWith(received)) {

@@ -28,6 +28,8 @@ public:
     /// Where it listens; empty and 0 before it is ready.
     QString address();
     quint16 port();
+    /// The port of its turntable (option "--rotator"); 0: none.
+    quint16 rotatorPort();
     /// Its serial port (option "--serial"), the latest if it changed; empty: none.
     QString serialPath();
 
@@ -51,6 +53,7 @@ private:
     qint64 m_read = 0; ///< how much of the output has been taken in
     QString m_address;
     quint16 m_port = 0;
+    quint16 m_rotatorPort = 0;
     QString m_serialPath;
     QStringList m_commands;
     QStringList m_replies;
