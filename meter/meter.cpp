@@ -24,7 +24,7 @@ bool operator==(const MeterSettings &a, const MeterSettings &b)
            a.averaging == b.averaging && a.unit == b.unit && a.isRelative == b.isRelative;
 }
 
-Meter::Meter(const MeterAddress &address, QObject *parent)
+Meter::Meter(const MeterAddress &address, const LinkWaits &waits, QObject *parent)
     : QObject(parent)
     , m_address(address)
     , m_thread(new QThread)
@@ -36,7 +36,7 @@ Meter::Meter(const MeterAddress &address, QObject *parent)
     qRegisterMetaType<MeterReading>();
     qRegisterMetaType<MeterAnswer>();
 
-    m_worker = new MeterWorker(address, m_flags);
+    m_worker = new MeterWorker(address, waits, m_flags);
     m_worker->moveToThread(m_thread);
     connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     connect(m_worker, &MeterWorker::stateChanged, this,
@@ -112,6 +112,13 @@ void Meter::read()
 void Meter::poll(int pause)
 {
     submit([pause](MeterWorker &worker) { worker.poll(pause); });
+}
+
+void Meter::askRelative()
+{
+    submit([](MeterWorker &worker) {
+        worker.set([](SerialLogic &link) { link.queryMeasureState(); });
+    });
 }
 
 void Meter::setFrequency(const QString &value, const QString &unit)

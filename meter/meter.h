@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Logic/linkwaits.h"
 #include "meter/meteraddress.h"
 #include "meter/metervalues.h"
 
@@ -27,7 +28,9 @@ public:
                 ///< each open and every ten minutes
     };
 
-    explicit Meter(const MeterAddress &address, QObject *parent = nullptr);
+    /// \a waits are for instruments and tests that need others.
+    explicit Meter(const MeterAddress &address, const LinkWaits &waits = {},
+                   QObject *parent = nullptr);
     /// Stops it.
     ~Meter() override;
 
@@ -47,6 +50,8 @@ public:
     void read();
     /// Reads again and again from now on, \a pause ms after each answer, while the link is open.
     void poll(int pause);
+    /// Asks whether the levels are relative; answered by `answered`.
+    void askRelative();
     /// Sets and reads back; answered by `answered`. \a value in \a unit ("GHz", "MHz", "KHz").
     void setFrequency(const QString &value, const QString &unit);
     void setOffset(double decibels);

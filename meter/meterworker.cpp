@@ -22,7 +22,8 @@ constexpr int patience = 3;
 
 } // namespace
 
-MeterWorker::MeterWorker(const MeterAddress &address, std::shared_ptr<MeterFlags> flags)
+MeterWorker::MeterWorker(const MeterAddress &address, const LinkWaits &waits,
+                         std::shared_ptr<MeterFlags> flags)
     : m_address(address)
     , m_flags(std::move(flags))
     , m_link(this)
@@ -30,6 +31,7 @@ MeterWorker::MeterWorker(const MeterAddress &address, std::shared_ptr<MeterFlags
     , m_pollTimer(this)
     , m_describeTimer(this)
 {
+    m_link.setWaits(waits);
     m_link.setLinkMode(address.mode);
     m_link.setCancel([flags = m_flags] { return flags->isStopped.load(); });
     m_link.setDropsLateInput(true);

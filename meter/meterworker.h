@@ -29,7 +29,8 @@ class MeterWorker : public QObject
     Q_OBJECT
 
 public:
-    MeterWorker(const MeterAddress &address, std::shared_ptr<MeterFlags> flags);
+    MeterWorker(const MeterAddress &address, const LinkWaits &waits,
+                std::shared_ptr<MeterFlags> flags);
 
     /// Carries \a work out when all that came before it is done.
     void submit(std::function<void()> work);
@@ -38,7 +39,7 @@ public:
     void describe();
     void read();
     void poll(int pause);
-    /// Lets \a setting send one.
+    /// Lets \a setting set or ask for one.
     void set(const std::function<void(SerialLogic &)> &setting);
     void run(MeterTask task);
 
