@@ -2,6 +2,7 @@
 
 #include "Logic/outcome.h"
 #include "measure/reading.h"
+#include "meter/steadyclock.h"
 
 #include <QMetaType>
 #include <QString>
@@ -36,13 +37,12 @@ struct MeterDescription
     Outcome outcome = Outcome::Ok; ///< the first that was not `Ok`
 };
 
-/// One reading, with the moment at which its reply came or was given up.
+/// One reading, and when its reply came or was given up.
 struct MeterReading
 {
     Reading reading; ///< valid exactly where `outcome` is `Ok`
     Outcome outcome = Outcome::Ok;
-    qint64 steady = 0; ///< by steadyNow()
-    qint64 wall = 0;   ///< ms since 1970 in UTC
+    Moment at;
 };
 
 /// How a setting, zeroing or calibration ended.

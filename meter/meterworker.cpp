@@ -1,9 +1,7 @@
 #include "meter/meterworker.h"
 
 #include "Logic/replyparser.h"
-#include "meter/steadyclock.h"
 
-#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QRandomGenerator>
@@ -246,7 +244,7 @@ void MeterWorker::read()
         value = Reading::missing(value.text);
     const bool wasOpen = m_isLinkOpen;
     if (wasOpen || m_pollPause < 0)
-        emit reading({value, answer.outcome, steadyNow(), QDateTime::currentMSecsSinceEpoch()});
+        emit reading({value, answer.outcome, momentNow()});
     const bool isToBeDescribed = m_keepsOpen && answer.outcome == Outcome::Timeout;
     settle(answer.outcome);
     if (isToBeDescribed && m_isLinkOpen)

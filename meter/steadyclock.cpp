@@ -1,10 +1,24 @@
 #include "meter/steadyclock.h"
 
+#include <QDateTime>
+
 #ifdef Q_OS_LINUX
 #include <ctime>
 #else
 #include <chrono>
 #endif
+
+Moment momentNow()
+{
+    // A process that is stopped between the two looks would see a step of the wall clock.
+    constexpr qint64 apart = 10000000; // ns
+    Moment now;
+    do {
+        now.steady = steadyNow();
+        now.wall = QDateTime::currentMSecsSinceEpoch();
+    } while (steadyNow() - now.steady > apart);
+    return now;
+}
 
 qint64 steadyNow()
 {
