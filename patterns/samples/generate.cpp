@@ -23,12 +23,14 @@ bool writeAll(const QDir &folder)
         if (!write(folder.filePath(curve.fileName), curveFile(curve)))
             return false;
     }
-    return write(folder.filePath(QStringLiteral("loss-table.csv")), sampleLossTable());
+    return write(folder.filePath(QStringLiteral("panel.msi")), samplePanelMsi()) &&
+           write(folder.filePath(QStringLiteral("panel.adf")), samplePanelNsma()) &&
+           write(folder.filePath(QStringLiteral("loss-table.csv")), sampleLossTable());
 }
 
 } // namespace
 
-/// Writes the sample curves and the sample loss table into the folder named on the command line.
+/// Writes the computed samples into the folder named on the command line.
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);

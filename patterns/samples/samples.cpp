@@ -1,6 +1,8 @@
 #include "patterns/samples/samples.h"
 
 #include "2d/data/curvetext.h"
+#include "patterns/formats/msiformat.h"
+#include "patterns/formats/nsmaformat.h"
 #include "patterns/samples/antennaformulas.h"
 
 #include <algorithm>
@@ -28,6 +30,35 @@ QVector<QPointF> cut(double last, double step, double directivity,
     for (int i = -half; i <= half; ++i)
         points.append({i * step, dB(field(i * step), directivity)});
     return points;
+}
+
+constexpr double panelDirectivity = 40.0;
+constexpr double panelTilt = 4.0; // degrees below the horizon
+
+/// The panel's cuts on whole degrees of the circle, \a down being the sign of angles below the
+/// horizon.
+QVector<PatternFormats::Cut> panelCuts(double down)
+{
+    constexpr double behind = -22.0; // dBi that the reflector lets pass at least
+    PatternFormats::Cut azimuth;
+    PatternFormats::Cut elevation;
+    for (int degree = -179; degree <= 180; ++degree) {
+        const double element = AntennaFormulas::horn(degree, 1.0);
+        const double array = AntennaFormulas::uniformArray(degree - down * panelTilt, 8);
+        azimuth.points.append({double(degree), std::max(behind, dB(element, panelDirectivity))});
+        elevation.points.append(
+            {double(degree), std::max(behind, dB(element * array, panelDirectivity))});
+    }
+    azimuth.name = QStringLiteral("Panel 1800 AZ V/V");
+    elevation.name = QStringLiteral("Panel 1800 EL V/V");
+    for (PatternFormats::Cut *cut : {&azimuth, &elevation}) {
+        cut->frequency = QStringLiteral("1800");
+        cut->details = {{QStringLiteral("MODNUM"), QStringLiteral("Panel 1800")},
+                        {QStringLiteral("MAKE"), QStringLiteral("Computed sample")},
+                        {QStringLiteral("POLARIZATION"), QStringLiteral("V/V")},
+                        {QStringLiteral("COMMENT"), QStringLiteral("Tilted 4 degrees down")}};
+    }
+    return {azimuth, elevation};
 }
 
 } // namespace
@@ -70,4 +101,17 @@ QByteArray sampleLossTable()
                              "switch,upside,transmit path,dB,0.2,0.2,0.3,0.35,0.45,0.7\n"
                              "cable,downside,RG-214 5 m,dB,0.78,0.9,1.35,1.63,2.05,2.9\n"
                              "switch,downside,receive path,dB,0.25,0.25,0.35,0.4,0.5,0.75\n");
+}
+
+QByteArray samplePanelMsi()
+{
+    const QVector<PatternFormats::Cut> cuts = panelCuts(1.0);
+    return MsiFormat::write({QStringLiteral("Panel 1800"), QStringLiteral("1800"),
+                             cuts.first().details, cuts.first().points, cuts.last().points})
+        .bytes;
+}
+
+QByteArray samplePanelNsma()
+{
+    return NsmaFormat::write(panelCuts(-1.0));
 }

@@ -22,3 +22,8 @@ QByteArray curveFile(const SampleCurve &curve);
 
 /// A loss table from 700 MHz to 6000 MHz, so that the horn's 10 GHz lie beyond it.
 QByteArray sampleLossTable();
+
+/// A sector panel of eight elements at 1800 MHz, its beam tilted 4 degrees to the ground, as a
+/// planning tool's file (elevation counts down) and as a maker's file (elevation counts up).
+QByteArray samplePanelMsi();
+QByteArray samplePanelNsma();

@@ -1135,6 +1135,85 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>MsiFormat</name>
+    <message>
+        <source>There is no GAIN: 0 dBi is taken.</source>
+        <translation>没有 GAIN：按 0 dBi 处理。</translation>
+    </message>
+    <message>
+        <source>There is neither a HORIZONTAL nor a VERTICAL cut.</source>
+        <translation>既没有 HORIZONTAL 切面，也没有 VERTICAL 切面。</translation>
+    </message>
+    <message>
+        <source>A row of numbers before HORIZONTAL and VERTICAL.</source>
+        <translation>在 HORIZONTAL 和 VERTICAL 之前出现了数据行。</translation>
+    </message>
+    <message>
+        <source>Not an angle and a loss: &quot;%1&quot;.</source>
+        <translation>不是角度和损耗：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>The file ends within a row: it has been cut off.</source>
+        <translation>文件在一行中间结束：内容不完整。</translation>
+    </message>
+    <message>
+        <source>%1 announces %2 rows, but more follow.</source>
+        <translation>%1 声明了 %2 行，但后面的行数更多。</translation>
+    </message>
+    <message>
+        <source>No number of rows: &quot;%1&quot;.</source>
+        <translation>缺少行数：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>There is a second cut %1.</source>
+        <translation>出现了第二个 %1 切面。</translation>
+    </message>
+    <message>
+        <source>%1 announces %2 rows, but %3 follow.</source>
+        <translation>%1 声明了 %2 行，实际为 %3 行。</translation>
+    </message>
+    <message>
+        <source>Unknown key: %1.</source>
+        <translation>未知关键字：%1。</translation>
+    </message>
+    <message>
+        <source>GAIN is no number: &quot;%1&quot;.</source>
+        <translation>GAIN 不是数字：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>FREQUENCY is no frequency and was left out: &quot;%1&quot;.</source>
+        <translation>FREQUENCY 不是频率，已忽略：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>There is no NAME: the file&apos;s name is taken.</source>
+        <translation>没有 NAME：采用文件名。</translation>
+    </message>
+    <message>
+        <source>There is no HORIZONTAL cut.</source>
+        <translation>没有 HORIZONTAL 切面。</translation>
+    </message>
+    <message>
+        <source>There is no VERTICAL cut.</source>
+        <translation>没有 VERTICAL 切面。</translation>
+    </message>
+    <message>
+        <source>%1: the minus sign of %2 losses is ignored.</source>
+        <translation>%1：%2 个损耗值的负号已忽略。</translation>
+    </message>
+    <message>
+        <source>%1 does not go round the circle: there is nothing from %2° to %3°.</source>
+        <translation>%1未覆盖整个圆周：从 %2° 到 %3° 没有数据。</translation>
+    </message>
+    <message>
+        <source>The horizontal cut</source>
+        <translation>水平切面</translation>
+    </message>
+    <message>
+        <source>The vertical cut</source>
+        <translation>垂直切面</translation>
+    </message>
+</context>
+<context>
     <name>MyParaInfoTable</name>
     <message>
         <source>Pattern parameters</source>
@@ -1183,6 +1262,88 @@ correction</source>
     <message>
         <source>CrossPolarRatio</source>
         <translation>交叉极化比</translation>
+    </message>
+</context>
+<context>
+    <name>NecFormat</name>
+    <message>
+        <source>The listing holds no radiation pattern.</source>
+        <translation>列表中没有辐射方向图。</translation>
+    </message>
+    <message>
+        <source>Fewer than five numbers in a row of the pattern.</source>
+        <translation>方向图的一行中数字少于五个。</translation>
+    </message>
+    <message>
+        <source>The file ends within a row: it has been cut off.</source>
+        <translation>文件在一行中间结束：内容不完整。</translation>
+    </message>
+    <message>
+        <source>The pattern has %1 rows of %2: the listing has been cut off.</source>
+        <translation>方向图有 %1 行，应有 %2 行：列表不完整。</translation>
+    </message>
+    <message>
+        <source>The listing ends with a row of the pattern: it may have been cut off.</source>
+        <translation>列表以方向图的一行结束：内容可能不完整。</translation>
+    </message>
+</context>
+<context>
+    <name>NsmaFormat</name>
+    <message>
+        <source>The file holds no cut.</source>
+        <translation>文件中没有切面。</translation>
+    </message>
+    <message>
+        <source>NUPOIN is no number: &quot;%1&quot;.</source>
+        <translation>NUPOIN 不是数字：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>GUNITS are none that are known: &quot;%1&quot;.</source>
+        <translation>未知的 GUNITS 单位：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>Neither a key nor a row of a cut: &quot;%1&quot;.</source>
+        <translation>既不是关键字，也不是切面数据：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>Not an angle and a level: &quot;%1&quot;.</source>
+        <translation>不是角度和电平：&quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>The file ends within a row: it has been cut off.</source>
+        <translation>文件在一行中间结束：内容不完整。</translation>
+    </message>
+    <message>
+        <source>There are no GUNITS: DBI/DBR is taken.</source>
+        <translation>没有 GUNITS：按 DBI/DBR 处理。</translation>
+    </message>
+    <message>
+        <source>%1 is no number: &quot;%2&quot;.</source>
+        <translation>%1 不是数字：&quot;%2&quot;。</translation>
+    </message>
+    <message>
+        <source>There is no gain: 0 dBi is taken.</source>
+        <translation>没有增益：按 0 dBi 处理。</translation>
+    </message>
+    <message>
+        <source>ENDFIL is missing, though all rows are there.</source>
+        <translation>缺少 ENDFIL，但数据行齐全。</translation>
+    </message>
+    <message>
+        <source>The file ends before ENDFIL: it has been cut off.</source>
+        <translation>文件在 ENDFIL 之前结束：内容不完整。</translation>
+    </message>
+    <message>
+        <source>NUPOIN announces %1 rows, but %2 follow.</source>
+        <translation>NUPOIN 声明了 %1 行，实际为 %2 行。</translation>
+    </message>
+    <message>
+        <source>%1 rows without any field were left out.</source>
+        <translation>已忽略 %1 个无场强的行。</translation>
+    </message>
+    <message>
+        <source>The cut holds no row and was left out.</source>
+        <translation>该切面没有数据，已忽略。</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1422,33 @@ correction</source>
     <message>
         <source>Amplitude</source>
         <translation>幅度</translation>
+    </message>
+</context>
+<context>
+    <name>PatternFormats</name>
+    <message>
+        <source>Maker</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Polarisation</source>
+        <translation>极化</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>

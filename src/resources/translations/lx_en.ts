@@ -1135,6 +1135,85 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>MsiFormat</name>
+    <message>
+        <source>There is no GAIN: 0 dBi is taken.</source>
+        <translation>There is no GAIN: 0 dBi is taken.</translation>
+    </message>
+    <message>
+        <source>There is neither a HORIZONTAL nor a VERTICAL cut.</source>
+        <translation>There is neither a HORIZONTAL nor a VERTICAL cut.</translation>
+    </message>
+    <message>
+        <source>A row of numbers before HORIZONTAL and VERTICAL.</source>
+        <translation>A row of numbers before HORIZONTAL and VERTICAL.</translation>
+    </message>
+    <message>
+        <source>Not an angle and a loss: &quot;%1&quot;.</source>
+        <translation>Not an angle and a loss: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The file ends within a row: it has been cut off.</source>
+        <translation>The file ends within a row: it has been cut off.</translation>
+    </message>
+    <message>
+        <source>%1 announces %2 rows, but more follow.</source>
+        <translation>%1 announces %2 rows, but more follow.</translation>
+    </message>
+    <message>
+        <source>No number of rows: &quot;%1&quot;.</source>
+        <translation>No number of rows: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>There is a second cut %1.</source>
+        <translation>There is a second cut %1.</translation>
+    </message>
+    <message>
+        <source>%1 announces %2 rows, but %3 follow.</source>
+        <translation>%1 announces %2 rows, but %3 follow.</translation>
+    </message>
+    <message>
+        <source>Unknown key: %1.</source>
+        <translation>Unknown key: %1.</translation>
+    </message>
+    <message>
+        <source>GAIN is no number: &quot;%1&quot;.</source>
+        <translation>GAIN is no number: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>FREQUENCY is no frequency and was left out: &quot;%1&quot;.</source>
+        <translation>FREQUENCY is no frequency and was left out: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no NAME: the file&apos;s name is taken.</source>
+        <translation>There is no NAME: the file&apos;s name is taken.</translation>
+    </message>
+    <message>
+        <source>There is no HORIZONTAL cut.</source>
+        <translation>There is no HORIZONTAL cut.</translation>
+    </message>
+    <message>
+        <source>There is no VERTICAL cut.</source>
+        <translation>There is no VERTICAL cut.</translation>
+    </message>
+    <message>
+        <source>%1: the minus sign of %2 losses is ignored.</source>
+        <translation>%1: the minus sign of %2 losses is ignored.</translation>
+    </message>
+    <message>
+        <source>%1 does not go round the circle: there is nothing from %2° to %3°.</source>
+        <translation>%1 does not go round the circle: there is nothing from %2° to %3°.</translation>
+    </message>
+    <message>
+        <source>The horizontal cut</source>
+        <translation>The horizontal cut</translation>
+    </message>
+    <message>
+        <source>The vertical cut</source>
+        <translation>The vertical cut</translation>
+    </message>
+</context>
+<context>
     <name>MyParaInfoTable</name>
     <message>
         <source>Pattern parameters</source>
@@ -1183,6 +1262,88 @@ correction</translation>
     <message>
         <source>CrossPolarRatio</source>
         <translation>CrossPolarRatio</translation>
+    </message>
+</context>
+<context>
+    <name>NecFormat</name>
+    <message>
+        <source>The listing holds no radiation pattern.</source>
+        <translation>The listing holds no radiation pattern.</translation>
+    </message>
+    <message>
+        <source>Fewer than five numbers in a row of the pattern.</source>
+        <translation>Fewer than five numbers in a row of the pattern.</translation>
+    </message>
+    <message>
+        <source>The file ends within a row: it has been cut off.</source>
+        <translation>The file ends within a row: it has been cut off.</translation>
+    </message>
+    <message>
+        <source>The pattern has %1 rows of %2: the listing has been cut off.</source>
+        <translation>The pattern has %1 rows of %2: the listing has been cut off.</translation>
+    </message>
+    <message>
+        <source>The listing ends with a row of the pattern: it may have been cut off.</source>
+        <translation>The listing ends with a row of the pattern: it may have been cut off.</translation>
+    </message>
+</context>
+<context>
+    <name>NsmaFormat</name>
+    <message>
+        <source>The file holds no cut.</source>
+        <translation>The file holds no cut.</translation>
+    </message>
+    <message>
+        <source>NUPOIN is no number: &quot;%1&quot;.</source>
+        <translation>NUPOIN is no number: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>GUNITS are none that are known: &quot;%1&quot;.</source>
+        <translation>GUNITS are none that are known: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Neither a key nor a row of a cut: &quot;%1&quot;.</source>
+        <translation>Neither a key nor a row of a cut: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Not an angle and a level: &quot;%1&quot;.</source>
+        <translation>Not an angle and a level: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The file ends within a row: it has been cut off.</source>
+        <translation>The file ends within a row: it has been cut off.</translation>
+    </message>
+    <message>
+        <source>There are no GUNITS: DBI/DBR is taken.</source>
+        <translation>There are no GUNITS: DBI/DBR is taken.</translation>
+    </message>
+    <message>
+        <source>%1 is no number: &quot;%2&quot;.</source>
+        <translation>%1 is no number: &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no gain: 0 dBi is taken.</source>
+        <translation>There is no gain: 0 dBi is taken.</translation>
+    </message>
+    <message>
+        <source>ENDFIL is missing, though all rows are there.</source>
+        <translation>ENDFIL is missing, though all rows are there.</translation>
+    </message>
+    <message>
+        <source>The file ends before ENDFIL: it has been cut off.</source>
+        <translation>The file ends before ENDFIL: it has been cut off.</translation>
+    </message>
+    <message>
+        <source>NUPOIN announces %1 rows, but %2 follow.</source>
+        <translation>NUPOIN announces %1 rows, but %2 follow.</translation>
+    </message>
+    <message>
+        <source>%1 rows without any field were left out.</source>
+        <translation>%1 rows without any field were left out.</translation>
+    </message>
+    <message>
+        <source>The cut holds no row and was left out.</source>
+        <translation>The cut holds no row and was left out.</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1422,33 @@ correction</translation>
     <message>
         <source>Amplitude</source>
         <translation>Amplitude</translation>
+    </message>
+</context>
+<context>
+    <name>PatternFormats</name>
+    <message>
+        <source>Maker</source>
+        <translation>Maker</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Polarisation</source>
+        <translation>Polarisation</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
