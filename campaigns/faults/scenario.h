@@ -28,7 +28,7 @@ enum class Deed {
 };
 
 /// How the link has to stand when all deeds are done and the console has come to rest.
-enum class Outcome { Open, Closed, Either };
+enum class Ending { Open, Closed, Either };
 
 /// One row of the campaign; its name alone says everything about it.
 struct Scenario
@@ -38,7 +38,7 @@ struct Scenario
     LinkMode mode = serialLink;
     QStringList faults; ///< as the simulator takes them
     QVector<Deed> deeds;
-    Outcome outcome = Outcome::Either;
+    Ending outcome = Ending::Either;
     int errorBoxes = -1;      ///< how many there must be; -1: it depends
     bool reachesFault = true; ///< whether the faults must have befallen something
 };

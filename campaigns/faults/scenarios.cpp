@@ -139,12 +139,12 @@ void expect(Scenario &scenario, const QString &kind, const Place &place)
     const bool ends = drops || (isTask(place) && resultless.contains(kind));
     if (place.name == QByteArray("closing")) {
         // A wished-for close is no error, whatever happens meanwhile.
-        scenario.outcome = Outcome::Open;
+        scenario.outcome = Ending::Open;
         scenario.errorBoxes = 0;
     } else if (isTask(place) && kind == QLatin1String("garbage")) {
-        scenario.outcome = Outcome::Either; // it depends on where the stray bytes fall
+        scenario.outcome = Ending::Either; // it depends on where the stray bytes fall
     } else {
-        scenario.outcome = ends ? Outcome::Closed : Outcome::Open;
+        scenario.outcome = ends ? Ending::Closed : Ending::Open;
         scenario.errorBoxes = ends ? 1 : 0;
     }
 }
@@ -174,38 +174,38 @@ QVector<Scenario> fromOutside(LinkMode mode)
     {
         const char *name;
         QVector<Deed> deeds;
-        Outcome outcome;
+        Ending outcome;
         int errorBoxes;
     };
     QVector<Outside> list{
-        {"nobody there", {Deed::OpenNowhere}, Outcome::Closed, 1},
+        {"nobody there", {Deed::OpenNowhere}, Ending::Closed, 1},
         {"nobody there, then somebody",
          {Deed::OpenNowhere, Deed::Open, Deed::Poll},
-         Outcome::Open,
+         Ending::Open,
          1},
         {"nothing goes wrong",
          {Deed::Open, Deed::Poll, Deed::Zero, Deed::SetFrequency, Deed::Record, Deed::Close,
           Deed::Open, Deed::Poll},
-         Outcome::Open,
+         Ending::Open,
          0},
-        {"off while polled", {Deed::Open, Deed::Poll, Deed::StopInstrument}, Outcome::Closed, 1},
+        {"off while polled", {Deed::Open, Deed::Poll, Deed::StopInstrument}, Ending::Closed, 1},
         {"off before a setting",
          {Deed::Open, Deed::Poll, Deed::StopInstrument, Deed::SetOffset},
-         Outcome::Closed,
+         Ending::Closed,
          1},
         {"off before zeroing",
          {Deed::Open, Deed::Poll, Deed::StopInstrument, Deed::Zero},
-         Outcome::Closed,
+         Ending::Closed,
          1},
         {"off before the close",
          {Deed::Open, Deed::Poll, Deed::StopInstrument, Deed::Close},
-         Outcome::Closed,
+         Ending::Closed,
          0}};
     if (mode == lanLink)
         list.append({"busy with another client",
                      {Deed::OccupyInstrument, Deed::Open, Deed::Poll, Deed::SetOffset,
                       Deed::LeaveInstrument, Deed::Poll, Deed::Poll},
-                     Outcome::Open,
+                     Ending::Open,
                      0});
 
     QVector<Scenario> scenarios;

@@ -78,8 +78,8 @@ void Trial::checkRest()
 void Trial::checkOutcome()
 {
     const bool open = m_operator.seesOpenLink();
-    if ((m_scenario.outcome == Outcome::Open && !open) ||
-        (m_scenario.outcome == Outcome::Closed && open))
+    if ((m_scenario.outcome == Ending::Open && !open) ||
+        (m_scenario.outcome == Ending::Closed && open))
         m_result.add("state", {QStringLiteral("ended ") + m_console.text("labelLink")});
     if (m_scenario.errorBoxes >= 0 && m_witness.errorBoxes() != m_scenario.errorBoxes)
         m_result.add("boxes", {QStringLiteral("%1 error boxes instead of %2: ")
