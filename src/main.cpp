@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QIcon>
-#include <QTimer>
 
 #include <cstdio>
 
@@ -89,6 +88,6 @@ int main(int argc, char **argv)
         QApplication::closeAllWindows();
         QApplication::quit();
     });
-    QTimer::singleShot(0, &window, [&window, &options] { window.begin(options); });
+    window.beginOncePainted(options);
     return QApplication::exec();
 }

@@ -2,9 +2,11 @@
 
 #include "Logic/seriallogic.h"
 #include "connectdialog.h"
-#include "console/linksession.h"
-#include "console/startoptions.h"
+#include "console/inputgate.h"
+#include "console/recordkeeper.h"
 #include "console/writenotice.h"
+#include "frame/inputrules.h"
+#include "frame/manual.h"
 #include "messagelog.h"
 #include "storage/consolesettings.h"
 #include "ui_mainwindow.h"
@@ -17,18 +19,38 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLockFile>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
 
+#include <utility>
+
 namespace {
 
-constexpr int clockPeriod = 1000; // ms
-constexpr QSize smallestWindow{1120, 800};
+constexpr int clockPeriod = 1000;     // ms
+constexpr int longestPainting = 2000; // ms until a window is taken for one that nobody sees
+
+/// What the window needs, or what a screen that is smaller has room for.
+QSize smallestWindow()
+{
+    constexpr QSize wanted{1120, 800};
+    constexpr QSize frame{8, 40};
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr || QGuiApplication::platformName() == QLatin1String("offscreen"))
+        return wanted;
+    const QSize room = screen->availableSize();
+    return room.width() >= wanted.width() && room.height() >= wanted.height()
+               ? wanted
+               : wanted.boundedTo(room - frame);
+}
 
 std::unique_ptr<Ui::MainWindow> buildForm(QMainWindow *window)
 {
+    InputRules::install(); // before there is a box to follow them
     auto form = std::make_unique<Ui::MainWindow>();
     form->setupUi(window);
     return form;
@@ -40,28 +62,32 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(buildForm(this))
     , m_panel(m_ui.get(), this)
+    , m_settings(new SettingBoxes(m_ui.get(), this))
     , m_status(m_ui->statusBar)
+    , m_gate(new InputGate(m_status.stopButton()))
     , m_ports(m_ui->comboBoxCom)
     , m_chart(this, m_ui->horizontalLayout_8)
     , m_link(new SerialLogic(this))
-    , m_session(new LinkSession(m_link, &m_panel, &m_status, &m_chart, this))
+    , m_session(new LinkSession(m_link, this))
+    , m_records(new RecordKeeper(this))
     , m_connectDialog(new ConnectDialog(this))
     , m_wait(this)
     , m_clockTimer(new QTimer(this))
 {
-    resize(smallestWindow);
-    setMinimumSize(smallestWindow);
+    resize(smallestWindow());
+    setMinimumSize(smallestWindow());
     connectLink();
+    connectSession();
+    connect(m_settings, &SettingBoxes::wantedAgain, this, &MainWindow::send);
     connect(m_connectDialog, &ConnectDialog::openPort, this, &MainWindow::openPort);
-    connect(m_session, &LinkSession::readingDue, this, &MainWindow::readValue);
-    connect(m_session, &LinkSession::recordDue, this, &MainWindow::saveValue);
-    connect(m_session, &LinkSession::ended, this, [this] { m_wait.end(); });
-    connect(m_wait.timer(), &QTimer::timeout, this, &MainWindow::loadingTimerOut);
+    connect(&m_wait, &TaskWait::timedOut, this,
+            [this](const QString &task) { errorMessageBox(tr("%1 time out!").arg(task)); });
     m_clockTimer->setObjectName(QStringLiteral("clockTimer"));
     connect(m_clockTimer, &QTimer::timeout, this, &MainWindow::timerOut);
     m_clockTimer->start(clockPeriod);
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     m_panel.setDefaultRecordFolder();
+    m_panel.showRecords(*m_records);
 
     on_actionCommunication_by_Serial_triggered(true);
     readSettings();
@@ -74,14 +100,33 @@ MainWindow::~MainWindow()
     writeSettings();
 }
 
+void MainWindow::beginOncePainted(const StartOptions &options)
+{
+    m_startOptions = options;
+    // A window that is opened as an icon is not painted.
+    QTimer::singleShot(longestPainting, this, [this] {
+        if (const auto wished = std::exchange(m_startOptions, std::nullopt))
+            begin(*wished);
+    });
+}
+
+void MainWindow::paintEvent(QPaintEvent *event)
+{
+    QMainWindow::paintEvent(event);
+    if (const auto wished = std::exchange(m_startOptions, std::nullopt))
+        QTimer::singleShot(0, this, [this, options = *wished] { begin(options); });
+}
+
 void MainWindow::begin(const StartOptions &options)
 {
     if (!options.language.isEmpty()) {
         (options.language == QStringLiteral("cn") ? m_ui->actionCN : m_ui->actionEN)->trigger();
         updateFrequency(50, QStringLiteral("MHz"));
     }
-    WriteNotice::show(this, WriteCheck::places(m_ui->lineEditPath->text(),
+    m_logDays.begin(options.logDays);
+    WriteNotice::show(this, WriteCheck::places(m_panel.recordFolder(),
                                                MessageLog::file(QDateTime::currentDateTime())));
+    m_folderLock = WriteNotice::takeFolder(this, QCoreApplication::applicationDirPath());
     if (!options.lanHost.isEmpty()) {
         m_ui->actionCommunication_by_LAN->trigger();
         openPort(options.lanHost, instrumentTcpPort);
@@ -100,8 +145,6 @@ void MainWindow::connectLink()
         else
             QGuiApplication::restoreOverrideCursor();
     });
-    connect(m_link, &SerialLogic::errors, this, &MainWindow::errorMessageBox);
-    connect(m_link, &SerialLogic::updateSetFailed, this, &MainWindow::errorMessageBox);
     connect(m_link, &SerialLogic::updateIDN, this, &MainWindow::updateIDN);
     connect(m_link, &SerialLogic::updateFrequency, this, &MainWindow::updateFrequency);
     connect(m_link, &SerialLogic::updateOffset, this, &MainWindow::updateOffset);
@@ -117,16 +160,40 @@ void MainWindow::connectLink()
             &MainWindow::updateCalibrationFailed);
 }
 
+void MainWindow::connectSession()
+{
+    connect(m_session, &LinkSession::modeChanged, this,
+            [this](LinkMode mode) { m_panel.showLinkState(mode, false); });
+    connect(m_session, &LinkSession::stateChanged, this, &MainWindow::showLinkState);
+    connect(m_session, &LinkSession::portChanged, this,
+            [this](const QString &port, int value) { m_status.showPort(port, value); });
+    connect(m_session, &LinkSession::waitingFor, this, &MainWindow::showWaiting);
+    connect(m_session, &LinkSession::readingChanged, this, &MainWindow::showReading);
+    connect(m_session, &LinkSession::settingConfirmed, this, &MainWindow::tellConfirmed);
+    connect(m_session, &LinkSession::settingRefused, this, &MainWindow::tellRefused);
+    connect(m_session, &LinkSession::linkLost, this, &MainWindow::errorMessageBox);
+    connect(m_session, &LinkSession::failed, this, &MainWindow::errorMessageBox);
+    connect(m_session, &LinkSession::readingDue, this, &MainWindow::readValue);
+    connect(m_session, &LinkSession::recordDue, this, &MainWindow::saveValue);
+    m_session->setRecordInterval([this] { return m_panel.recordInterval(); });
+    connect(m_status.stopButton(), &QPushButton::clicked, m_session, &LinkSession::stopOpening);
+    connect(m_gate, &InputGate::escaped, m_session, &LinkSession::stopOpening);
+    connect(m_records, &RecordKeeper::changed, this, [this] { m_panel.showRecords(*m_records); });
+    connect(m_records, &RecordKeeper::failed, this, [this](const QString &reason) {
+        m_status.showNotice([reason] { return tr("Records are not written: %1").arg(reason); });
+    });
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    m_session->close(StatusLabels::Link::Closed);
+    m_session->close();
     QMainWindow::closeEvent(event);
 }
 
 void MainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
-    m_panel.fitReading();
+    m_panel.fit();
 }
 
 // --- The link
@@ -142,10 +209,47 @@ void MainWindow::setLinkMode(LinkMode mode)
     m_connectDialog->setLinkMode(mode);
 }
 
+void MainWindow::showLinkState(LinkSession::State state)
+{
+    const bool isSerial = m_session->mode() == serialLink;
+    switch (state) {
+    case LinkSession::State::Closed:
+        m_wait.end();
+        m_chart.restartTime();
+        m_settings->forget();
+        m_status.clearNotice();
+        m_status.showLink(m_session->isDisconnected() ? StatusLabels::Link::Disconnected
+                                                      : StatusLabels::Link::Closed);
+        m_panel.showLinkState(m_session->mode(), false);
+        break;
+    case LinkSession::State::Opening:
+        m_settings->forget();
+        m_status.showLink(isSerial ? StatusLabels::Link::Open : StatusLabels::Link::Connected);
+        m_panel.showLinkState(m_session->mode(), true);
+        break;
+    case LinkSession::State::Open: // the panel stays as the instrument's answers left it
+        m_chart.clear();
+        break;
+    }
+    showReading();
+}
+
+void MainWindow::showWaiting(const QString &what)
+{
+    const bool isWaiting = !what.isEmpty();
+    m_gate->setClosed(isWaiting);
+    m_status.stopButton()->setVisible(isWaiting);
+    if (!isWaiting) {
+        m_status.clearNotice();
+        return;
+    }
+    m_status.showNotice([what] { return what; });
+    QCoreApplication::processEvents(); // the link blocks the window in each of its waits
+}
+
 void MainWindow::errorMessageBox(QString error)
 {
     m_session->end();
-    m_status.showLink(StatusLabels::Link::Closed);
     if (m_errorBoxOpen) {
         qWarning() << "Not shown, as an error is shown already:" << error;
         return;
@@ -173,7 +277,7 @@ void MainWindow::on_btnOpen_clicked()
 
 void MainWindow::on_btnClose_clicked()
 {
-    m_session->close(StatusLabels::Link::Closed);
+    m_session->close();
 }
 
 void MainWindow::on_actionOpen_triggered()
@@ -183,18 +287,18 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::on_actionClose_triggered()
 {
-    m_session->close(StatusLabels::Link::Closed);
+    m_session->close();
 }
 
 void MainWindow::on_actionConnect_triggered()
 {
-    m_connectDialog->setIP(m_session->ipAddress());
+    m_connectDialog->setIP(m_session->proposedAddress());
     m_connectDialog->show();
 }
 
 void MainWindow::on_actionDisconnect_triggered()
 {
-    m_session->close(StatusLabels::Link::Disconnected);
+    m_session->disconnectLink();
 }
 
 void MainWindow::on_actionCommunication_by_Serial_triggered(bool checked)
@@ -219,6 +323,8 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Escape && m_settings->putBack(watched))
+            return true;
         const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
         if (enter && watched == m_ui->doubleSpinBoxFreq)
             on_btnSetFreq_clicked();
@@ -232,65 +338,86 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 
 void MainWindow::on_btnSetFreq_clicked()
 {
-    m_session->stopPolling();
-    m_ui->doubleSpinBoxFreq->interpretText(); // what was typed may not have been taken over yet
-    m_link->setFrequency(m_panel.frequency(), m_ui->comboBoxUnit->currentText());
+    send(Setting::Frequency);
 }
 
 void MainWindow::on_comboBoxUnit_currentIndexChanged(const QString &arg1)
 {
-    m_panel.changeFrequencyUnit(arg1);
+    m_settings->changeFrequencyUnit(arg1);
 }
 
 void MainWindow::on_btnSetOffset_clicked()
 {
-    m_session->stopPolling();
-    m_ui->doubleSpinBoxOffset->interpretText();
-    m_link->setOffset(m_ui->doubleSpinBoxOffset->value());
+    send(Setting::Offset);
 }
 
 void MainWindow::on_btnSetAverageCount_clicked()
 {
-    m_session->stopPolling();
-    m_ui->spinBoxAverageCount->interpretText();
-    m_link->setAverageCount(m_ui->spinBoxAverageCount->value());
+    send(Setting::AverageCount);
 }
 
 void MainWindow::on_radioButtonRelativeON_clicked()
 {
     // Also on the button that is on already: "ON" again takes a new reference. When the change of
     // the button has ended the link just now, it has been told.
-    if (!m_session->isOpen())
-        return;
-    on_radioButtonRelativeON_toggled(m_ui->radioButtonRelativeON->isChecked());
+    if (m_session->isOpen())
+        choose(Setting::RelativeState, m_ui->radioButtonRelativeON->isChecked());
 }
 
 void MainWindow::on_radioButtonRelativeON_toggled(bool checked)
 {
-    m_session->stopPolling();
-    if (checked)
-        m_link->setMeasureState(QStringLiteral("ON"));
+    choose(Setting::RelativeState, checked);
 }
 
 void MainWindow::on_radioButtonRelativeOFF_toggled(bool checked)
 {
-    m_session->stopPolling();
-    if (checked)
-        m_link->setMeasureState(QStringLiteral("OFF"));
+    choose(Setting::RelativeState, checked);
 }
 
 void MainWindow::on_radioButtondBm_toggled(bool checked)
 {
-    m_session->stopPolling();
-    if (checked)
-        m_link->setPowerUnit(QStringLiteral("dBm"));
+    choose(Setting::PowerUnit, checked);
 }
 
 void MainWindow::on_radioButtonW_toggled(bool checked)
 {
+    choose(Setting::PowerUnit, checked);
+}
+
+void MainWindow::choose(Setting setting, bool checked)
+{
+    // Of the two buttons of a choice the one that is left only lets polling rest.
     m_session->stopPolling();
-    if (checked)
-        m_link->setPowerUnit(QStringLiteral("W"));
+    if (!checked)
+        return;
+    send(setting);
+}
+
+void MainWindow::send(Setting setting)
+{
+    m_settings->ask(setting);
+    m_session->change(setting,
+                      [this, setting](SerialLogic &link) { m_settings->send(setting, link); });
+}
+
+void MainWindow::tellConfirmed(Setting setting)
+{
+    if (m_session->isOpening())
+        return;
+    if (m_settings->disagreement(setting).isEmpty())
+        m_status.clearNotice();
+    else
+        m_status.showNotice([this, setting] { return m_settings->disagreement(setting); });
+}
+
+void MainWindow::tellRefused(Setting setting)
+{
+    m_status.showNotice([setting] {
+        return tr("%1 was not confirmed. Polling rests until it is set again or the link is opened "
+                  "anew.")
+            .arg(SettingBoxes::nameOf(setting));
+    });
+    showReading();
 }
 
 void MainWindow::updateIDN(QString idn)
@@ -301,32 +428,32 @@ void MainWindow::updateIDN(QString idn)
 
 void MainWindow::updateFrequency(double freq, QString unit)
 {
-    m_panel.showFrequency(freq, unit);
-    m_session->startPolling();
+    m_settings->showFrequency(freq, unit);
+    m_session->confirm(Setting::Frequency);
 }
 
 void MainWindow::updateOffset(double offset)
 {
-    m_ui->doubleSpinBoxOffset->setValue(offset);
-    m_session->startPolling();
+    m_settings->showOffset(offset);
+    m_session->confirm(Setting::Offset);
 }
 
 void MainWindow::updateAverageCount(int count)
 {
-    m_ui->spinBoxAverageCount->setValue(count);
-    m_session->startPolling();
+    m_settings->showAverageCount(count);
+    m_session->confirm(Setting::AverageCount);
 }
 
 void MainWindow::updatePowerUnit(QString unit)
 {
-    m_panel.showPowerUnit(unit);
-    m_session->startPolling();
+    m_settings->showPowerUnit(unit);
+    m_session->confirm(Setting::PowerUnit);
 }
 
 void MainWindow::updateRelState(QString state)
 {
-    m_panel.showRelativeState(state);
-    m_session->startPolling();
+    m_settings->showRelativeState(state);
+    m_session->confirm(Setting::RelativeState);
 }
 
 // --- Zeroing and calibration
@@ -343,26 +470,14 @@ void MainWindow::on_btnCalibration_clicked()
 
 void MainWindow::startTask(void (SerialLogic::*task)(), const QString &name)
 {
-    m_session->stopPolling();
-    (m_link->*task)();
-    if (!m_link->awaitsResult()) {
-        // The command did not go out. Of a lost link the user has been told.
-        if (m_session->isOpen())
-            m_session->startPolling();
-        return;
-    }
-    m_wait.run(name);
-}
-
-void MainWindow::loadingTimerOut()
-{
-    if (m_wait.countDown())
-        errorMessageBox(tr("%1 time out!").arg(m_wait.task()));
+    if (m_session->startTask(task))
+        m_wait.run(name);
 }
 
 void MainWindow::endTask(const std::function<void()> &showBox)
 {
     m_wait.end([this, showBox] {
+        m_session->startPolling(); // the user may be away from the box for days
         showBox();
         m_session->startPolling();
     });
@@ -392,44 +507,35 @@ void MainWindow::updateCalibrationFailed()
 
 void MainWindow::readValue()
 {
-    if (m_session->isOpen())
-        m_link->readMesureData();
-    else
-        m_session->stopPolling();
+    m_session->poll();
 }
 
 void MainWindow::updatePower(double dialValue, QString showText)
 {
-    m_panel.showReading(dialValue, showText);
-    m_session->takeReading();
+    m_session->takeReading(dialValue, showText);
+}
+
+void MainWindow::showReading()
+{
+    m_panel.showReading(*m_session);
 }
 
 void MainWindow::saveValue()
 {
-    const bool isStale = m_session->isOpen() && !m_session->isReadingCurrent();
-    if (!isStale || readForRecord())
-        m_panel.saveRecord();
-}
-
-bool MainWindow::readForRecord()
-{
-    // While a result is awaited, the instrument would answer both in one.
-    const bool isFree = !m_link->awaitsResult() && !m_wait.isRunning();
-    if (isFree)
-        m_link->readMesureData();
-    if (m_session->isReadingCurrent())
-        return true;
-    if (m_session->isOpen()) // else the link is lost, of which the user has been told
-        m_session->postponeRecord();
-    return false;
+    if (m_session->provideReading(!m_wait.isRunning()))
+        m_records->write(m_panel.recordFolder(), m_ui->doubleSpinBoxFreq->value(),
+                         m_ui->doubleSpinBoxOffset->value(), m_session->reading());
 }
 
 void MainWindow::timerOut()
 {
+    const QDateTime now = QDateTime::currentDateTime();
     m_ports.refresh();
-    m_status.showTime(QDateTime::currentDateTime());
+    m_status.showTime(now);
+    m_logDays.tick(now.date());
     if (m_session->isOpen())
-        m_chart.feed(m_ui->labelCurrentPower->text());
+        m_chart.feed(m_session->reading());
+    showReading(); // it grows old
 }
 
 void MainWindow::on_btnSetChartPeriod_clicked()
@@ -442,19 +548,35 @@ void MainWindow::on_btnReset_clicked()
 {
     saveValue();
     if (m_session->isOpen()) // the look at the instrument may have found the link lost
-        m_session->startRecords();
+        m_session->startRecords(m_panel.recordInterval());
 }
 
 void MainWindow::on_btnPath_clicked()
 {
     const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Save Dir"), m_ui->lineEditPath->text());
+        QFileDialog::getExistingDirectory(this, tr("Save Dir"), m_panel.recordFolder());
     if (!folder.isEmpty()) {
-        m_panel.setRecordFolder(folder);
+        useRecordFolder(folder);
         return;
     }
     warn(tr("No directory selected."));
     m_panel.setDefaultRecordFolder();
+}
+
+void MainWindow::on_lineEditPath_editingFinished()
+{
+    if (m_ui->lineEditPath->isModified())
+        useRecordFolder(m_ui->lineEditPath->text());
+}
+
+void MainWindow::useRecordFolder(const QString &folder)
+{
+    const auto obstacle = m_panel.chooseRecordFolder(folder);
+    if (obstacle)
+        warn(tr("No records can be written to \"%1\": %2. The folder stays as it was.")
+                 .arg(folder, *obstacle));
+    else
+        m_records->reset();
 }
 
 // --- Settings file, language and help
@@ -499,9 +621,17 @@ void MainWindow::setLanguage(const QString &code)
 {
     m_language.set(code);
     m_panel.retranslate();
+    m_settings->retranslate();
+    m_panel.showRecords(*m_records);
     m_status.retranslate();
     m_connectDialog->retranslate();
     m_chart.retranslate();
+    showReading();
+}
+
+void MainWindow::on_actionManual_triggered()
+{
+    Manual::open(this);
 }
 
 void MainWindow::on_actionHelp_triggered()

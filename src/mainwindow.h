@@ -2,7 +2,11 @@
 
 #include "Logic/linkmode.h"
 #include "console/consolepanel.h"
+#include "console/linksession.h"
+#include "console/logdays.h"
 #include "console/portlist.h"
+#include "console/settingboxes.h"
+#include "console/startoptions.h"
 #include "console/statuslabels.h"
 #include "console/taskwait.h"
 #include "console/timechart.h"
@@ -13,12 +17,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class ConnectDialog;
-class LinkSession;
+class InputGate;
+class QLockFile;
 class QTimer;
+class RecordKeeper;
 class SerialLogic;
-struct StartOptions;
 
 namespace Ui {
 class MainWindow;
@@ -29,7 +35,7 @@ class MainWindow;
 ///
 /// The window is wiring. What the link reports comes in through the update slots, what the user
 /// wishes through the slots bound to the widgets; the link's life is LinkSession's, the look of the
-/// form ConsolePanel's.
+/// form ConsolePanel's, and what is set in the instrument SettingBoxes'.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -38,10 +44,13 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// Does what the command line asks for, by the same roads as the operator's clicks.
+    /// Does what the command line asks for, as the user's clicks would.
     void begin(const StartOptions &options);
+    /// The same as soon as the window can be seen, so that nobody waits for a black one.
+    void beginOncePainted(const StartOptions &options);
 
-    /// Sends the value of a number box when Enter is pressed in it.
+    /// Sends the value of a number box when Enter is pressed in it; Escape puts back what the
+    /// instrument holds.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
@@ -69,13 +78,15 @@ public slots:
 
     void timerOut();
     void readValue();
-    void loadingTimerOut();
+    /// Counts a second of the wait for a result.
+    void loadingTimerOut() { m_wait.countDown(); }
     /// Records what is shown, after a look at the instrument when that is not its latest reading;
     /// while a result is awaited, a little later.
     void saveValue();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private slots:
@@ -87,6 +98,7 @@ private slots:
     void on_actionCommunication_by_LAN_triggered(bool checked);
     void on_actionExit_triggered() { close(); }
     void on_actionHelp_triggered();
+    void on_actionManual_triggered();
     void on_actionCN_triggered(bool checked);
     void on_actionEN_triggered(bool checked);
 
@@ -107,14 +119,26 @@ private slots:
     void on_btnResetChart_clicked() { m_chart.clear(); }
     void on_btnReset_clicked();
     void on_btnPath_clicked();
+    void on_lineEditPath_editingFinished();
 
 private:
+    using Setting = LinkSession::Setting;
+
     void connectLink();
+    void connectSession();
     void setLinkMode(LinkMode mode);
+    void showLinkState(LinkSession::State state);
+    void showWaiting(const QString &what);
+
+    void send(Setting setting);
+    void choose(Setting setting, bool checked);
+    void tellConfirmed(Setting setting);
+    void tellRefused(Setting setting);
 
     void startTask(void (SerialLogic::*task)(), const QString &name);
     void endTask(const std::function<void()> &showBox);
-    bool readForRecord();
+    void showReading();
+    void useRecordFolder(const QString &folder);
     void warn(const QString &text);
 
     void readSettings();
@@ -124,13 +148,19 @@ private:
     std::unique_ptr<Ui::MainWindow> m_ui;
     Language m_language;
     ConsolePanel m_panel;
+    SettingBoxes *m_settings;
     StatusLabels m_status;
+    InputGate *m_gate;
     PortList m_ports;
     TimeChart m_chart;
     SerialLogic *m_link;
     LinkSession *m_session;
+    RecordKeeper *m_records;
     ConnectDialog *m_connectDialog;
     TaskWait m_wait;
     QTimer *m_clockTimer;
+    std::unique_ptr<QLockFile> m_folderLock;
+    std::optional<StartOptions> m_startOptions; // until the window is painted
+    LogDays m_logDays;
     bool m_errorBoxOpen = false;
 };

@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -26,25 +27,49 @@ QString worded(QtMsgType type, const QString &message)
     return {};
 }
 
+/// Not by the system's locale, whose digits may be others than those that programs sort by.
+template<typename Time>
+QString inDigits(const Time &time, const char *format)
+{
+    return QLocale::c().toString(time, QLatin1String(format));
+}
+
 } // namespace
 
 namespace MessageLog {
 
 QString line(QtMsgType type, const QString &message, const QDateTime &when)
 {
-    return worded(type, message) + QLatin1Char('(') +
-           when.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss zzz")) + QLatin1Char(')');
+    return worded(type, message) + QLatin1Char('(') + inDigits(when, "yyyy-MM-dd hh:mm:ss zzz") +
+           QLatin1Char(')');
 }
 
 QString folder(const QDate &day)
 {
-    return QStringLiteral("Log/") + day.toString(QStringLiteral("yyyy-MM-dd"));
+    return QStringLiteral("Log/") + inDigits(day, "yyyy-MM-dd");
 }
 
 QString file(const QDateTime &when)
 {
-    return folder(when.date()) + QLatin1Char('/') + when.toString(QStringLiteral("hh")) +
-           QStringLiteral(".txt");
+    return folder(when.date()) + QLatin1Char('/') + inDigits(when, "hh") + QStringLiteral(".txt");
+}
+
+void removeOld(const QDate &today, int keep)
+{
+    if (keep <= 0)
+        return;
+    const QDir log(QStringLiteral("Log"));
+    const auto days = log.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QFileInfo &each : days) {
+        const QDate day = QDate::fromString(each.fileName(), QStringLiteral("yyyy-MM-dd"));
+        if (!day.isValid() || day.daysTo(today) < keep)
+            continue;
+        QDir folder(each.filePath());
+        const QStringList files = folder.entryList({QStringLiteral("??.txt")}, QDir::Files);
+        for (const QString &name : files)
+            folder.remove(name);
+        log.rmdir(each.fileName());
+    }
 }
 
 void handler(QtMsgType type, const QMessageLogContext &context, const QString &message)

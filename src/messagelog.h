@@ -20,6 +20,10 @@ QString folder(const QDate &day);
 /// The file for a message of \a when, one for each hour, relative to the current directory.
 QString file(const QDateTime &when);
 
+/// Removes the folders of the days before the last \a keep, of which \a today is one; 0 keeps all.
+/// Of each only files of the log go, so that a folder with anything else in it stays.
+void removeOld(const QDate &today, int keep);
+
 /// The handler for qInstallMessageHandler. A log that cannot be written never stands in the
 /// program's way: without its folder the message is dropped, without its file it only reaches
 /// standard error.

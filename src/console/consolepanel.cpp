@@ -1,31 +1,32 @@
 #include "console/consolepanel.h"
 
-#include "Logic/frequencyunit.h"
-#include "console/powerdisplay.h"
+#include "console/linksession.h"
+#include "console/recordkeeper.h"
 #include "storage/consolesettings.h"
 #include "storage/recordfile.h"
+#include "storage/writecheck.h"
 #include "ui_mainwindow.h"
 
 #include <QActionGroup>
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QListView>
-#include <QSignalBlocker>
+#include <QLocale>
+#include <QScrollBar>
+#include <QStyle>
 
 namespace {
 
-/// Checks \a button without telling the instrument what it has just told us.
-void checkSilently(QRadioButton *button)
-{
-    const QSignalBlocker blocker(button);
-    button->setChecked(true);
-}
+constexpr int scrollBarGap = 6; // between the panel and its scroll bar
 
 } // namespace
 
 ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
     : m_ui(form)
     , m_window(window)
+    , m_power({form->labelCurrentPower, form->labelPowerUnit, form->labelShowText,
+               form->labelReadingState})
 {
     auto *languages = new QActionGroup(window);
     languages->addAction(m_ui->actionCN);
@@ -33,11 +34,6 @@ ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
     m_ui->actionHelp->setVisible(false);
     m_ui->mainToolBar->hide();
     m_ui->menuTools->menuAction()->setVisible(false);
-    {
-        // The box shows kHz from its first text on, while the value is in GHz until it is set.
-        const QSignalBlocker blocker(m_ui->comboBoxUnit);
-        fillFrequencyUnits();
-    }
     setShortcuts();
     m_ui->comboBoxCom->setView(new QListView(m_ui->comboBoxCom));
     m_ui->doubleSpinBoxFreq->installEventFilter(window);
@@ -51,14 +47,7 @@ ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
 void ConsolePanel::retranslate()
 {
     m_ui->retranslateUi(m_window);
-    fillFrequencyUnits();
     setShortcuts();
-}
-
-void ConsolePanel::fillFrequencyUnits()
-{
-    m_ui->comboBoxUnit->clear();
-    m_ui->comboBoxUnit->addItems(FrequencyUnit::names());
 }
 
 void ConsolePanel::setShortcuts()
@@ -94,54 +83,29 @@ void ConsolePanel::showLinkState(LinkMode mode, bool open)
     m_ui->actionDisconnect->setVisible(!serial);
 }
 
-void ConsolePanel::showFrequency(double value, const QString &unit)
+void ConsolePanel::showReading(const LinkSession &session)
 {
-    m_ui->comboBoxUnit->setCurrentText(unit);
-    m_ui->doubleSpinBoxFreq->setValue(value);
+    const Reading &reading = session.reading();
+    auto state = PowerDisplay::State::Live;
+    if (session.state() == LinkSession::State::Closed)
+        state = PowerDisplay::State::NotConnected;
+    else if (!reading.isValid())
+        state = PowerDisplay::State::NoReading;
+    else if (session.freshness() == LinkSession::Freshness::Stale)
+        state = PowerDisplay::State::Stale;
+    m_power.show(reading, state, session.readingAge());
 }
 
-void ConsolePanel::changeFrequencyUnit(const QString &name)
+void ConsolePanel::fit()
 {
-    const double value = m_ui->doubleSpinBoxFreq->value(); // before the new range clamps it
-    const auto unit = FrequencyUnit::find(name);
-    if (!unit)
-        return;
-    m_ui->doubleSpinBoxFreq->setRange(unit->minimum, unit->maximum);
-    m_ui->doubleSpinBoxFreq->setDecimals(unit->decimals);
-    m_ui->doubleSpinBoxFreq->setValue(value * m_frequencyFactor / unit->factor);
-    m_frequencyFactor = unit->factor;
-}
-
-QString ConsolePanel::frequency() const
-{
-    return frequencyText(m_ui->doubleSpinBoxFreq->value(), m_frequencyFactor);
-}
-
-void ConsolePanel::showPowerUnit(const QString &unit)
-{
-    const bool dBm = unit == QStringLiteral("dBm") || unit == QStringLiteral("DBM");
-    checkSilently(dBm ? m_ui->radioButtondBm : m_ui->radioButtonW);
-}
-
-void ConsolePanel::showRelativeState(const QString &state)
-{
-    const bool on = state == QStringLiteral("ON");
-    checkSilently(on ? m_ui->radioButtonRelativeON : m_ui->radioButtonRelativeOFF);
-    m_ui->groupBoxUnit->setEnabled(!on);
-}
-
-void ConsolePanel::showReading(double power, const QString &text)
-{
-    m_ui->labelCurrentPower->setText(QString::number(power, 'f', 2));
-    m_ui->labelShowText->setText(text);
-}
-
-void ConsolePanel::fitReading()
-{
+    QWidget *panel = m_ui->panel;
+    QScrollArea *area = m_ui->scrollPanel;
+    int width = panel->sizeHint().expandedTo(panel->minimumSize()).width();
+    if (panel->minimumSizeHint().height() > area->height())
+        width += area->verticalScrollBar()->sizeHint().width() + scrollBarGap;
+    area->setFixedWidth(width);
     constexpr int margins = 120; // around and between the labels
-    const int panelWidth = m_ui->panel->sizeHint().expandedTo(m_ui->panel->minimumSize()).width();
-    fitPowerDisplay(m_window->size() - QSize(panelWidth + margins, 0), m_ui->labelCurrentPower,
-                    m_ui->labelPowerUnit, m_ui->labelShowText);
+    m_power.fit(m_window->size() - QSize(width + margins, 0));
 }
 
 int ConsolePanel::recordInterval() const
@@ -149,8 +113,29 @@ int ConsolePanel::recordInterval() const
     return m_ui->spinBoxInterval->value();
 }
 
+QString ConsolePanel::recordFolder() const
+{
+    // What is being typed counts once it has been looked at.
+    return m_ui->lineEditPath->isModified() ? m_recordFolder : m_ui->lineEditPath->text();
+}
+
+std::optional<QString> ConsolePanel::chooseRecordFolder(const QString &folder)
+{
+    const QString path = QDir(folder).absolutePath();
+    std::optional<QString> obstacle;
+    if (folder.trimmed().isEmpty())
+        obstacle = tr("no folder is named");
+    else if (!QFileInfo(path).isDir())
+        obstacle = tr("there is no such folder");
+    else
+        obstacle = WriteCheck::obstacle(RecordFile::path(path, QDate::currentDate()));
+    setRecordFolder(obstacle ? recordFolder() : path);
+    return obstacle;
+}
+
 void ConsolePanel::setRecordFolder(const QString &folder)
 {
+    m_recordFolder = folder;
     m_ui->lineEditPath->setText(folder);
     m_ui->lineEditPath->setToolTip(folder);
 }
@@ -166,7 +151,7 @@ void ConsolePanel::setDefaultRecordFolder()
 ConsoleSettings ConsolePanel::settings() const
 {
     ConsoleSettings settings;
-    settings.recordFolder = m_ui->lineEditPath->text();
+    settings.recordFolder = recordFolder();
     settings.interval = m_ui->spinBoxInterval->value();
     settings.period = m_ui->spinBoxChartPeriod->value();
     return settings;
@@ -179,12 +164,20 @@ void ConsolePanel::showSettings(const ConsoleSettings &settings)
     m_ui->spinBoxChartPeriod->setValue(settings.period);
 }
 
-void ConsolePanel::saveRecord() const
+void ConsolePanel::showRecords(const RecordKeeper &records)
 {
-    // One look at the clock, so that no row of the new day ends up in the old day's file.
-    const QDateTime now = QDateTime::currentDateTime();
-    RecordFile::append(
-        RecordFile::path(m_ui->lineEditPath->text(), now.date()),
-        RecordFile::row(now, m_ui->doubleSpinBoxFreq->value(), m_ui->doubleSpinBoxOffset->value(),
-                        m_ui->labelCurrentPower->text(), m_ui->labelShowText->text()));
+    const auto clock = [](const QDateTime &when) {
+        return QLocale::c().toString(when, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    };
+    const auto &failure = records.failure();
+    if (failure)
+        m_ui->labelRecord->setText(
+            tr("\u26a0 No rows since %1: %2").arg(clock(failure->since), failure->reason));
+    else if (records.lastRow().isValid())
+        m_ui->labelRecord->setText(tr("Last row: %1").arg(clock(records.lastRow())));
+    else
+        m_ui->labelRecord->setText(tr("No row yet"));
+    m_ui->labelRecord->setProperty("failing", failure.has_value());
+    m_ui->labelRecord->style()->unpolish(m_ui->labelRecord);
+    m_ui->labelRecord->style()->polish(m_ui->labelRecord);
 }

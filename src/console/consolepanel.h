@@ -1,10 +1,16 @@
 #pragma once
 
 #include "Logic/linkmode.h"
+#include "console/powerdisplay.h"
 
+#include <QCoreApplication>
 #include <QString>
 
+#include <optional>
+
+class LinkSession;
 class QMainWindow;
+class RecordKeeper;
 struct ConsoleSettings;
 
 namespace Ui {
@@ -16,34 +22,31 @@ class MainWindow;
 /// anything to the instrument or makes a signal of the form do so.
 class ConsolePanel
 {
+    Q_DECLARE_TR_FUNCTIONS(ConsolePanel)
+
 public:
     /// Puts the form of \a window into its first state. The window filters the keys of the boxes
     /// whose value Enter sends.
     ConsolePanel(Ui::MainWindow *form, QMainWindow *window);
 
-    /// Shows all texts in the current language. The unit of the frequency goes back to kHz.
+    /// Shows the form's texts in the current language.
     void retranslate();
 
     /// Enables and shows what a link of this \a mode, \a open or not, lets the user do.
     void showLinkState(LinkMode mode, bool open);
 
-    void showFrequency(double value, const QString &unit);
-    /// Takes over the unit \a name and converts the shown value; an unknown name changes nothing.
-    void changeFrequencyUnit(const QString &name);
-    /// The frequency as it is sent, in the shown unit.
-    QString frequency() const;
-
-    /// "dBm" and "DBM" are dBm, anything else is watts.
-    void showPowerUnit(const QString &unit);
-    /// "ON" is on and locks the power unit, anything else is off.
-    void showRelativeState(const QString &state);
-    /// \a power in dBm, and the instrument's own \a text of it.
-    void showReading(double power, const QString &text);
-    /// Makes the reading as large as the window has room for.
-    void fitReading();
+    /// Shows the reading of \a session and what it is worth.
+    void showReading(const LinkSession &session);
+    /// Makes the reading as large as the window has room for, and room for the scroll bar beside
+    /// the panel when it needs one.
+    void fit();
 
     /// Minutes between two records.
     int recordInterval() const;
+    /// The folder that the records go into.
+    QString recordFolder() const;
+    /// The same from now on, or nothing changes and the obstacle is told.
+    std::optional<QString> chooseRecordFolder(const QString &folder);
     void setRecordFolder(const QString &folder);
     /// Back to "DataRecord" in the current directory, which is created if need be.
     void setDefaultRecordFolder();
@@ -51,14 +54,14 @@ public:
     ConsoleSettings settings() const;
     /// Shows that part of \a settings; a folder of records that is gone becomes the program's own.
     void showSettings(const ConsoleSettings &settings);
-    /// Appends the shown values to the record of the day.
-    void saveRecord() const;
+    /// Shows when the last row was written, or since when none could be.
+    void showRecords(const RecordKeeper &records);
 
 private:
-    void fillFrequencyUnits();
     void setShortcuts();
 
     Ui::MainWindow *m_ui;
     QMainWindow *m_window;
-    int m_frequencyFactor = 1000000; // kHz in one of the shown unit
+    PowerDisplay m_power;
+    QString m_recordFolder; // what the line holds, but for what is being typed
 };

@@ -1,35 +1,36 @@
 #include "console/linksession.h"
 
 #include "Logic/seriallogic.h"
-#include "console/consolepanel.h"
-#include "console/timechart.h"
 
 #include <QDebug>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <array>
+#include <utility>
 
 namespace {
 
 constexpr int readPeriod = 500;     // ms
 constexpr int firstSaveWait = 1000; // ms after an open
 constexpr int minute = 60000;       // ms
+constexpr int liveTime = 3000;      // ms, several polls
 
 } // namespace
 
-LinkSession::LinkSession(SerialLogic *link, ConsolePanel *panel, StatusLabels *status,
-                         TimeChart *chart, QObject *parent)
+LinkSession::LinkSession(SerialLogic *link, QObject *parent)
     : QObject(parent)
     , m_link(link)
-    , m_panel(panel)
-    , m_status(status)
-    , m_chart(chart)
     , m_readTimer(createTimer("readTimer", &LinkSession::readingDue))
     , m_saveTimer(createTimer("saveTimer", &LinkSession::recordDue))
     , m_firstSaveTimer(createTimer("firstSaveTimer", &LinkSession::recordDue))
+    , m_recordInterval([] { return 1; })
 {
     m_firstSaveTimer->setSingleShot(true);
-    connect(link, &SerialLogic::lost, this, &LinkSession::pollLostLink);
+    connect(link, &SerialLogic::errors, this, &LinkSession::takeError);
+    connect(link, &SerialLogic::updateSetFailed, this, &LinkSession::takeError);
+    connect(link, &SerialLogic::lost, this, &LinkSession::takeLoss);
+    connect(link, &SerialLogic::displayLog, this, &LinkSession::lineSent);
 }
 
 QTimer *LinkSession::createTimer(const char *name, void (LinkSession::*due)())
@@ -42,74 +43,128 @@ QTimer *LinkSession::createTimer(const char *name, void (LinkSession::*due)())
 
 void LinkSession::setMode(LinkMode mode)
 {
-    close(StatusLabels::Link::Closed);
+    close();
     m_mode = mode;
     m_link->setLinkMode(mode);
-    setState(State::Closed);
+    emit modeChanged(mode);
 }
 
 void LinkSession::setState(State state)
 {
     m_state = state;
-    m_panel->showLinkState(m_mode, state != State::Closed);
+    emit stateChanged(state);
 }
+
+void LinkSession::setIpAddress(const QString &address)
+{
+    m_ipAddress = address;
+    m_proposedAddress = address;
+}
+
+// --- Opening and ending
 
 bool LinkSession::open(const QString &port, int value)
 {
+    if (m_isOpening)
+        return false;
     if (m_state != State::Closed)
-        close(StatusLabels::Link::Closed);
-    if (!m_link->openPort(port, value))
-        return failOpening(port, value);
+        close();
+    m_openError.clear();
+    m_isStopWanted = false;
+    if (m_mode == lanLink)
+        m_proposedAddress = port;
+    bool isOpen = false;
+    {
+        const QScopedValueRollback<bool> opening(m_isOpening, true);
+        isOpen = openWithSettings(port, value);
+        emit waitingFor({});
+    }
+    if (isOpen)
+        return true;
+    failOpening(port, value);
+    return false;
+}
 
+bool LinkSession::openWithSettings(const QString &port, int value)
+{
+    emit waitingFor(tr("Connecting to %1 …").arg(port));
+    if (m_isStopWanted || !m_link->openPort(port, value))
+        return false;
     qDebug() << "open success: " << port << value;
     if (value == instrumentTcpPort)
         m_ipAddress = port;
-    m_hasReading = false;
+    m_isCurrent = false;
+    m_isResting = false;
+    m_reading = {};
+    emit readingChanged(m_reading);
+    emit portChanged(port, value);
     setState(State::Opening);
-    m_status->showPort(port, value);
-    m_status->showLink(m_mode == serialLink ? StatusLabels::Link::Open
-                                            : StatusLabels::Link::Connected);
     if (!queryInstrument()) {
         m_link->closePort();
-        return failOpening(port, value);
+        return false;
     }
     startPolling();
-    startRecords();
+    startRecords(m_recordInterval());
     m_firstSaveTimer->start(firstSaveWait);
-    m_chart->clear();
-    m_state = State::Open; // the panel stays as the instrument's answers left it
+    setState(State::Open);
     return true;
 }
 
 bool LinkSession::queryInstrument()
 {
-    using Query = void (SerialLogic::*)();
-    constexpr std::array<Query, 6> queries{
-        &SerialLogic::queryIDN,          &SerialLogic::queryFrequency,
-        &SerialLogic::queryAverageCount, &SerialLogic::queryMeasureState,
-        &SerialLogic::queryOffset,       &SerialLogic::queryPowerUnit};
-    for (const Query query : queries) {
-        (m_link->*query)();
-        if (m_state != State::Opening)
-            return false; // an error has ended it
+    struct Query
+    {
+        void (SerialLogic::*ask)();
+        const char *what;
+    };
+    static constexpr std::array<Query, 6> queries{{
+        {&SerialLogic::queryIDN, QT_TR_NOOP("Waiting for the identity …")},
+        {&SerialLogic::queryFrequency, QT_TR_NOOP("Waiting for the frequency …")},
+        {&SerialLogic::queryAverageCount, QT_TR_NOOP("Waiting for the average count …")},
+        {&SerialLogic::queryMeasureState, QT_TR_NOOP("Waiting for the relative state …")},
+        {&SerialLogic::queryOffset, QT_TR_NOOP("Waiting for the offset …")},
+        {&SerialLogic::queryPowerUnit, QT_TR_NOOP("Waiting for the power unit …")},
+    }};
+    for (const Query &query : queries) {
+        emit waitingFor(tr(query.what));
+        if (m_isStopWanted)
+            return false;
+        (m_link->*query.ask)();
+        if (!m_openError.isEmpty())
+            return false;
     }
-    return true;
+    return !m_isStopWanted;
 }
 
-bool LinkSession::failOpening(const QString &port, int value)
+void LinkSession::failOpening(const QString &port, int value)
 {
     end();
-    m_status->showPort(port, value);
-    m_status->showLink(m_mode == serialLink ? StatusLabels::Link::Closed
-                                            : StatusLabels::Link::Disconnected);
-    return false;
+    if (!m_isStopWanted)
+        emit failed(m_openError);
+    if (m_state != State::Closed || m_isOpening)
+        return; // another link has been opened meanwhile
+    emit portChanged(port, value);
+    m_isDisconnected = m_mode == lanLink;
+    setState(State::Closed);
 }
 
-void LinkSession::close(StatusLabels::Link shown)
+void LinkSession::stopOpening()
 {
+    m_isStopWanted = true;
+}
+
+void LinkSession::close()
+{
+    stopOpening();
     end();
     m_link->closePort();
-    m_status->showLink(shown);
+}
+
+void LinkSession::disconnectLink()
+{
+    close();
+    m_isDisconnected = true;
+    setState(State::Closed);
 }
 
 void LinkSession::end()
@@ -117,47 +172,133 @@ void LinkSession::end()
     m_readTimer->stop();
     m_saveTimer->stop();
     m_firstSaveTimer->stop();
-    m_chart->restartTime();
+    m_isResting = false;
+    m_isDisconnected = false;
     setState(State::Closed);
-    emit ended();
+}
+
+void LinkSession::takeError(const QString &error)
+{
+    if (m_isOpening) {
+        // Told once the opening is over, so that no box stands in the middle of it.
+        if (m_openError.isEmpty())
+            m_openError = error;
+        else
+            qWarning() << "Not shown, as an error is shown already:" << error;
+        return;
+    }
+    const bool wasOpen = isOpen();
+    end();
+    if (wasOpen)
+        emit linkLost(error);
+    else
+        emit failed(error);
+}
+
+void LinkSession::takeLoss()
+{
+    if (!isOpen())
+        return;
+    if (m_link->awaitsResult())
+        takeError(tr("The connection to the instrument is lost."));
+    else if (!m_readTimer->isActive())
+        startPolling(); // the next command is what tells, and none may be to come
+}
+
+// --- Readings and settings
+
+LinkSession::Freshness LinkSession::freshness() const
+{
+    if (m_reading.state == Reading::State::None)
+        return Freshness::None;
+    const bool isLive = isOpen() && !m_isResting && m_sinceReading.elapsed() < liveTime;
+    return isLive ? Freshness::Live : Freshness::Stale;
+}
+
+int LinkSession::readingAge() const
+{
+    return m_sinceReading.isValid() ? int(m_sinceReading.elapsed() / 1000) : 0;
+}
+
+void LinkSession::takeReading(double level, const QString &text)
+{
+    const bool isMissing = level == Reading::noLevel;
+    m_reading = isMissing ? Reading::missing(text) : Reading{level, text, Reading::State::Valid};
+    m_sinceReading.start();
+    m_isCurrent = true;
+    startPolling();
+    emit readingChanged(m_reading);
+}
+
+void LinkSession::poll()
+{
+    if (isOpen())
+        m_link->readMesureData();
+    else
+        stopPolling();
+}
+
+void LinkSession::change(Setting setting, const std::function<void(SerialLogic &)> &send)
+{
+    stopPolling();
+    send(*m_link);
+    if (!isOpen() || m_readTimer->isActive())
+        return;
+    m_isResting = true;
+    emit settingRefused(setting);
+}
+
+void LinkSession::confirm(Setting setting)
+{
+    startPolling();
+    emit settingConfirmed(setting);
 }
 
 void LinkSession::startPolling()
 {
+    m_isResting = false;
     m_readTimer->start(readPeriod);
-}
-
-void LinkSession::takeReading()
-{
-    m_hasReading = true;
-    startPolling();
-}
-
-bool LinkSession::isReadingCurrent() const
-{
-    return m_hasReading && m_readTimer->isActive();
-}
-
-void LinkSession::pollLostLink()
-{
-    // The next command is what tells the operator, and there may be none to come: polling rests
-    // after a setting that was not confirmed. Who waits for a result is told when the wait is over.
-    if (isOpen() && !m_link->awaitsResult() && !m_readTimer->isActive())
-        startPolling();
-}
-
-void LinkSession::postponeRecord()
-{
-    m_firstSaveTimer->start(firstSaveWait);
 }
 
 void LinkSession::stopPolling()
 {
-    m_hasReading = false; // what was shown before is old when the polling goes on
+    m_isCurrent = false; // what was shown before is old when the polling goes on
     m_readTimer->stop();
 }
 
-void LinkSession::startRecords()
+bool LinkSession::startTask(void (SerialLogic::*task)())
 {
-    m_saveTimer->start(m_panel->recordInterval() * minute);
+    stopPolling();
+    (m_link->*task)();
+    if (m_link->awaitsResult())
+        return true;
+    if (isOpen()) // else the link is lost, of which the user has been told
+        startPolling();
+    return false;
+}
+
+// --- Records
+
+bool LinkSession::isReadingCurrent() const
+{
+    return m_isCurrent && m_readTimer->isActive();
+}
+
+bool LinkSession::provideReading(bool mayRead)
+{
+    if (!isOpen() || isReadingCurrent())
+        return true;
+    // While a result is awaited, the instrument would answer both in one.
+    if (mayRead && !m_link->awaitsResult())
+        m_link->readMesureData();
+    if (isReadingCurrent())
+        return true;
+    if (isOpen()) // else the link is lost, of which the user has been told
+        m_firstSaveTimer->start(firstSaveWait);
+    return false;
+}
+
+void LinkSession::startRecords(int minutes)
+{
+    m_saveTimer->start(minutes * minute);
 }

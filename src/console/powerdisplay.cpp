@@ -1,7 +1,11 @@
 #include "console/powerdisplay.h"
 
+#include "measure/reading.h"
+
 #include <QFontMetrics>
 #include <QLabel>
+#include <QStyle>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -43,21 +47,106 @@ struct Fonts
     QFont text;
 };
 
+/// The name by which the style sheet knows \a state.
+QString nameOf(PowerDisplay::State state)
+{
+    switch (state) {
+    case PowerDisplay::State::NotConnected:
+        return QStringLiteral("off");
+    case PowerDisplay::State::NoReading:
+        return QStringLiteral("none");
+    case PowerDisplay::State::Live:
+        return QStringLiteral("live");
+    case PowerDisplay::State::Stale:
+        return QStringLiteral("stale");
+    }
+    return {};
+}
+
+/// A shape for each state, since colours alone do not tell everyone.
+QString shapeOf(PowerDisplay::State state)
+{
+    switch (state) {
+    case PowerDisplay::State::NotConnected:
+        return QStringLiteral("\u25a1"); // an empty square
+    case PowerDisplay::State::NoReading:
+        return QStringLiteral("\u25cb"); // an empty circle
+    case PowerDisplay::State::Live:
+        return QStringLiteral("\u25cf"); // a full circle
+    case PowerDisplay::State::Stale:
+        return QStringLiteral("\u25b2"); // a full triangle
+    }
+    return {};
+}
+
+void setLook(QLabel *label, const QString &state)
+{
+    constexpr char look[] = "reading";
+    if (label->property(look) == state)
+        return;
+    label->setProperty(look, state);
+    label->style()->unpolish(label); // the style sheet looks at properties only then
+    label->style()->polish(label);
+}
+
 } // namespace
 
-void fitPowerDisplay(const QSize &room, QLabel *power, QLabel *unit, QLabel *text)
+PowerDisplay::PowerDisplay(const Labels &labels)
+    : m_labels(labels)
+{}
+
+QString PowerDisplay::figures(const Reading &reading)
+{
+    return reading.state == Reading::State::None ? QStringLiteral("--.--")
+                                                 : QString::number(reading.level, 'f', 2);
+}
+
+QString PowerDisplay::describe(const Reading &reading, State state, int age)
+{
+    switch (state) {
+    case State::NotConnected:
+        return tr("Not connected");
+    case State::NoReading:
+        return reading.text.isEmpty()
+                   ? tr("No reading")
+                   : tr("No reading: the instrument says \"%1\"").arg(reading.text);
+    case State::Live:
+        return tr("Live");
+    case State::Stale:
+        return tr("Stale: %1 s old").arg(age);
+    }
+    return {};
+}
+
+void PowerDisplay::show(const Reading &reading, State state, int age)
+{
+    const QString power = figures(reading);
+    const QString words = describe(reading, state, age);
+    m_labels.power->setText(power);
+    m_labels.text->setText(reading.text);
+    m_labels.state->setText(shapeOf(state) + QLatin1Char(' ') + words);
+    m_labels.state->setAccessibleName(words);
+    // A name that only said what the label is for would hide the number from a screen reader.
+    m_labels.power->setAccessibleName(
+        tr("Power: %1 %2, %3").arg(power, m_labels.unit->text(), words));
+    m_labels.text->setAccessibleName(tr("In the instrument's unit: %1").arg(reading.text));
+    for (QLabel *label : {m_labels.power, m_labels.unit, m_labels.text, m_labels.state})
+        setLook(label, nameOf(state));
+}
+
+void PowerDisplay::fit(const QSize &room)
 {
     constexpr int probe = 100;
-    const int widthAtProbe = Fonts(probe, power).width(unit->text());
+    const int widthAtProbe = Fonts(probe, m_labels.power).width(m_labels.unit->text());
     const Fonts fonts(std::clamp(std::min(room.height() / 8, room.width() * probe / widthAtProbe),
                                  smallest, largest),
-                      power);
-    power->setFont(fonts.power);
-    unit->setFont(fonts.unit);
-    text->setFont(fonts.text);
+                      m_labels.power);
+    m_labels.power->setFont(fonts.power);
+    m_labels.unit->setFont(fonts.unit);
+    m_labels.text->setFont(fonts.text);
     // Neither the digits nor the line they stand on are to move from one reading to the next.
-    power->setMinimumWidth(widthOf(fonts.power, QStringLiteral("-100.00")));
+    m_labels.power->setMinimumWidth(widthOf(fonts.power, QStringLiteral("-100.00")));
     const int descent = QFontMetrics(fonts.power).descent();
-    unit->setContentsMargins(0, 0, 0, descent - QFontMetrics(fonts.unit).descent());
-    text->setContentsMargins(0, 0, 0, descent - QFontMetrics(fonts.text).descent());
+    m_labels.unit->setContentsMargins(0, 0, 0, descent - QFontMetrics(fonts.unit).descent());
+    m_labels.text->setContentsMargins(0, 0, 0, descent - QFontMetrics(fonts.text).descent());
 }

@@ -3,6 +3,7 @@
 #include "Logic/serialaddress.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include <optional>
 
@@ -21,6 +22,7 @@ const QString usage = QStringLiteral(
     "  --lan HOST            Connect to the instrument at HOST.\n"
     "  --serial PORT[:BAUD]  Open the serial port PORT, at 115200 baud when no BAUD is given.\n"
     "  --language en|cn      Start in this language.\n"
+    "  --keep-logs DAYS      Remove the logs of all but the last DAYS days, now and at midnight.\n"
     "  --doctor [HOST|PORT]  Examine what the console needs and, with an address or a serial port\n"
     "                        (PORT[:BAUD]), whether an instrument answers there; change "
     "nothing.\n");
@@ -32,6 +34,7 @@ struct Known
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")}};
     QCommandLineOption lan{QStringLiteral("lan"), {}, QStringLiteral("HOST")};
     QCommandLineOption serial{QStringLiteral("serial"), {}, QStringLiteral("PORT[:BAUD]")};
+    QCommandLineOption keepLogs{QStringLiteral("keep-logs"), {}, QStringLiteral("DAYS")};
     QCommandLineOption doctor{QStringLiteral("doctor")};
     QCommandLineOption language{QStringLiteral("language"), {}, QStringLiteral("en|cn")};
 };
@@ -40,6 +43,11 @@ struct Known
 std::optional<QString> readSerial(const QString &value, StartOptions &options)
 {
     const SerialAddress address = SerialAddress::read(value);
+    // Paths that tell ports apart by where they are plugged in hold colons of their own.
+    const int colon = address.port.lastIndexOf(QLatin1Char(':'));
+    if (colon >= 0 && !address.port.contains(QLatin1String("/by-")) &&
+        !QFileInfo::exists(address.port))
+        return QStringLiteral("'%1' is no baud rate.").arg(address.port.mid(colon + 1));
     if (address.baudRate <= 0)
         return QStringLiteral("%1 is no baud rate.").arg(address.baudRate);
     if (address.port.isEmpty())
@@ -53,7 +61,8 @@ std::optional<QString> readSerial(const QString &value, StartOptions &options)
 std::optional<QString> readExamination(const QCommandLineParser &parser, const Known &known,
                                        StartOptions &options)
 {
-    if (parser.isSet(known.lan) || parser.isSet(known.serial) || parser.isSet(known.language))
+    if (parser.isSet(known.lan) || parser.isSet(known.serial) || parser.isSet(known.language) ||
+        parser.isSet(known.keepLogs))
         return QStringLiteral("--doctor takes no other option, only an address or a port.");
     if (parser.positionalArguments().size() > 1)
         return QStringLiteral("--doctor takes one address or port.");
@@ -88,6 +97,12 @@ std::optional<QString> readValues(const QCommandLineParser &parser, const Known 
             return QStringLiteral("Unknown language '%1': en and cn are known.")
                 .arg(options.language);
     }
+    if (parser.isSet(known.keepLogs)) {
+        const QString days = parser.value(known.keepLogs);
+        options.logDays = days.toInt();
+        if (options.logDays < 1)
+            return QStringLiteral("--keep-logs needs a number of days, not '%1'.").arg(days);
+    }
     return std::nullopt;
 }
 
@@ -97,8 +112,8 @@ StartOptions StartOptions::read(const QStringList &arguments)
 {
     const Known known;
     QCommandLineParser parser;
-    parser.addOptions(
-        {known.help, known.version, known.lan, known.serial, known.language, known.doctor});
+    parser.addOptions({known.help, known.version, known.lan, known.serial, known.language,
+                       known.keepLogs, known.doctor});
 
     StartOptions options;
     std::optional<QString> wrong;

@@ -21,6 +21,7 @@ struct StartOptions
     QString serialPort;           ///< to open at once; empty: none
     int baudRate = usualBaudRate; ///< of \a serialPort
     QString examined;             ///< address of an instrument or PORT[:BAUD]; empty: none
+    int logDays = 0;              ///< of the log to keep; 0: all
     QString language;             ///< "en", "cn" or empty: as last time
 
     /// Reads \a arguments, the program's own name first.

@@ -1,14 +1,18 @@
 #include "console/statuslabels.h"
 
+#include "widgets/elidedlabel.h"
+
 #include <QDateTime>
-#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
 #include <QStatusBar>
 
 namespace {
 
-QLabel *addLabel(QStatusBar *bar, const QString &name, Qt::Alignment alignment)
+template<typename Label>
+Label *addLabel(QStatusBar *bar, const QString &name, Qt::Alignment alignment)
 {
-    auto *label = new QLabel(bar);
+    auto *label = new Label(bar);
     label->setObjectName(name);
     label->setAlignment(alignment | Qt::AlignVCenter);
     // A long identity must not widen the window.
@@ -20,14 +24,20 @@ QLabel *addLabel(QStatusBar *bar, const QString &name, Qt::Alignment alignment)
 } // namespace
 
 StatusLabels::StatusLabels(QStatusBar *bar)
-    : m_identity(addLabel(bar, QStringLiteral("labelIdentity"), Qt::AlignLeft))
-    , m_port(addLabel(bar, QStringLiteral("labelPort"), Qt::AlignHCenter))
-    , m_link(addLabel(bar, QStringLiteral("labelLink"), Qt::AlignHCenter))
-    , m_clock(addLabel(bar, QStringLiteral("labelClock"), Qt::AlignRight))
+    : m_identity(addLabel<ElidedLabel>(bar, QStringLiteral("labelIdentity"), Qt::AlignLeft))
+    , m_port(addLabel<ElidedLabel>(bar, QStringLiteral("labelPort"), Qt::AlignHCenter))
+    , m_link(addLabel<QLabel>(bar, QStringLiteral("labelLink"), Qt::AlignHCenter))
+    , m_clock(addLabel<QLabel>(bar, QStringLiteral("labelClock"), Qt::AlignRight))
+    , m_notice(new ElidedLabel(bar))
+    , m_stop(new QPushButton(bar))
 {
-    // What comes from the instrument and the user is text, whatever it looks like.
-    m_identity->setTextFormat(Qt::PlainText);
-    m_port->setTextFormat(Qt::PlainText);
+    constexpr int noticeStretch = 5;
+    m_notice->setObjectName(QStringLiteral("labelNotice"));
+    m_stop->setObjectName(QStringLiteral("btnStopOpening"));
+    bar->insertWidget(0, m_notice, noticeStretch);
+    bar->insertWidget(1, m_stop);
+    m_stop->hide();
+    clearNotice();
     showLink(Link::Closed);
     showTime(QDateTime::currentDateTime());
 }
@@ -50,11 +60,37 @@ void StatusLabels::showLink(Link link)
 
 void StatusLabels::showTime(const QDateTime &now)
 {
-    m_clock->setText(now.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")));
+    m_clock->setText(QLocale::c().toString(now, QStringLiteral("yyyy-MM-dd hh:mm:ss")));
+}
+
+void StatusLabels::showNotice(const std::function<QString()> &text)
+{
+    m_noticeText = text;
+    m_notice->setText(text());
+    m_notice->setVisible(true);
+    m_identity->setVisible(false);
+    m_port->setVisible(false);
+}
+
+void StatusLabels::clearNotice()
+{
+    m_noticeText = nullptr;
+    m_notice->clear();
+    m_notice->setVisible(false);
+    m_identity->setVisible(true);
+    m_port->setVisible(true);
+}
+
+QString StatusLabels::notice() const
+{
+    return m_notice->text();
 }
 
 void StatusLabels::retranslate()
 {
+    m_stop->setText(tr("Stop"));
+    if (m_noticeText)
+        m_notice->setText(m_noticeText());
     switch (m_shownLink) {
     case Link::Closed:
         m_link->setText(tr("<font color = red>Close</font>"));

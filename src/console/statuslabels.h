@@ -3,12 +3,15 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
+
 class QDateTime;
 class QLabel;
+class QPushButton;
 class QStatusBar;
 
 /// What the status bar of the console tells: the instrument's identity, the port or address, the
-/// state of the link and the time. The bar owns the labels.
+/// state of the link and the time, or in place of the first two a notice. The bar owns the labels.
 class StatusLabels
 {
     Q_DECLARE_TR_FUNCTIONS(StatusLabels)
@@ -25,7 +28,14 @@ public:
     void showLink(Link link);
     void showTime(const QDateTime &now);
 
-    /// Shows the state of the link in the current language; the rest has none.
+    /// Shows what \a text says, in the language of the time, until the notice is cleared.
+    void showNotice(const std::function<QString()> &text);
+    void clearNotice();
+    QString notice() const;
+    /// The button that goes with a notice of something that can be stopped; hidden at first.
+    QPushButton *stopButton() const { return m_stop; }
+
+    /// Shows what has a language in the current one.
     void retranslate();
 
 private:
@@ -33,5 +43,8 @@ private:
     QLabel *m_port;
     QLabel *m_link;
     QLabel *m_clock;
+    QLabel *m_notice;
+    QPushButton *m_stop;
     Link m_shownLink = Link::Closed;
+    std::function<QString()> m_noticeText;
 };

@@ -14,11 +14,13 @@ constexpr int longestWait = 30; // s
 } // namespace
 
 TaskWait::TaskWait(QWidget *window)
-    : m_dialog(new LoadingDialog(window))
+    : QObject(window)
+    , m_dialog(new LoadingDialog(window))
     , m_timer(new QTimer(window))
     , m_secondsLeft(longestWait)
 {
     m_timer->setObjectName(QStringLiteral("loadingTimer"));
+    connect(m_timer, &QTimer::timeout, this, &TaskWait::countDown);
 }
 
 void TaskWait::run(const QString &name)
@@ -31,14 +33,12 @@ void TaskWait::run(const QString &name)
         tell();
 }
 
-bool TaskWait::countDown()
+void TaskWait::countDown()
 {
     m_dialog->setLabelText(m_secondsLeft);
     --m_secondsLeft;
-    if (m_secondsLeft != 0)
-        return false;
-    end();
-    return true;
+    if (m_secondsLeft == 0)
+        end([this] { emit timedOut(m_dialog->taskLabelText()); });
 }
 
 void TaskWait::end()
@@ -61,9 +61,4 @@ void TaskWait::end(const std::function<void()> &tell)
 bool TaskWait::isRunning() const
 {
     return m_timer->isActive();
-}
-
-QString TaskWait::task() const
-{
-    return m_dialog->taskLabelText();
 }

@@ -1,14 +1,18 @@
 #include "console/timechart.h"
 
 #include "2d/view/graphicsbase.h"
+#include "measure/reading.h"
 
 #include <QBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int powerPath = 1;
 constexpr double longestRun = 3600.0; // seconds
 constexpr double secondsPerMinute = 60.0;
+constexpr qint64 second = 1000; // ms
 
 } // namespace
 
@@ -17,17 +21,20 @@ TimeChart::TimeChart(QWidget *parent, QBoxLayout *layout)
 {
     layout->insertWidget(0, m_view);
     m_view->resetChart({QStringLiteral("Power Meter")});
+    m_clock.start();
 }
 
-void TimeChart::feed(const QString &shownPower)
+void TimeChart::feed(const Reading &reading, qint64 now)
 {
     if (m_elapsedSeconds > longestRun)
         clear();
-    m_view->updateChart(powerPath,
-                        QPointF(m_elapsedSeconds / secondsPerMinute, shownPower.toDouble()));
-    m_elapsedSeconds += 1.0;
+    if (reading.state != Reading::State::None)
+        m_view->updateChart(powerPath, QPointF(m_elapsedSeconds / secondsPerMinute, reading.level));
+    const qint64 seconds = std::max<qint64>(1, (now - m_lastTick) / second);
+    m_elapsedSeconds += double(seconds);
+    // What is left of a second counts at the next tick; a tick that came early borrows nothing.
+    m_lastTick = std::min(now, m_lastTick + seconds * second);
 }
-
 void TimeChart::clear()
 {
     m_view->clearChartData(powerPath);

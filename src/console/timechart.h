@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QElapsedTimer>
+
 class GraphicsBase;
 class QBoxLayout;
 class QString;
 class QWidget;
+struct Reading;
 
 /// The console's chart of the power over the last minutes: one curve, fed once a second and started
 /// again after an hour.
@@ -13,11 +16,14 @@ public:
     /// Puts the chart first into \a layout; the window of \a parent owns it.
     TimeChart(QWidget *parent, QBoxLayout *layout);
 
-    /// Adds the point of one second, with the power as it is shown, in dBm. What is no number (the
-    /// display before the first reading) is drawn as 0.
-    void feed(const QString &shownPower);
+    /// A tick of the clock: adds \a reading as a point, a missing one at Reading::noLevel, and none
+    /// before the first. The time goes on by the whole seconds since the last tick, at least one:
+    /// a console that was held up by its instrument has missed ticks, not time.
+    void feed(const Reading &reading) { feed(reading, m_clock.elapsed()); }
+    /// The same at \a now, in ms of a clock that only goes forward.
+    void feed(const Reading &reading, qint64 now);
 
-    /// Empties the chart and starts again at 0.
+    /// Empties the chart, its markers included, and starts again at 0.
     void clear();
     /// The next point stands at 0, whatever the chart shows.
     void restartTime() { m_elapsedSeconds = 0.0; }
@@ -28,7 +34,11 @@ public:
     /// Shows the titles in the current language.
     void retranslate();
 
+    GraphicsBase *view() const { return m_view; }
+
 private:
     GraphicsBase *m_view;
+    QElapsedTimer m_clock;
+    qint64 m_lastTick = 0;         // ms
     double m_elapsedSeconds = 0.0; // since the chart was last emptied
 };

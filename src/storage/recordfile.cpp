@@ -1,15 +1,15 @@
 #include "storage/recordfile.h"
 
-#include "storage/filewriting.h"
-
 #include <QDateTime>
 #include <QDebug>
+#include <QLocale>
 
 namespace RecordFile {
 
 QString path(const QString &directory, const QDate &day)
 {
-    return QStringLiteral("%1/%2.csv").arg(directory, day.toString(QStringLiteral("yyyy-MM-dd")));
+    return QStringLiteral("%1/%2.csv")
+        .arg(directory, QLocale::c().toString(day, QStringLiteral("yyyy-MM-dd")));
 }
 
 QString header()
@@ -22,17 +22,16 @@ QString row(const QDateTime &when, double frequency, double offset, const QStrin
 {
     // One call for all places: a text of the instrument may hold a "%1" of its own.
     return QStringLiteral("%1,%2,%3,%4dBm,%5\n")
-        .arg(when.toString(QStringLiteral("yyyy/MM/dd hh:mm")), QString::number(frequency),
-             QString::number(offset), power, converted);
+        .arg(QLocale::c().toString(when, QStringLiteral("yyyy/MM/dd hh:mm")),
+             QString::number(frequency), QString::number(offset), power, converted);
 }
 
-void append(const QString &path, const QString &row)
+FileOutcome append(const QString &path, const QString &row)
 {
     const FileOutcome outcome = appendLine(path, row.toUtf8(), header().toUtf8());
     if (outcome.kind == FileOutcome::Kind::OpenFailed)
         qDebug("open failed");
-    else if (outcome.kind == FileOutcome::Kind::WriteFailed)
-        qWarning().noquote() << "Record not written to" << path << ":" << outcome.reason;
+    return outcome;
 }
 
 } // namespace RecordFile

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "storage/filewriting.h"
+
 #include <QString>
 
 class QDate;
@@ -21,7 +23,7 @@ QString row(const QDateTime &when, double frequency, double offset, const QStrin
             const QString &converted);
 
 /// Appends \a row to the file at \a path, behind the header when the file is empty. What goes wrong
-/// costs this row and is logged.
-void append(const QString &path, const QString &row);
+/// costs this row and is told.
+FileOutcome append(const QString &path, const QString &row);
 
 } // namespace RecordFile

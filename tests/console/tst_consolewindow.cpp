@@ -2,6 +2,7 @@
 #include "connectdialog.h"
 #include "console/timechart.h"
 #include "consoletester.h"
+#include "measure/reading.h"
 #include "simulatorprocess.h"
 #include "testmain.h"
 
@@ -41,7 +42,7 @@ private slots:
     void languageKeepsWhatIsShown();
     void everyTextHasChinese();
     void clickOnTheModeInUseChangesNothing();
-    void chartStartsAgainAfterAnHour();
+    void chartKeepsTime();
     void chartShowsThePeriod();
     void connectDialogAsksForItsMode();
     void secondClickWhileConnectingIsDropped();
@@ -235,7 +236,7 @@ void TestConsoleWindow::clickOnTheModeInUseChangesNothing()
     QVERIFY(!console.find<QAction>("actionConnect")->isVisible());
 }
 
-void TestConsoleWindow::chartStartsAgainAfterAnHour()
+void TestConsoleWindow::chartKeepsTime()
 {
     QWidget window;
     auto *layout = new QHBoxLayout(&window);
@@ -243,13 +244,19 @@ void TestConsoleWindow::chartStartsAgainAfterAnHour()
     const auto *series = qobject_cast<QtCharts::QLineSeries *>(
         window.findChild<GraphicsBase *>()->chart()->series().value(0));
     QVERIFY(series != nullptr);
-    chart.feed(QStringLiteral("--.--")); // nothing has been read yet
-    QCOMPARE(series->pointsVector(), (QVector<QPointF>{{0.0, 0.0}}));
-    for (int second = 1; second <= 3600; ++second)
-        chart.feed(QStringLiteral("-20.00"));
-    QCOMPARE(series->pointsVector().last(), QPointF(60.0, -20.0));
-    chart.feed(QStringLiteral("100.00"));
-    QCOMPARE(series->pointsVector(), (QVector<QPointF>{{0.0, 100.0}}));
+    const Reading level = Reading::of(-20.0, {});
+    chart.feed({}, 0); // nothing has been read yet
+    QVERIFY(series->pointsVector().isEmpty());
+    chart.feed(level, 0);
+    chart.feed(level, 20'500); // the instrument kept the console waiting
+    chart.feed(level, 21'100); // what was left of a second counts
+    chart.feed(Reading::missing(), 21'200);
+    QCOMPARE(series->pointsVector(),
+             (QVector<QPointF>{
+                 {1 / 60.0, -20.0}, {2 / 60.0, -20.0}, {22 / 60.0, -20.0}, {23 / 60.0, 100.0}}));
+    chart.feed(level, 3600'000);
+    chart.feed(level, 3601'000);
+    QCOMPARE(series->pointsVector(), (QVector<QPointF>{{0.0, -20.0}}));
 }
 
 void TestConsoleWindow::chartShowsThePeriod()

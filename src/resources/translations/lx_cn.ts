@@ -160,6 +160,29 @@
     </message>
 </context>
 <context>
+    <name>ConsolePanel</name>
+    <message>
+        <source>no folder is named</source>
+        <translation>未指定文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有这个文件夹</translation>
+    </message>
+    <message>
+        <source>⚠ No rows since %1: %2</source>
+        <translation>⚠ 自 %1 起未写入：%2</translation>
+    </message>
+    <message>
+        <source>Last row: %1</source>
+        <translation>最近一行：%1</translation>
+    </message>
+    <message>
+        <source>No row yet</source>
+        <translation>尚无记录</translation>
+    </message>
+</context>
+<context>
     <name>CurveExchange</name>
     <message>
         <source>CSV(*.csv)</source>
@@ -419,6 +442,41 @@ correction</source>
     <message>
         <source>Number</source>
         <translation>数值</translation>
+    </message>
+</context>
+<context>
+    <name>LinkSession</name>
+    <message>
+        <source>Connecting to %1 …</source>
+        <translation>正在连接 %1 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the identity …</source>
+        <translation>正在等待设备标识 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the frequency …</source>
+        <translation>正在等待频率 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the average count …</source>
+        <translation>正在等待平均次数 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the relative state …</source>
+        <translation>正在等待相对测量状态 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the offset …</source>
+        <translation>正在等待偏置 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the power unit …</source>
+        <translation>正在等待功率单位 …</translation>
+    </message>
+    <message>
+        <source>The connection to the instrument is lost.</source>
+        <translation>与仪器的连接已断开。</translation>
     </message>
 </context>
 <context>
@@ -862,10 +920,6 @@ correction</source>
         <translation>工具</translation>
     </message>
     <message>
-        <source>Language</source>
-        <translation>语言</translation>
-    </message>
-    <message>
         <source>Tool bar</source>
         <translation>工具栏</translation>
     </message>
@@ -981,6 +1035,30 @@ correction</source>
         <source>Power unit watt</source>
         <translation>功率单位 瓦特</translation>
     </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>手册(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Records are not written: %1</source>
+        <translation>记录未写入：%1</translation>
+    </message>
+    <message>
+        <source>%1 was not confirmed. Polling rests until it is set again or the link is opened anew.</source>
+        <translation>%1未得到确认。轮询已暂停，直到重新设置或重新打开连接。</translation>
+    </message>
+    <message>
+        <source>No records can be written to &quot;%1&quot;: %2. The folder stays as it was.</source>
+        <translation>无法将记录写入“%1”：%2。文件夹保持不变。</translation>
+    </message>
 </context>
 <context>
     <name>ManagerGraph</name>
@@ -1047,6 +1125,21 @@ correction</source>
     <message>
         <source>Line color of %1</source>
         <translation>%1 的线条颜色</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>The manual is the file help.pdf beside the program, in %1. It is not there.</source>
+        <translation>手册是程序所在文件夹 %1 中的文件 help.pdf，但该文件不存在。</translation>
+    </message>
+    <message>
+        <source>No program opens the manual. It is the file %1.</source>
+        <translation>没有可打开手册的程序。手册文件是 %1。</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手册</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1840,37 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>PowerDisplay</name>
+    <message>
+        <source>Not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>No reading</source>
+        <translation>无读数</translation>
+    </message>
+    <message>
+        <source>No reading: the instrument says &quot;%1&quot;</source>
+        <translation>无读数：仪器显示“%1”</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Stale: %1 s old</source>
+        <translation>已过时：%1 秒前</translation>
+    </message>
+    <message>
+        <source>Power: %1 %2, %3</source>
+        <translation>功率：%1 %2，%3</translation>
+    </message>
+    <message>
+        <source>In the instrument&apos;s unit: %1</source>
+        <translation>以仪器单位显示：%1</translation>
+    </message>
+</context>
+<context>
     <name>RecordReader</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1939,6 +2063,41 @@ Replace it?</source>
     </message>
 </context>
 <context>
+    <name>SettingBoxes</name>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>偏置</translation>
+    </message>
+    <message>
+        <source>Average count</source>
+        <translation>平均次数</translation>
+    </message>
+    <message>
+        <source>Relative state</source>
+        <translation>相对测量</translation>
+    </message>
+    <message>
+        <source>Power unit</source>
+        <translation>功率单位</translation>
+    </message>
+    <message>
+        <source>%1: asked for %2, the instrument holds %3.</source>
+        <translation>%1：要求 %2，仪器实际为 %3。</translation>
+    </message>
+    <message>
+        <source>Not confirmed: the instrument holds %1.</source>
+        <translation>未确认：仪器实际为 %1。</translation>
+    </message>
+    <message>
+        <source>Not sent: the instrument holds %1. Esc puts that back.</source>
+        <translation>未发送：仪器实际为 %1。按 Esc 可恢复。</translation>
+    </message>
+</context>
+<context>
     <name>StatusLabels</name>
     <message>
         <source>&lt;font color = red&gt;Close&lt;/font&gt;</source>
@@ -1955,6 +2114,10 @@ Replace it?</source>
     <message>
         <source>&lt;font color = red&gt;Disconnect&lt;/font&gt;</source>
         <translation>&lt;font color = red&gt;已断开&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
     </message>
 </context>
 <context>
@@ -2039,6 +2202,10 @@ Replace it?</source>
     <message>
         <source>Note</source>
         <translation>注意</translation>
+    </message>
+    <message>
+        <source>Another console runs from this folder: %1. The two write into the same records and overwrite each other&apos;s settings. Start one of them from a folder of its own.</source>
+        <translation>另一个控制台正在从此文件夹运行：%1。两者会写入同一记录文件并互相覆盖设置。请让其中一个从单独的文件夹启动。</translation>
     </message>
 </context>
 </TS>

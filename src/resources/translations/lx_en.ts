@@ -160,6 +160,29 @@
     </message>
 </context>
 <context>
+    <name>ConsolePanel</name>
+    <message>
+        <source>no folder is named</source>
+        <translation>no folder is named</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>there is no such folder</translation>
+    </message>
+    <message>
+        <source>⚠ No rows since %1: %2</source>
+        <translation>⚠ No rows since %1: %2</translation>
+    </message>
+    <message>
+        <source>Last row: %1</source>
+        <translation>Last row: %1</translation>
+    </message>
+    <message>
+        <source>No row yet</source>
+        <translation>No row yet</translation>
+    </message>
+</context>
+<context>
     <name>CurveExchange</name>
     <message>
         <source>CSV(*.csv)</source>
@@ -419,6 +442,41 @@ correction</translation>
     <message>
         <source>Number</source>
         <translation>Number</translation>
+    </message>
+</context>
+<context>
+    <name>LinkSession</name>
+    <message>
+        <source>Connecting to %1 …</source>
+        <translation>Connecting to %1 …</translation>
+    </message>
+    <message>
+        <source>Waiting for the identity …</source>
+        <translation>Waiting for the identity …</translation>
+    </message>
+    <message>
+        <source>Waiting for the frequency …</source>
+        <translation>Waiting for the frequency …</translation>
+    </message>
+    <message>
+        <source>Waiting for the average count …</source>
+        <translation>Waiting for the average count …</translation>
+    </message>
+    <message>
+        <source>Waiting for the relative state …</source>
+        <translation>Waiting for the relative state …</translation>
+    </message>
+    <message>
+        <source>Waiting for the offset …</source>
+        <translation>Waiting for the offset …</translation>
+    </message>
+    <message>
+        <source>Waiting for the power unit …</source>
+        <translation>Waiting for the power unit …</translation>
+    </message>
+    <message>
+        <source>The connection to the instrument is lost.</source>
+        <translation>The connection to the instrument is lost.</translation>
     </message>
 </context>
 <context>
@@ -862,10 +920,6 @@ correction</translation>
         <translation>Tools</translation>
     </message>
     <message>
-        <source>Language</source>
-        <translation>Language</translation>
-    </message>
-    <message>
         <source>Tool bar</source>
         <translation>Tool bar</translation>
     </message>
@@ -981,6 +1035,30 @@ correction</translation>
         <source>Power unit watt</source>
         <translation>Power unit watt</translation>
     </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>Records are not written: %1</source>
+        <translation>Records are not written: %1</translation>
+    </message>
+    <message>
+        <source>%1 was not confirmed. Polling rests until it is set again or the link is opened anew.</source>
+        <translation>%1 was not confirmed. Polling rests until it is set again or the link is opened anew.</translation>
+    </message>
+    <message>
+        <source>No records can be written to &quot;%1&quot;: %2. The folder stays as it was.</source>
+        <translation>No records can be written to &quot;%1&quot;: %2. The folder stays as it was.</translation>
+    </message>
 </context>
 <context>
     <name>ManagerGraph</name>
@@ -1047,6 +1125,21 @@ correction</translation>
     <message>
         <source>Line color of %1</source>
         <translation>Line color of %1</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>The manual is the file help.pdf beside the program, in %1. It is not there.</source>
+        <translation>The manual is the file help.pdf beside the program, in %1. It is not there.</translation>
+    </message>
+    <message>
+        <source>No program opens the manual. It is the file %1.</source>
+        <translation>No program opens the manual. It is the file %1.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1840,37 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>PowerDisplay</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>No reading</source>
+        <translation>No reading</translation>
+    </message>
+    <message>
+        <source>No reading: the instrument says &quot;%1&quot;</source>
+        <translation>No reading: the instrument says &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Stale: %1 s old</source>
+        <translation>Stale: %1 s old</translation>
+    </message>
+    <message>
+        <source>Power: %1 %2, %3</source>
+        <translation>Power: %1 %2, %3</translation>
+    </message>
+    <message>
+        <source>In the instrument&apos;s unit: %1</source>
+        <translation>In the instrument&apos;s unit: %1</translation>
+    </message>
+</context>
+<context>
     <name>RecordReader</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1939,6 +2063,41 @@ Replace it?</translation>
     </message>
 </context>
 <context>
+    <name>SettingBoxes</name>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Offset</translation>
+    </message>
+    <message>
+        <source>Average count</source>
+        <translation>Average count</translation>
+    </message>
+    <message>
+        <source>Relative state</source>
+        <translation>Relative state</translation>
+    </message>
+    <message>
+        <source>Power unit</source>
+        <translation>Power unit</translation>
+    </message>
+    <message>
+        <source>%1: asked for %2, the instrument holds %3.</source>
+        <translation>%1: asked for %2, the instrument holds %3.</translation>
+    </message>
+    <message>
+        <source>Not confirmed: the instrument holds %1.</source>
+        <translation>Not confirmed: the instrument holds %1.</translation>
+    </message>
+    <message>
+        <source>Not sent: the instrument holds %1. Esc puts that back.</source>
+        <translation>Not sent: the instrument holds %1. Esc puts that back.</translation>
+    </message>
+</context>
+<context>
     <name>StatusLabels</name>
     <message>
         <source>&lt;font color = red&gt;Close&lt;/font&gt;</source>
@@ -1955,6 +2114,10 @@ Replace it?</translation>
     <message>
         <source>&lt;font color = red&gt;Disconnect&lt;/font&gt;</source>
         <translation>&lt;font color = red&gt;Disconnect&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
     </message>
 </context>
 <context>
@@ -2039,6 +2202,10 @@ Replace it?</translation>
     <message>
         <source>Note</source>
         <translation>Note</translation>
+    </message>
+    <message>
+        <source>Another console runs from this folder: %1. The two write into the same records and overwrite each other&apos;s settings. Start one of them from a folder of its own.</source>
+        <translation>Another console runs from this folder: %1. The two write into the same records and overwrite each other&apos;s settings. Start one of them from a folder of its own.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+/// Keeps keys and clicks from all widgets but one, while something blocks the window between
+/// whiles: what is pressed then would otherwise come in when it means something else.
+class InputGate : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Nothing is held back until the gate is closed.
+    explicit InputGate(QWidget *exempt);
+
+    void setClosed(bool closed);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+signals:
+    /// Escape was pressed at the closed gate.
+    void escaped();
+
+private:
+    QWidget *m_exempt;
+    bool m_isClosed = false;
+};

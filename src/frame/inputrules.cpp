@@ -1,0 +1,95 @@
+#include "frame/inputrules.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QEvent>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPointer>
+#include <QValidator>
+
+namespace {
+
+/// The validator of a number box, with commas read as points.
+class CommaValidator : public QValidator
+{
+public:
+    CommaValidator(QDoubleSpinBox *box, QObject *parent)
+        : QValidator(parent)
+        , m_box(box)
+    {}
+
+    State validate(QString &input, int &pos) const override
+    {
+        const bool isDecimal =
+            input.count(QLatin1Char(',')) == 1 && !input.contains(QLatin1Char('.'));
+        if (isDecimal)
+            input.replace(QLatin1Char(','), QLatin1Char('.'));
+        // The box itself would take other commas for group separators, which nobody can have meant.
+        return input.contains(QLatin1Char(',')) ? Invalid : m_box->validate(input, pos);
+    }
+
+    void fixup(QString &input) const override { m_box->fixup(input); }
+
+private:
+    QDoubleSpinBox *m_box;
+};
+
+class Rules : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Polish)
+            prepare(watched);
+        else if (event->type() == QEvent::Wheel)
+            return leavesAlone(watched, event);
+        return false;
+    }
+
+private:
+    static bool isBox(const QObject *object)
+    {
+        return qobject_cast<const QAbstractSpinBox *>(object) != nullptr ||
+               qobject_cast<const QComboBox *>(object) != nullptr;
+    }
+
+    static void prepare(QObject *object)
+    {
+        if (!isBox(object))
+            return;
+        auto *box = static_cast<QWidget *>(object);
+        if (box->focusPolicy() == Qt::WheelFocus)
+            box->setFocusPolicy(Qt::StrongFocus);
+        auto *number = qobject_cast<QDoubleSpinBox *>(object);
+        auto *editor = number ? number->findChild<QLineEdit *>() : nullptr;
+        if (editor)
+            editor->setValidator(new CommaValidator(number, editor));
+    }
+
+    static bool leavesAlone(QObject *object, QEvent *event)
+    {
+        // The editor inside a box hands the wheel on to the box, which has its focus.
+        if (!isBox(object) || static_cast<QWidget *>(object)->hasFocus())
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
+void InputRules::install()
+{
+    static QPointer<Rules> rules;
+    if (rules)
+        return;
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
+    QLocale::setDefault(plain);
+    rules = new Rules(qApp);
+    qApp->installEventFilter(rules);
+}
