@@ -1,7 +1,7 @@
+#include "2d/scene/guidelines.h"
 #include "2d/scene/marktable.h"
 #include "2d/scene/mymarkitem.h"
 #include "2d/scene/mypathitem.h"
-#include "2d/view/guidelines.h"
 #include "2d/view/pathinfo.h"
 #include "chartprobe.h"
 #include "testmain.h"

@@ -1,6 +1,6 @@
 #include "2d/data/curvemaths.h"
 #include "2d/data/polylinedecimation.h"
-#include "2d/view/chartmenustate.h"
+#include "2d/view/chartmenu.h"
 #include "testmain.h"
 
 #include <cmath>

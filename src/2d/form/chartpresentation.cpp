@@ -3,9 +3,8 @@
 #include "2d/data/patternscale.h"
 #include "2d/view/graphicsbase.h"
 
+#include <QChart>
 #include <QLegend>
-#include <QPolarChart>
-#include <QValueAxis>
 
 using namespace QtCharts;
 
@@ -14,32 +13,17 @@ namespace {
 /// Ticks every 30 degrees.
 constexpr int circleDivisions = 12;
 
-QValueAxis *firstAxis(const GraphicsBase &view, Qt::Orientation orientation)
-{
-    if (auto *polar = qobject_cast<QPolarChart *>(view.chart())) {
-        const auto kind = orientation == Qt::Horizontal ? QPolarChart::PolarOrientationAngular
-                                                        : QPolarChart::PolarOrientationRadial;
-        return qobject_cast<QValueAxis *>(polar->axes(kind).value(0));
-    }
-    return qobject_cast<QValueAxis *>(view.chart()->axes(orientation).value(0));
-}
-
 } // namespace
 
 namespace ChartPresentation {
 
 void prepare(GraphicsBase &view)
 {
-    QLegend *legend = view.chart()->legend();
-    legend->setAlignment(Qt::AlignBottom);
-    QFont font = legend->font();
+    QFont font = view.chart()->legend()->font();
     font.setWeight(QFont::Normal);
-    legend->setFont(font);
-    legend->show();
-    QValueAxis *angles = firstAxis(view, Qt::Horizontal);
-    angles->setTickCount(circleDivisions + 1);
-    angles->setLabelFormat(QStringLiteral("%g"));
-    firstAxis(view, Qt::Vertical)->setLabelFormat(QStringLiteral("%g"));
+    view.showLegend(Qt::AlignBottom, font);
+    view.setXDivisions(circleDivisions);
+    view.setLabelFormat(QStringLiteral("%g"));
 }
 
 void setTitle(GraphicsBase &view, const QString &title)
@@ -50,8 +34,8 @@ void setTitle(GraphicsBase &view, const QString &title)
 
 void setAxisTitles(GraphicsBase &view, const QString &angles, const QString &levels)
 {
-    firstAxis(view, Qt::Horizontal)->setTitleText(angles);
-    firstAxis(view, Qt::Vertical)->setTitleText(levels);
+    view.setAxisXTitle(angles);
+    view.setAxisYTitle(levels);
 }
 
 void showLevels(GraphicsBase &view, const AxisScale &scale)
@@ -65,7 +49,7 @@ void showLevels(GraphicsBase &view, const AxisScale &scale)
 
 void showAngles(GraphicsBase &view, const AxisScale &scale)
 {
-    firstAxis(view, Qt::Horizontal)->setTickCount(scale.divisions + 1);
+    view.setXDivisions(scale.divisions);
     view.setXRange(scale.min, scale.max);
 }
 

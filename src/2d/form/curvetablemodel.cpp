@@ -2,7 +2,7 @@
 
 #include "2d/data/curvefrequency.h"
 #include "2d/form/curveset.h"
-#include "2d/scene/curveswatch.h"
+#include "2d/scene/generatecolors.h"
 
 #include <QFont>
 #include <QIcon>

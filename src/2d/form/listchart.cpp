@@ -7,7 +7,7 @@
 #include "2d/form/curvetablemodel.h"
 #include "2d/form/filedrag.h"
 #include "2d/form/pointtablemodel.h"
-#include "2d/scene/curveswatch.h"
+#include "2d/scene/generatecolors.h"
 #include "2d/view/curvename.h"
 #include "2d/view/graphicsbase.h"
 #include "2d/view/managergraph.h"

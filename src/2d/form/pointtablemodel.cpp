@@ -1,7 +1,7 @@
 #include "2d/form/pointtablemodel.h"
 
 #include "2d/data/curvetext.h"
-#include "2d/scene/curveswatch.h"
+#include "2d/scene/generatecolors.h"
 
 #include <QFontMetrics>
 #include <QGuiApplication>

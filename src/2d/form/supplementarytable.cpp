@@ -1,7 +1,7 @@
 #include "2d/form/supplementarytable.h"
 
 #include "2d/data/supplementtext.h"
-#include "2d/scene/curveswatch.h"
+#include "2d/scene/generatecolors.h"
 
 #include <QEvent>
 #include <QHeaderView>

@@ -99,7 +99,6 @@ void Callout::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, Q
     pointer.lineTo(middle + halfFoot, foot);
     pointer.closeSubpath();
 
-    painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(m_color, 1.5));
     painter->setBrush(Qt::white);
@@ -107,5 +106,4 @@ void Callout::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, Q
     painter->setFont(calloutFont());
     painter->setPen(Qt::black);
     painter->drawText(m_box, Qt::AlignCenter, m_text);
-    painter->restore();
 }

@@ -1,5 +1,8 @@
 #include "2d/scene/generatecolors.h"
 
+#include <QIcon>
+#include <QPixmap>
+
 #include <array>
 
 QList<QColor> GenerateColors::colors;
@@ -16,4 +19,15 @@ QColor curveColor(int pathId)
     for (int round = index / size; round > 0 && round < 4; --round)
         color = color.darker(darker);
     return color;
+}
+
+QIcon curveSwatch(const QColor &color)
+{
+    // Sharp on dense screens too, where one pixel of the layout is up to four of the screen.
+    QPixmap field(48, 48);
+    field.fill(color.isValid() ? color : QColor(Qt::gray));
+    QIcon swatch(field);
+    // Its own, or a selected row would tint the colour.
+    swatch.addPixmap(field, QIcon::Selected);
+    return swatch;
 }

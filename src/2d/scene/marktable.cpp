@@ -3,14 +3,12 @@
 #include "2d/scene/mymarkitem.h"
 
 #include <QEvent>
-#include <QGraphicsSceneMouseEvent>
 #include <QHeaderView>
 
 #include <cmath>
 
 namespace {
 
-constexpr qreal aboveTheCurves = 10.0;
 constexpr int heightOfRow = 20;
 constexpr int headerHeight = 24;
 constexpr int tableWidth = 210;
@@ -101,29 +99,9 @@ void MarkTable::changeEvent(QEvent *event)
 }
 
 MarkTablePanel::MarkTablePanel(QGraphicsItem *parent)
-    : QGraphicsProxyWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+    : TablePanel(parent)
     , m_table(new MarkTable)
 {
     m_table->setVisible(false);
     setWidget(m_table);
-    setFlag(ItemIsMovable);
-    setZValue(aboveTheCurves);
 }
-
-// The table reacts to no mouse; were it handed the events, it would swallow what moves the panel.
-// NOLINTBEGIN(bugprone-parent-virtual-call)
-void MarkTablePanel::mousePressEvent(QGraphicsSceneMouseEvent *event)
-{
-    QGraphicsItem::mousePressEvent(event);
-}
-
-void MarkTablePanel::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    QGraphicsItem::mouseMoveEvent(event);
-}
-
-void MarkTablePanel::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
-{
-    QGraphicsItem::mouseReleaseEvent(event);
-}
-// NOLINTEND(bugprone-parent-virtual-call)

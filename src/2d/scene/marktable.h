@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QGraphicsProxyWidget>
+#include "2d/scene/tablepanel.h"
+
 #include <QMap>
 #include <QTableWidget>
 
@@ -30,8 +31,8 @@ private:
     QString m_curveName;
 };
 
-/// The panel on the scene that hosts a MarkTable; it is moved with the mouse.
-class MarkTablePanel : public QGraphicsProxyWidget
+/// The panel on the scene that hosts a MarkTable.
+class MarkTablePanel : public TablePanel
 {
     Q_OBJECT
 
@@ -39,11 +40,6 @@ public:
     explicit MarkTablePanel(QGraphicsItem *parent = nullptr);
 
     MarkTable *table() const { return m_table; }
-
-protected:
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
     MarkTable *m_table = nullptr;

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "2d/data/parainfo.h"
-
-#include <QGraphicsProxyWidget>
+#include "2d/scene/tablepanel.h"
 
 class MyParaInfoTable;
 
-/// The panel on the chart's scene that hosts a MyParaInfoTable; it lies above the curves and is
-/// moved with the mouse. It owns the table and is visible while the table is.
-class MyCustomProxy : public QGraphicsProxyWidget
+/// The panel on the chart's scene that hosts a MyParaInfoTable. It owns the table
+/// and is visible while the table is.
+class MyCustomProxy : public TablePanel
 {
     Q_OBJECT
 
@@ -23,11 +22,6 @@ public:
 public slots:
     void updateParaInfo(ParaInfo paraInfo);
     void clearParaInfo();
-
-protected:
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
     MyParaInfoTable *m_table = nullptr;

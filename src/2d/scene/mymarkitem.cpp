@@ -99,7 +99,6 @@ void MyMarkItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     Q_UNUSED(widget)
     const double radius = radiusOf(m_markSelected);
     const QPainterPath outline = pin(radius);
-    painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     const QColor rim = m_markSelected ? QColor(Qt::black) : m_color.darker(170);
     painter->setPen(
@@ -117,7 +116,6 @@ void MyMarkItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     const QPointF centre = headCentre(radius);
     painter->drawText(QRectF(centre.x() - radius, centre.y() - radius, 2.0 * radius, 2.0 * radius),
                       Qt::AlignCenter, QString::number(m_markId));
-    painter->restore();
 }
 
 void MyMarkItem::mousePressEvent(QGraphicsSceneMouseEvent *event)

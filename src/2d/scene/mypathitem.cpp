@@ -279,7 +279,6 @@ void MyPathItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     Q_UNUSED(widget)
     if (m_valuePoints.isEmpty())
         return;
-    painter->save();
     const bool clipped = m_clipped || m_curveSelected; // the band reaches farther than the line
     if (clipped && m_chartKind == polarKind) {
         QPainterPath circle;
@@ -300,7 +299,6 @@ void MyPathItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     }
     painter->setPen(linePen(lineColor, width));
     drawLine(*painter);
-    painter->restore();
 }
 
 /// Draws the line in short pieces, since the stroke of a long path has to be tested against all of

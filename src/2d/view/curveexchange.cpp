@@ -2,21 +2,17 @@
 
 #include "2d/data/curvetext.h"
 #include "2d/view/curvename.h"
-#include "2d/view/graphicsbase.h"
 #include "2d/view/pathinfo.h"
 #include "storage/filewriting.h"
 #include "widgets/messagesimpledialog.h"
 
 #include <QBuffer>
-#include <QChart>
 #include <QClipboard>
 #include <QDebug>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-
-#include <algorithm>
 
 namespace {
 
@@ -41,8 +37,8 @@ void logPoints(const QVector<QPointF> &points)
 
 } // namespace
 
-CurveExchange::CurveExchange(GraphicsBase &view)
-    : m_view(view)
+CurveExchange::CurveExchange(ExchangeTarget &target)
+    : m_target(target)
 {}
 
 void CurveExchange::copy()
@@ -75,10 +71,8 @@ void CurveExchange::exportData()
         return;
     qDebug() << "export fileName: " << fileName;
 
-    const QtCharts::QChart *chart = m_view.chart();
-    const FileOutcome outcome =
-        replaceFile(fileName, CurveText::toFile(chart ? chart->title() : QString(), path->name(),
-                                                path->points()));
+    const FileOutcome outcome = replaceFile(
+        fileName, CurveText::toFile(m_target.chartTitle(), path->name(), path->points()));
     switch (outcome.kind) {
     case FileOutcome::Kind::Written:
         tell(tr("Export csv successfully"), Success);
@@ -98,7 +92,7 @@ void CurveExchange::exportImage()
     if (fileName.isEmpty())
         return;
     const QPixmap picture =
-        m_view.grab().scaled(pictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        m_target.picture().scaled(pictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     const QByteArray bytes = encoded(picture, QFileInfo(fileName).suffix());
     const FileOutcome outcome = bytes.isEmpty() ? FileOutcome() : replaceFile(fileName, bytes);
     if (bytes.isEmpty() || outcome.kind != FileOutcome::Kind::Written)
@@ -110,7 +104,7 @@ void CurveExchange::exportImage()
 void CurveExchange::importData()
 {
     const QString fileName =
-        QFileDialog::getOpenFileName(m_view.window(), QStringLiteral("import data"),
+        QFileDialog::getOpenFileName(m_target.dialogParent(), QStringLiteral("import data"),
                                      QStringLiteral("./"), QStringLiteral("*.csv"));
     if (fileName.isEmpty()) {
         qWarning().noquote() << tr("The import file directory is empty");
@@ -127,18 +121,18 @@ void CurveExchange::importData()
     rememberFolder(fileName);
 
     const CurveText::Curve curve = CurveText::fromFile(bytes);
-    m_view.setSeriesName(curve.name);
+    m_target.setSeriesName(curve.name);
     if (curve.status != CurveText::Status::Complete) {
         tell(tr("Incorrect file format"), Failure);
         return;
     }
     if (const std::optional<QString> name = freeName(curve.name))
-        m_view.addCurve(*name, curve.points);
+        m_target.addCurve(*name, curve.points);
 }
 
 PathInfo *CurveExchange::curveToExport()
 {
-    PathInfo *path = m_view.selectedPath();
+    PathInfo *path = m_target.selectedPath();
     if (!path) {
         const QString text = tr("No selected graphics can be exported");
         tell(text, Failure);
@@ -149,8 +143,8 @@ PathInfo *CurveExchange::curveToExport()
 
 QString CurveExchange::askFileToWrite(const QString &filter)
 {
-    const QString fileName = QFileDialog::getSaveFileName(m_view.window(), tr("Save As"),
-                                                          m_view.defaultDirectory(), filter);
+    const QString fileName = QFileDialog::getSaveFileName(m_target.dialogParent(), tr("Save As"),
+                                                          m_defaultDirectory, filter);
     if (fileName.isEmpty())
         qWarning().noquote() << tr("The export file directory is empty");
     else
@@ -170,27 +164,24 @@ void CurveExchange::addFromText(const QString &text)
     if (!name)
         return;
     logPoints(curve.points);
-    m_view.addCurve(*name, curve.points);
+    m_target.addCurve(*name, curve.points);
 }
 
 std::optional<QString> CurveExchange::freeName(const QString &name)
 {
-    return askFreeCurveName(m_view.window(), name, [this](const QString &wanted) {
-        const QMap<int, PathInfo *> &paths = m_view.paths();
-        return std::any_of(paths.begin(), paths.end(),
-                           [&wanted](const PathInfo *path) { return path->name() == wanted; });
-    });
+    return askFreeCurveName(m_target.dialogParent(), name,
+                            [this](const QString &wanted) { return m_target.hasCurve(wanted); });
 }
 
 void CurveExchange::rememberFolder(const QString &fileName)
 {
-    m_view.setDefaultDirectory(fileName.left(fileName.lastIndexOf(QLatin1Char('/')) + 1));
+    m_defaultDirectory = fileName.left(fileName.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
 // The view's own style sheet would reach every dialog below it, hence its window as their parent.
 void CurveExchange::tell(const QString &text, int kind)
 {
-    MessageSimpleDialog::showMessage(text, kind, m_view.window());
+    MessageSimpleDialog::showMessage(text, kind, m_target.dialogParent());
 }
 
 void CurveExchange::tellFailure(const QString &text, const QString &reason)

@@ -1,7 +1,8 @@
 #include "2d/view/graphicsbase.h"
 
+#include "2d/scene/chartstage.h"
 #include "2d/scene/mycustomproxy.h"
-#include "2d/view/chartviewstate.h"
+#include "2d/view/curvelist.h"
 #include "2d/view/pathinfo.h"
 
 #include <QChart>
@@ -12,15 +13,17 @@
 #include <QLineSeries>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
-#include <QValueAxis>
 
 using namespace QtCharts;
 
-using Panels = ChartViewState::Panels;
+using Panels = CurveList::Panels;
 
 GraphicsBase::GraphicsBase(int kind, QWidget *parent)
     : QGraphicsView(parent)
     , m_scene(std::make_unique<QGraphicsScene>())
+    , m_stage(std::make_unique<ChartStage>(kind, *m_scene))
+    , m_curves(std::make_unique<CurveList>(*m_stage, *m_scene, m_ranges))
+    , m_exchange(*this)
 {
     // Few items, most of which move with every change: an index would only have to be kept up.
     m_scene->setItemIndexMethod(QGraphicsScene::NoIndex);
@@ -29,16 +32,11 @@ GraphicsBase::GraphicsBase(int kind, QWidget *parent)
     m_scene->setBackgroundBrush(Qt::white);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setScene(m_scene.get());
-    m_state = std::make_unique<ChartViewState>(kind, *this, *m_scene);
     retitle();
 
-    m_state->tableProxy = new MyCustomProxy;
-    m_scene->addItem(m_state->tableProxy);
-    m_state->tableProxy->hide();
-    connect(this, &GraphicsBase::updateParaInfoToTable, m_state->tableProxy,
-            &MyCustomProxy::updateParaInfo);
-    connect(this, &GraphicsBase::clearParaInfoToTable, m_state->tableProxy,
-            &MyCustomProxy::clearParaInfo);
+    m_tableProxy = new MyCustomProxy;
+    m_scene->addItem(m_tableProxy);
+    m_tableProxy->hide();
 
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_MouseTracking);
@@ -48,97 +46,125 @@ GraphicsBase::GraphicsBase(int kind, QWidget *parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setStyleSheet(QStringLiteral("border-width: 1px;border-style: none;"));
     setContextMenuPolicy(Qt::CustomContextMenu);
+    connectParts();
+}
+
+void GraphicsBase::connectParts()
+{
+    connect(this, &GraphicsBase::updateParaInfoToTable, m_tableProxy,
+            &MyCustomProxy::updateParaInfo);
+    connect(this, &GraphicsBase::clearParaInfoToTable, m_tableProxy, &MyCustomProxy::clearParaInfo);
+    connect(this, &GraphicsBase::updataSize, m_curves.get(), &CurveList::updataSize);
+    connect(m_curves.get(), &CurveList::selectionAsked, this, &GraphicsBase::updatePathSelection);
+    connect(m_curves.get(), &CurveList::acceptDropsAsked, this,
+            &GraphicsBase::setAcceptDropsStatus);
+    connect(m_curves.get(), &CurveList::lookChanged, this, &GraphicsBase::curvesChanged);
     connect(this, &QWidget::customContextMenuRequested, this, &GraphicsBase::showMenu);
     if (QChart *current = chart())
-        connect(current, &QChart::plotAreaChanged, this, [this] { m_state->catchUpLater(); });
+        connect(current, &QChart::plotAreaChanged, m_curves.get(), &CurveList::catchUpLater);
 }
 
 GraphicsBase::~GraphicsBase()
 {
     if (chart())
-        chart()->disconnect(this);
+        chart()->disconnect(m_curves.get());
 }
 
 QChart *GraphicsBase::chart() const
 {
-    return m_state->stage.chart();
+    return m_stage->chart();
 }
 
 int GraphicsBase::kind() const
 {
-    return m_state->stage.kind();
+    return m_stage->kind();
 }
 
 const QMap<int, PathInfo *> &GraphicsBase::paths() const
 {
-    return m_state->paths;
+    return m_curves->paths();
 }
 
 const QMap<int, MyMarkItem *> &GraphicsBase::marks() const
 {
-    return m_state->marks.all();
+    return m_curves->marks().all();
 }
 
 PathInfo *GraphicsBase::selectedPath() const
 {
-    return m_state->selectedPath();
+    return m_curves->selected();
 }
 
 MyMarkItem *GraphicsBase::selectedMark() const
 {
-    return m_state->marks.selected();
+    return m_curves->marks().selected();
 }
 
 ViewRange GraphicsBase::shownRange() const
 {
-    return m_state->shownRange();
+    return m_ranges.inView(*m_stage);
 }
 
 QPointF GraphicsBase::toScene(const QPointF &value) const
 {
-    return m_state->stage.toScene(value);
+    return m_stage->toScene(value);
 }
 
 QPointF GraphicsBase::toValue(const QPointF &scenePosition) const
 {
-    return m_state->stage.toValue(scenePosition);
+    return m_stage->toValue(scenePosition);
 }
 
 QString GraphicsBase::defaultDirectory() const
 {
-    return m_state->defaultDirectory;
+    return m_exchange.defaultDirectory();
 }
 
 void GraphicsBase::setDefaultDirectory(const QString &directory)
 {
-    m_state->defaultDirectory = directory;
+    m_exchange.setDefaultDirectory(directory);
 }
 
 QString GraphicsBase::seriesName() const
 {
-    return m_state->seriesName;
+    return m_seriesName;
+}
+
+QString GraphicsBase::chartTitle() const
+{
+    return chart() ? chart()->title() : QString();
+}
+
+bool GraphicsBase::hasCurve(const QString &name) const
+{
+    return m_curves->hasName(name);
 }
 
 void GraphicsBase::retitle()
 {
-    ChartViewState &state = *m_state;
     setAccessibleName(tr("Chart"));
-    if (!state.stage.isPolar())
-        setAxisXTitle(tr("Last %1 minutes").arg(state.period));
+    if (!m_stage->isPolar())
+        setAxisXTitle(tr("Last %1 minutes").arg(m_ranges.period));
     setAxisYTitle(tr("Power[dBm]"));
     // What a running chart has scrolled to stays in view when the language changes.
-    const double shownPeriod = state.shown.xMax - state.shown.xMin;
-    if (state.shown.xMin <= 0.0 || !qFuzzyCompare(shownPeriod, double(state.period))) {
-        state.shown.xMin = 0.0;
-        state.shown.xMax = state.period;
-    }
+    const ViewRange &shown = m_ranges.shown;
+    if (shown.xMin <= 0.0 || !qFuzzyCompare(shown.xMax - shown.xMin, double(m_ranges.period)))
+        m_ranges.startPeriod();
     setScaleLevel(5, 20.0, -30.0);
-    state.updateFinished = false;
-    state.zoomMode = false;
-    state.panMode = false;
-    state.symmetryApplied = false;
-    state.xOffset = 0.0;
-    state.yOffset = 0.0;
+    m_curves->setComplete(false);
+    m_zoomMode = false;
+    m_panMode = false;
+    m_offset = {};
+}
+
+void GraphicsBase::setLabelFormat(const QString &format)
+{
+    m_stage->setLabelFormat(format);
+}
+
+void GraphicsBase::showLegend(Qt::Alignment side, const QFont &font)
+{
+    m_stage->showLegend(side, font);
 }
 
 // Hovering over a curve shows nothing, by intent.
@@ -150,74 +176,65 @@ void GraphicsBase::tooltip(QPointF point, bool state)
 
 void GraphicsBase::setChartTitle(QString title)
 {
-    if (!chart())
-        return;
-    const SeriesLayoutGuard guard(m_state->stage, m_state->paths);
-    chart()->setTitle(title);
+    m_stage->setTitle(title);
 }
 
 void GraphicsBase::setChartTitle(QString title, QFont font)
 {
-    if (!chart())
-        return;
-    const SeriesLayoutGuard guard(m_state->stage, m_state->paths);
-    chart()->setTitleFont(font);
-    chart()->setTitle(title);
+    m_stage->setTitle(title, font);
 }
 
 void GraphicsBase::setSeriesName(QString name)
 {
-    m_state->seriesName = name;
+    m_seriesName = name;
 }
 
 void GraphicsBase::setAxisXTitle(QString str)
 {
-    if (!chart())
-        return;
-    const SeriesLayoutGuard guard(m_state->stage, m_state->paths);
-    setAxisTitle(*m_state->stage.xAxis(), str);
+    m_stage->setXTitle(str);
 }
 
 void GraphicsBase::setAxisYTitle(QString str)
 {
-    if (!chart())
-        return;
-    const SeriesLayoutGuard guard(m_state->stage, m_state->paths);
-    setAxisTitle(*m_state->stage.yAxis(), str);
+    m_stage->setYTitle(str);
 }
 
 void GraphicsBase::setScaleLevel(int div, double scaleDiv, double reference)
 {
-    ChartViewState &state = *m_state;
-    state.divisionCount = div;
-    state.scalePerDivision = scaleDiv;
-    state.referenceLevel = reference;
     const ValueSpan span = divisionSpan(div, scaleDiv, reference);
-    state.shown.yMin = span.low;
-    state.shown.yMax = span.high;
-    state.home = state.shown;
-    if (chart()) {
-        const SeriesLayoutGuard guard(state.stage, state.paths);
-        state.stage.yAxis()->setTickCount(div + 1);
-        state.applyAxes();
+    m_ranges.shown.yMin = span.low;
+    m_ranges.shown.yMax = span.high;
+    m_ranges.home = m_ranges.shown;
+    {
+        const ChartStage::LayoutGuard guard(*m_stage);
+        m_stage->setYDivisions(div);
+        m_ranges.apply(*m_stage);
     }
-    state.refresh(Panels::AllTables);
+    m_curves->refresh(Panels::AllTables);
 }
 
 bool GraphicsBase::needsXRange(const char *operation) const
 {
-    if (m_state->stage.rangedXAxis())
+    if (m_stage->hasXRange())
         return true;
     qWarning() << operation << "needs a chart whose X range can change";
     return false;
+}
+
+PathInfo &GraphicsBase::existingPath(int index, const char *operation) const
+{
+    PathInfo *path = paths().value(index);
+    if (!path)
+        qFatal("%s: there is no curve %d", operation, index);
+    return *path;
 }
 
 void GraphicsBase::setXPeriod(int period)
 {
     if (!needsXRange("setXPeriod"))
         return;
-    m_state->period = period;
-    const ViewRange axes = m_state->stage.axisRange();
+    m_ranges.period = period;
+    const ViewRange axes = m_stage->axisRange();
     setXRange(axes.xMin, axes.xMax);
 }
 
@@ -225,45 +242,38 @@ void GraphicsBase::setXRange(double min, double max)
 {
     if (!needsXRange("setXRange"))
         return;
-    ChartViewState &state = *m_state;
-    {
-        const SeriesLayoutGuard guard(state.stage, state.paths);
-        setAxisRange(*state.stage.rangedXAxis(), min, max);
-    }
-    state.shown.xMin = min;
-    state.shown.xMax = max;
-    state.home.xMin = min;
-    state.home.xMax = max;
-    state.refresh(Panels::MarkTables);
+    m_ranges.setX(min, max);
+    m_stage->setXRange(min, max);
+    m_curves->refresh(Panels::MarkTables);
 }
 
 void GraphicsBase::setYRange(double min, double max, int div)
 {
-    ChartViewState &state = *m_state;
-    if (chart()) {
-        const SeriesLayoutGuard guard(state.stage, state.paths);
-        state.stage.yAxis()->setTickCount(div + 1);
-        setAxisRange(*state.stage.yAxis(), min, max);
+    m_ranges.setY(min, max);
+    {
+        const ChartStage::LayoutGuard guard(*m_stage);
+        m_stage->setYDivisions(div);
+        m_stage->setYRange(min, max);
     }
-    state.shown.yMin = min;
-    state.shown.yMax = max;
-    state.home.yMin = min;
-    state.home.yMax = max;
     // Markers and curves stay where they are for whoever asks now; what is seen follows.
-    state.catchUpLater();
+    m_curves->catchUpLater();
+}
+
+void GraphicsBase::setXDivisions(int div)
+{
+    m_stage->setXDivisions(div);
 }
 
 void GraphicsBase::setOffset(double xOffset, double yOffset)
 {
-    m_state->xOffset = xOffset;
-    m_state->yOffset = yOffset;
+    m_offset = {xOffset, yOffset};
 }
 
 void GraphicsBase::resetChart(QStringList list)
 {
     clearChart();
     for (const QString &name : qAsConst(list))
-        m_state->newPath(name);
+        m_curves->add(name);
     reconnectLegendMarkers();
     emit curvesChanged();
 }
@@ -272,58 +282,46 @@ void GraphicsBase::updateChart(int index, QPointF point)
 {
     if (!needsXRange("updateChart"))
         return;
-    ChartViewState &state = *m_state;
-    state.updateFinished = false;
-    PathInfo *path = state.paths.value(index);
-    if (!path)
-        qFatal("updateChart: there is no curve %d", index);
+    m_curves->setComplete(false);
+    CurveSeries &curve = existingPath(index, "updateChart").curve();
     constexpr int pointsPerMinute = 60;
-    if (path->series()->count() > state.period * pointsPerMinute)
-        path->removeFirstPoint();
-    const double x = point.x() + state.xOffset;
-    const double y = point.y() + state.yOffset;
-    state.shown.followTime(x, state.period);
-    state.lastX[index] = {x};
-    state.lastY[index] = {y};
-    const ValueSpan span = autoscaledSpan(path->points());
+    const QPointF fed = point + m_offset;
     {
-        const SeriesLayoutGuard guard(state.stage, state.paths);
-        setAxisRange(*state.stage.rangedXAxis(), state.shown.xMin, state.shown.xMax);
+        const ChartStage::LayoutGuard guard(*m_stage);
+        if (curve.count() > m_ranges.period * pointsPerMinute)
+            curve.removeFirst();
+        m_ranges.shown.followTime(fed.x(), m_ranges.period);
+        m_stage->setXRange(m_ranges.shown.xMin, m_ranges.shown.xMax);
+        const ValueSpan span = autoscaledSpan(curve.points());
         setYRange(span.low, span.high, 5);
+        curve.append(fed);
     }
-    path->appendPoint({x, y});
     updataResize();
 }
 
 void GraphicsBase::setPathInfoHide(int index)
 {
-    for (PathInfo *path : qAsConst(m_state->paths))
+    for (PathInfo *path : paths())
         path->setHidden(path->pathId() != index);
 }
 
 void GraphicsBase::finishUpdateChart()
 {
-    ChartViewState &state = *m_state;
-    if (state.paths.isEmpty())
+    if (paths().isEmpty())
         return;
-    state.updateFinished = true;
-    for (PathInfo *path : qAsConst(state.paths)) {
+    m_curves->setComplete(true);
+    for (PathInfo *path : paths()) {
         path->stackParaTable(sceneRect());
-        path->updateMarkInfo(state.marks.all());
+        path->updateMarkInfo(marks());
     }
 }
 
 void GraphicsBase::clearChart()
 {
-    ChartViewState &state = *m_state;
     deselect();
-    state.marks.clear();
-    const QList<int> ids = state.paths.keys();
-    for (const int id : ids)
-        state.removePath(id);
-    state.lastX.clear();
-    state.lastY.clear();
-    if (!ids.isEmpty())
+    const bool hadCurves = !paths().isEmpty();
+    m_curves->clear();
+    if (hadCurves)
         emit curvesChanged();
 }
 
@@ -331,92 +329,78 @@ void GraphicsBase::clearChartData(int index)
 {
     if (!needsXRange("clearChartData"))
         return;
-    ChartViewState &state = *m_state;
-    PathInfo *path = state.paths.value(index);
-    if (!path)
-        qFatal("clearChartData: there is no curve %d", index);
-    state.lastX.clear();
-    state.lastY.clear();
-    state.shown.xMin = 0.0;
-    state.shown.xMax = state.period;
-    {
-        const SeriesLayoutGuard guard(state.stage, state.paths);
-        setAxisRange(*state.stage.rangedXAxis(), state.shown.xMin, state.shown.xMax);
-    }
-    path->setPoints({});
-    path->rebuild(state.stage);
-    state.catchUpLater();
+    PathInfo &path = existingPath(index, "clearChartData");
+    m_ranges.startPeriod();
+    m_stage->setXRange(m_ranges.shown.xMin, m_ranges.shown.xMax);
+    path.setPoints({});
+    path.rebuild(*m_stage);
+    m_curves->catchUpLater();
 }
 
 void GraphicsBase::clearChart(int index)
 {
-    PathInfo *path = m_state->paths.value(index);
+    PathInfo *path = paths().value(index);
     if (!path)
         return;
     if (path->isSelected())
         deselect();
-    m_state->removePath(index);
+    m_curves->remove(index);
     emit curvesChanged();
 }
 
 PathInfo *GraphicsBase::createPath(const QString &name)
 {
-    PathInfo *path = m_state->newPath(name);
+    PathInfo *path = m_curves->add(name);
     emit curvesChanged();
     return path;
 }
 
 PathInfo *GraphicsBase::addCurve(const QString &name, const QVector<QPointF> &points)
 {
-    PathInfo *path = m_state->newPath(name);
+    PathInfo *path = m_curves->add(name);
     path->setPoints(points);
     reconnectLegendMarkers();
-    m_state->refresh(Panels::AllTables);
+    m_curves->refresh(Panels::AllTables);
     emit curvesChanged();
     return path;
 }
 
 void GraphicsBase::rebuildPath(int pathId)
 {
-    if (PathInfo *path = m_state->paths.value(pathId))
-        path->rebuild(m_state->stage);
+    if (PathInfo *path = paths().value(pathId))
+        path->rebuild(*m_stage);
 }
 
 ParaInfo GraphicsBase::patternParameters(int pathId)
 {
-    PathInfo *path = m_state->paths.value(pathId);
-    return path ? m_state->recompute(*path) : ParaInfo();
+    PathInfo *path = paths().value(pathId);
+    return path ? m_curves->recompute(*path) : ParaInfo();
 }
 
 bool GraphicsBase::parameterLinesVisible() const
 {
-    return m_state->parameterLinesVisible;
+    return m_curves->parameterLinesVisible();
 }
 
 void GraphicsBase::setParameterLinesVisible(bool visible)
 {
-    m_state->parameterLinesVisible = visible;
-    for (PathInfo *path : qAsConst(m_state->paths))
-        m_state->recompute(*path);
+    m_curves->setParameterLinesVisible(visible);
 }
 
 void GraphicsBase::SymmetrySlot()
 {
-    ChartViewState &state = *m_state;
-    state.symmetryApplied = true;
-    for (PathInfo *path : qAsConst(state.paths)) {
-        state.marks.snap(*path);
-        path->rebuild(state.stage);
-        path->drawMirrored(state.stage);
+    for (PathInfo *path : paths()) {
+        m_curves->marks().snap(*path);
+        path->rebuild(*m_stage);
+        path->drawMirrored(*m_stage);
     }
 }
 
 void GraphicsBase::SymmetryResetSlot()
 {
-    ChartViewState &state = *m_state;
-    for (PathInfo *path : qAsConst(state.paths)) {
-        state.marks.snap(*path);
-        path->rebuild(state.stage);
+    for (PathInfo *path : paths()) {
+        m_curves->marks().snap(*path);
+        path->rebuild(*m_stage);
         path->redrawOutline();
     }
 }
@@ -437,7 +421,7 @@ void GraphicsBase::handleMarkerClicked()
     auto *marker = qobject_cast<QLegendMarker *>(sender());
     if (!marker)
         return;
-    for (PathInfo *path : qAsConst(m_state->paths)) {
+    for (PathInfo *path : paths()) {
         if (path->series() == marker->series())
             path->setHidden(!path->isHidden());
     }
@@ -452,33 +436,29 @@ void GraphicsBase::setColorList(QList<QColor> colorList)
 /// Makes the view a pixel smaller and as large as before: the chart lays itself out and repaints.
 void GraphicsBase::updataResize()
 {
-    ChartViewState &state = *m_state;
     const QSize full = size();
-    state.resized = false;
+    m_resized = false;
     {
-        const QScopedValueRollback<bool> inner(state.nudging, true);
+        const QScopedValueRollback<bool> inner(m_nudging, true);
         resize(full - QSize(1, 1));
     }
     resize(full);
-    if (isVisible() && !state.resized) // at its smallest size the view cannot be nudged
-        state.refresh(Panels::AllTables);
+    if (isVisible() && !m_resized) // at its smallest size the view cannot be nudged
+        m_curves->refresh(Panels::AllTables);
 }
 
 void GraphicsBase::resizeEvent(QResizeEvent *event)
 {
-    ChartViewState &state = *m_state;
     const QSizeF size = event->size();
     if (scene())
         scene()->setSceneRect(QRectF(QPointF(0.0, 0.0), size));
-    if (chart() && !state.nudging) {
-        const SeriesLayoutGuard guard(state.stage, state.paths);
-        chart()->resize(size);
-    }
+    if (!m_nudging)
+        m_stage->resize(size);
     QGraphicsView::resizeEvent(event);
-    if (state.nudging) // the real size follows at once
+    if (m_nudging) // the real size follows at once
         return;
-    state.resized = true;
-    state.refresh(Panels::AllTables);
+    m_resized = true;
+    m_curves->refresh(Panels::AllTables);
     if (chart())
         emit updataSize(chart()->size() + QSizeF(-60.0, 10.0));
 }

@@ -1,14 +1,17 @@
 #pragma once
 
 #include "2d/data/parainfo.h"
-#include "2d/data/viewrange.h"
+#include "2d/view/axisranges.h"
+#include "2d/view/curveexchange.h"
 
 #include <QGraphicsView>
 #include <QMap>
 
 #include <memory>
 
-class ChartViewState;
+class ChartStage;
+class CurveList;
+class MyCustomProxy;
 class MyMarkItem;
 class PathInfo;
 struct ChartSituation;
@@ -27,7 +30,7 @@ QT_END_NAMESPACE
 ///
 /// Public functions take chart values unless they say "scene"; the scene's coordinates are the
 /// pixels of the view. Curves are known by their path id, markers by their number, both from 1.
-class GraphicsBase : public QGraphicsView
+class GraphicsBase : public QGraphicsView, private ExchangeTarget
 {
     Q_OBJECT
 
@@ -42,7 +45,7 @@ public:
     const QMap<int, PathInfo *> &paths() const;
     const QMap<int, MyMarkItem *> &marks() const;
     /// The selected curve, null when there is none.
-    PathInfo *selectedPath() const;
+    PathInfo *selectedPath() const override;
     MyMarkItem *selectedMark() const;
 
     /// The range shown. In a polar view x is the range of the angular axis, which never changes.
@@ -54,7 +57,8 @@ public:
     /// Makes an empty curve under the smallest free path id.
     PathInfo *createPath(const QString &name);
     /// Makes a curve of \a points (those that are not finite are left out) and shows it.
-    PathInfo *addCurve(const QString &name, const QVector<QPointF> &points);
+    PathInfo *addCurve(const QString &name, const QVector<QPointF> &points) override;
+    bool hasCurve(const QString &name) const override;
     /// Draws the curve \a pathId anew from its series.
     void rebuildPath(int pathId);
     /// The figures of the curve's pattern; all zero when it is empty or hidden. Places its lines.
@@ -69,6 +73,7 @@ public:
     /// Where the file dialogs start; "./" at first, ends with a slash.
     QString defaultDirectory() const;
     void setDefaultDirectory(const QString &directory);
+    /// What setSeriesName() was given last, or the name in the file that was imported last.
     QString seriesName() const;
 
     /// Stretches the range shown about \a centre; the caller applies it to the axes.
@@ -77,6 +82,10 @@ public:
     MyMarkItem *addMark(const QPointF &position, const QColor &color);
     /// Gives the axes the titles and the scale of the time chart, in the current language.
     void retitle();
+    /// A printf format of a double for the numbers along both axes.
+    void setLabelFormat(const QString &format);
+    /// Shows the legend at \a side.
+    void showLegend(Qt::Alignment side, const QFont &font);
 
 signals:
     void doubleClick(const GraphicsBase *view);
@@ -94,8 +103,8 @@ public slots:
     void tooltip(QPointF point, bool state);
     void setChartTitle(QString title);
     void setChartTitle(QString title, QFont font);
-    /// The name of the curve in exports.
-    void setSeriesName(QString name);
+    /// Keeps the name for seriesName(): exports carry the names of their curves.
+    void setSeriesName(QString name) override;
     void setAxisXTitle(QString str);
     void setAxisYTitle(QString str);
     /// Y axis of \a div divisions, \a scaleDiv units each, \a reference at the centre.
@@ -104,6 +113,8 @@ public slots:
     void setXPeriod(int period);
     void setXRange(double min, double max);
     void setYRange(double min, double max, int div);
+    /// The number of fields between the first and the last tick of the X or angular axis.
+    void setXDivisions(int div);
     /// Added to every point that updateChart() is given from now on.
     void setOffset(double xOffset, double yOffset);
     /// Replaces all curves by empty ones of these names, with the path ids 1, 2, ...
@@ -160,7 +171,13 @@ private slots:
     void updataResize();
 
 private:
+    QWidget *dialogParent() override { return window(); }
+    QString chartTitle() const override;
+    QPixmap picture() override { return grab(); }
+
+    void connectParts();
     bool needsXRange(const char *operation) const;
+    PathInfo &existingPath(int index, const char *operation) const;
     void deselect();
     void pressCurves(const QPoint &position);
     void zoomAbout(const QPointF &centre, double factor);
@@ -169,5 +186,16 @@ private:
     void showMenu(const QPoint &position);
 
     std::unique_ptr<QGraphicsScene> m_scene;
-    std::unique_ptr<ChartViewState> m_state;
+    std::unique_ptr<ChartStage> m_stage;
+    AxisRanges m_ranges;
+    std::unique_ptr<CurveList> m_curves;
+    CurveExchange m_exchange;
+    MyCustomProxy *m_tableProxy = nullptr; ///< the figures of the selected curve
+    QPointF m_offset;                      ///< added to every point of the time chart
+    QString m_seriesName;
+    QPointF m_menuPosition; ///< where the context menu was opened, on the scene
+    bool m_zoomMode = false;
+    bool m_panMode = false;
+    bool m_nudging = false; ///< inside the smaller of the two sizes of a nudge
+    bool m_resized = false; ///< a resize event has brought everything to its place
 };

@@ -1,12 +1,11 @@
 // What the mouse, the keyboard and the context menu do to a GraphicsBase.
 
 #include "2d/data/curvemaths.h"
+#include "2d/scene/chartstage.h"
 #include "2d/scene/mycustomproxy.h"
 #include "2d/scene/mypathitem.h"
 #include "2d/view/chartmenu.h"
-#include "2d/view/chartmenustate.h"
-#include "2d/view/chartviewstate.h"
-#include "2d/view/curveexchange.h"
+#include "2d/view/curvelist.h"
 #include "2d/view/graphicsbase.h"
 #include "2d/view/managergraph.h"
 #include "2d/view/pathinfo.h"
@@ -20,12 +19,11 @@
 #include <QGraphicsScene>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QValueAxis>
 #include <QWheelEvent>
 
 #include <array>
 
-using Panels = ChartViewState::Panels;
+using Panels = CurveList::Panels;
 
 namespace {
 
@@ -36,7 +34,7 @@ constexpr double keyStep = 0.1;
 
 void GraphicsBase::setLimitXY(const QPointF &centre, const double &factor)
 {
-    ViewRange &shown = m_state->shown;
+    ViewRange &shown = m_ranges.shown;
     shown = shown.scaledAbout(centre, factor);
     qWarning() << "min max.." << shown.xMin << shown.xMax << shown.yMin << shown.yMax << factor;
 }
@@ -44,7 +42,7 @@ void GraphicsBase::setLimitXY(const QPointF &centre, const double &factor)
 void GraphicsBase::wheelEvent(QWheelEvent *event)
 {
     event->accept();
-    if (!m_state->zoomMode || !chart())
+    if (!m_zoomMode || !chart())
         return;
     const QPointF centre = toValue(event->position().toPoint());
     // Turning the wheel forward shows more: it zooms out, by intent.
@@ -55,70 +53,65 @@ void GraphicsBase::wheelEvent(QWheelEvent *event)
 
 void GraphicsBase::zoomAbout(const QPointF &centre, double factor)
 {
-    ChartViewState &state = *m_state;
-    state.zoomCentre = centre;
-    state.zoomFactor = factor;
     setLimitXY(centre, factor);
-    state.applyAxes();
-    state.refresh(Panels::AllTables);
-    for (PathInfo *path : qAsConst(state.paths)) {
-        state.marks.snap(*path);
-        path->rebuild(state.stage);
+    showRange(m_ranges.shown);
+    for (PathInfo *path : paths()) {
+        m_curves->marks().snap(*path);
+        path->rebuild(*m_stage);
     }
 }
 
 void GraphicsBase::showRange(const ViewRange &range)
 {
-    m_state->shown = range;
-    m_state->applyAxes();
-    m_state->refresh(Panels::AllTables);
+    m_ranges.shown = range;
+    m_ranges.apply(*m_stage);
+    m_curves->refresh(Panels::AllTables);
 }
 
 void GraphicsBase::zoomSlot()
 {
-    m_state->zoomMode = true;
+    m_zoomMode = true;
     viewport()->setCursor(Qt::CrossCursor);
 }
 
 void GraphicsBase::panSlot()
 {
-    m_state->panMode = true;
+    m_panMode = true;
     viewport()->setCursor(Qt::OpenHandCursor);
 }
 
 void GraphicsBase::resetSlot()
 {
-    m_state->zoomMode = false;
-    m_state->panMode = false;
-    showRange(m_state->home);
+    m_zoomMode = false;
+    m_panMode = false;
+    showRange(m_ranges.home);
     viewport()->setCursor(Qt::ArrowCursor);
 }
 
 void GraphicsBase::panResetSlot()
 {
-    m_state->panMode = false;
-    showRange(m_state->shown);
+    m_panMode = false;
+    showRange(m_ranges.shown);
 }
 
 void GraphicsBase::mousePressEvent(QMouseEvent *event)
 {
-    if (!m_state->panMode) {
+    if (!m_panMode) {
         QGraphicsView::mousePressEvent(event);
         pressCurves(event->pos());
         return;
     }
     if (event->button() != Qt::LeftButton)
         return;
-    m_state->panAnchor = toValue(event->localPos().toPoint());
     viewport()->setCursor(Qt::ClosedHandCursor);
-    qDebug() << "leftbtn press: " << m_state->panAnchor;
+    qDebug() << "leftbtn press: " << toValue(event->localPos().toPoint());
 }
 
 /// A press can hit several curves; the last one keeps the selection.
 void GraphicsBase::pressCurves(const QPoint &position)
 {
     const QPointF place = mapToScene(position);
-    const QList<PathInfo *> candidates = m_state->paths.values();
+    const QList<PathInfo *> candidates = paths().values();
     for (const PathInfo *path : candidates) {
         MyPathItem *item = path->pathItem();
         if (!path->isHidden() && item->isVisible() && item->hits(place) &&
@@ -131,13 +124,13 @@ void GraphicsBase::pressCurves(const QPoint &position)
 // out, a table that is moved. The view itself does nothing with them.
 void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!m_state->panMode && scene()->mouseGrabberItem())
+    if (!m_panMode && scene()->mouseGrabberItem())
         QGraphicsView::mouseReleaseEvent(event);
 }
 
 void GraphicsBase::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_state->panMode && scene()->mouseGrabberItem())
+    if (!m_panMode && scene()->mouseGrabberItem())
         QGraphicsView::mouseMoveEvent(event);
 }
 
@@ -149,7 +142,7 @@ void GraphicsBase::mouseDoubleClickEvent(QMouseEvent *event)
 
 void GraphicsBase::keyPressEvent(QKeyEvent *event)
 {
-    const ViewRange range = m_state->shown;
+    const ViewRange range = m_ranges.shown;
     const QPointF centre((range.xMin + range.xMax) * 0.5, (range.yMin + range.yMax) * 0.5);
     if (event->matches(QKeySequence::Copy)) {
         copySlot();
@@ -184,10 +177,10 @@ void GraphicsBase::keyPressEvent(QKeyEvent *event)
 void GraphicsBase::updatePathSelection(int pathId)
 {
     const PathInfo *before = selectedPath();
-    for (PathInfo *path : qAsConst(m_state->paths))
+    for (PathInfo *path : paths())
         path->setSelected(path->pathId() == pathId);
     const PathInfo *now = selectedPath();
-    if (m_state->tableProxy->getParaTableDataStatus()) {
+    if (m_tableProxy->getParaTableDataStatus()) {
         if (now && !now->isHidden())
             emit updateParaInfoToTable(patternParameters(pathId));
         else
@@ -200,7 +193,7 @@ void GraphicsBase::updatePathSelection(int pathId)
 
 void GraphicsBase::deselect()
 {
-    m_state->marks.select(nullptr);
+    m_curves->marks().select(nullptr);
     PathInfo *path = selectedPath();
     if (!path)
         return;
@@ -216,16 +209,15 @@ void GraphicsBase::clearSelectionSlot()
 
 MyMarkItem *GraphicsBase::addMark(const QPointF &position, const QColor &color)
 {
-    return m_state->marks.add(position, color);
+    return m_curves->marks().add(position, color);
 }
 
 void GraphicsBase::addMarkSlot()
 {
-    ChartViewState &state = *m_state;
-    if (!chart() || state.paths.isEmpty())
+    if (!chart() || paths().isEmpty())
         return;
-    const double x = toValue(state.menuPosition).x();
-    const ViewRange axes = state.stage.axisRange();
+    const double x = toValue(m_menuPosition).x();
+    const ViewRange axes = m_stage->axisRange();
     if (x < axes.xMin || x > axes.xMax)
         return;
     PathInfo *path = selectedPath();
@@ -239,8 +231,7 @@ void GraphicsBase::addMarkSlot()
     MyMarkItem *mark = addMark(toScene({x, *y}), path->color());
     mark->setValuePoint({x, *y});
     path->addMarkId(mark->markId());
-    path->updateMarkInfo(state.marks.all());
-    path->placeMarkTable();
+    m_curves->updateMarkTable(*path);
 }
 
 void GraphicsBase::deleteMarkSlot()
@@ -250,34 +241,31 @@ void GraphicsBase::deleteMarkSlot()
         return;
     const int number = mark->markId();
     qDebug().noquote() << QStringLiteral("Delete M%1").arg(number);
-    m_state->marks.remove(number);
-    for (PathInfo *path : qAsConst(m_state->paths)) {
+    m_curves->marks().remove(number);
+    for (PathInfo *path : paths()) {
         if (!path->containsMarkid(number))
             continue;
         path->delMarkId(number);
-        path->updateMarkInfo(m_state->marks.all());
-        path->placeMarkTable();
+        m_curves->updateMarkTable(*path);
     }
 }
 
 void GraphicsBase::showOrHideMarkTableSlot()
 {
-    m_state->markTablesShown = !m_state->markTablesShown;
-    for (PathInfo *path : qAsConst(m_state->paths))
-        path->setMarkTableShown(m_state->markTablesShown);
+    m_curves->setMarkTablesShown(!m_curves->markTablesShown());
 }
 
 void GraphicsBase::showOrHideParameterTableSlot()
 {
-    if (m_state->tableProxy->getParaTableDataStatus()) {
+    if (m_tableProxy->getParaTableDataStatus()) {
         emit clearParaInfoToTable();
         return;
     }
     const PathInfo *path = selectedPath();
     if (!path)
         return;
-    m_state->tableProxy->setPos(m_state->stage.plotArea().topRight() -
-                                QPointF(m_state->tableProxy->size().width() + 8.0, -8.0));
+    m_tableProxy->setPos(m_stage->plotArea().topRight() -
+                         QPointF(m_tableProxy->size().width() + 8.0, -8.0));
     emit updateParaInfoToTable(patternParameters(path->pathId()));
 }
 
@@ -285,9 +273,9 @@ ChartSituation GraphicsBase::situation() const
 {
     ChartSituation now;
     now.curveSelected = selectedPath() != nullptr;
-    now.updateFinished = m_state->updateFinished;
-    now.markTablesShown = m_state->markTablesShown;
-    now.parameterTableShown = m_state->tableProxy->getParaTableDataStatus();
+    now.updateFinished = m_curves->areComplete();
+    now.markTablesShown = m_curves->markTablesShown();
+    now.parameterTableShown = m_tableProxy->getParaTableDataStatus();
     now.markCount = marks().size();
     now.clipboardText = QApplication::clipboard()->text();
     return now;
@@ -296,10 +284,9 @@ ChartSituation GraphicsBase::situation() const
 void GraphicsBase::showMenu(const QPoint &position)
 {
     viewport()->setCursor(Qt::ArrowCursor);
-    m_state->zoomMode = false;
-    m_state->panMode = false;
-    m_state->symmetryApplied = false;
-    m_state->menuPosition = mapToScene(position);
+    m_zoomMode = false;
+    m_panMode = false;
+    m_menuPosition = mapToScene(position);
 
     using Entry = ChartMenu::Entry;
     using Slot = void (GraphicsBase::*)();
@@ -329,34 +316,34 @@ void GraphicsBase::showMenu(const QPoint &position)
 
 void GraphicsBase::copySlot()
 {
-    CurveExchange(*this).copy();
+    m_exchange.copy();
 }
 
 void GraphicsBase::pasteSlot()
 {
-    CurveExchange(*this).paste();
+    m_exchange.paste();
 }
 
 void GraphicsBase::importGraphicsDataSlot()
 {
-    CurveExchange(*this).importData();
+    m_exchange.importData();
 }
 
 void GraphicsBase::exportGraphicsDataSlot()
 {
-    CurveExchange(*this).exportData();
+    m_exchange.exportData();
 }
 
 void GraphicsBase::exportGraphicsImageSlot()
 {
-    CurveExchange(*this).exportImage();
+    m_exchange.exportImage();
 }
 
 void GraphicsBase::managerGraphicsSlot()
 {
     ManagerGraph manager(window()); // the view's own style sheet would reach a dialog below it
     connect(&manager, &ManagerGraph::updataResize, this, &GraphicsBase::updataResize);
-    manager.updatePathInfo(m_state->paths);
+    manager.updatePathInfo(paths());
     manager.exec();
 }
 
@@ -379,7 +366,7 @@ void GraphicsBase::dragMoveEvent(QDragMoveEvent *event)
 
 void GraphicsBase::dropEvent(QDropEvent *event)
 {
-    CurveExchange(*this).drop(event->mimeData()->text());
+    m_exchange.drop(event->mimeData()->text());
     reconnectLegendMarkers();
     event->acceptProposedAction();
 }

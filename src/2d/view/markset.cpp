@@ -1,8 +1,7 @@
 #include "2d/view/markset.h"
 
 #include "2d/data/curvemaths.h"
-#include "2d/view/chartstage.h"
-#include "2d/view/idallocation.h"
+#include "2d/scene/chartstage.h"
 #include "2d/view/pathinfo.h"
 
 #include <QDebug>
@@ -84,6 +83,16 @@ void MarkSet::placeGuides()
         m_guides.show(mark->valuePoint(), mark->color(), m_stage, m_shown());
     else
         m_guides.hide();
+}
+
+void MarkSet::recolor(const PathInfo &path)
+{
+    const QList<int> numbers = path.markIds();
+    for (const int number : numbers) {
+        if (MyMarkItem *mark = m_marks.value(number))
+            mark->setColor(path.color());
+    }
+    reposition();
 }
 
 void MarkSet::snap(const PathInfo &path)

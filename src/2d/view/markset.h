@@ -1,7 +1,7 @@
 #pragma once
 
+#include "2d/scene/guidelines.h"
 #include "2d/scene/mymarkitem.h"
-#include "2d/view/guidelines.h"
 
 #include <QMap>
 
@@ -14,6 +14,17 @@ struct ViewRange;
 QT_BEGIN_NAMESPACE
 class QGraphicsScene;
 QT_END_NAMESPACE
+
+/// The smallest positive number that is not yet a key of \a taken: a number given back is used
+/// again.
+template<typename Value>
+int smallestFreeId(const QMap<int, Value> &taken)
+{
+    int id = 1;
+    while (taken.contains(id))
+        ++id;
+    return id;
+}
 
 /// The markers of a chart view, by their numbers. A marker belongs to the curve that knows its
 /// number.
@@ -40,6 +51,8 @@ public:
 
     /// Puts every marker where its value is now; those out of view or of hidden curves are hidden.
     void reposition();
+    /// Gives the markers of \a path its colour, and shows them while it is shown.
+    void recolor(const PathInfo &path);
     /// Puts the markers of \a path onto its curve, each at its own x.
     void snap(const PathInfo &path);
 

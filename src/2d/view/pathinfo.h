@@ -2,14 +2,15 @@
 
 #include "2d/data/chartmapping.h"
 #include "2d/data/parainfo.h"
+#include "2d/scene/curveseries.h"
 #include "2d/scene/patternlines.h"
 #include "2d/view/curvelook.h"
+#include "2d/view/curvepanels.h"
 
 #include <QColor>
 #include <QList>
 #include <QMap>
 #include <QObject>
-#include <QRectF>
 #include <QSizeF>
 #include <QVector>
 
@@ -25,7 +26,6 @@ struct PatternAnalysis;
 
 QT_BEGIN_NAMESPACE
 class QGraphicsItem;
-class QGraphicsProxyWidget;
 namespace QtCharts {
 class QLineSeries;
 }
@@ -33,7 +33,7 @@ QT_END_NAMESPACE
 
 /// One curve of a chart view: its series, its outline and the other items that belong to it.
 ///
-/// It deletes all of them. Whoever deletes a curve first takes its series off the chart.
+/// It deletes all of them. Whoever deletes a curve first takes its series off the stage.
 class PathInfo : public QObject
 {
     Q_OBJECT
@@ -58,22 +58,21 @@ public:
     void setSelected(bool selected);
     QList<int> markIds() const { return m_markIds; }
 
-    /// The curve's data. The chart draws nothing of it: the line is MyPathItem's.
-    QtCharts::QLineSeries *series() const { return m_series; }
+    QtCharts::QLineSeries *series() const { return m_curve.line(); }
+    CurveSeries &curve() { return m_curve; }
+    const CurveSeries &curve() const { return m_curve; }
     MyPathItem *pathItem() const { return m_pathItem; }
     /// The name that a selected curve carries on the chart.
     Callout *displayItem() const { return m_displayItem; }
-    MarkTablePanel *markTablePanel() const { return m_markPanel; }
-    MyCustomProxy *paraTablePanel() const { return m_paraPanel; }
+    MarkTablePanel *markTablePanel() const { return m_panels.marks(); }
+    MyCustomProxy *paraTablePanel() const { return m_panels.parameters(); }
     /// The pattern's six marker lines and the two panels.
     QList<QGraphicsItem *> furtherItems() const;
 
-    /// The series' points, shared with it.
-    QVector<QPointF> points() const;
-    /// Replaces the series' points; those that are not finite are left out.
-    void setPoints(const QVector<QPointF> &points);
-    void appendPoint(const QPointF &point);
-    void removeFirstPoint();
+    /// The points in chart values, shared with the series.
+    QVector<QPointF> points() const { return m_curve.points(); }
+    /// Replaces the points; those that are not finite are left out.
+    void setPoints(const QVector<QPointF> &points) { m_curve.setPoints(points); }
 
     /// Draws the curve anew from its series. Nothing is computed while neither data, plot area nor
     /// ranges have changed since. Without points the former outline stays, unseen.
@@ -91,13 +90,9 @@ public:
     void updateLines(const ChartStage &stage, bool shown);
 
     void setMarkTableShown(bool shown);
-    /// Puts the marker table to its place at the left of the plot area, or where the operator left
-    /// it.
+    /// Put the tables to their places, as CurvePanels says.
     void placeMarkTable();
-    /// The same for the parameter table at the right edge, 50 pixels below that of the curve
-    /// before.
     void placeParaTable();
-    /// Puts the parameter table to its place also when the operator has moved it.
     void stackParaTable(const QRectF &sceneRect);
 
 signals:
@@ -120,17 +115,9 @@ public slots:
     void updataSize(QSizeF size);
 
 private:
-    friend class SeriesLayoutGuard;
-
-    QVector<QPointF> takePointsForLayout();
-    void putPointsBack(const QVector<QPointF> &points);
-
-    void connectSeries();
-    void replaceQuietly(const QVector<QPointF> &points);
     void drawValues(const QVector<QPointF> &values, const ChartStage &stage);
     void placeDisplayItem();
     void applyVisibility();
-    void placePanel(QGraphicsProxyWidget &panel, QPointF &lastSpot, const QPointF &spot);
 
     int m_pathId;
     QColor m_color;
@@ -138,14 +125,12 @@ private:
     int m_lineWidth = 2;
     bool m_hidden = false;
     bool m_linesVisible = true;
-    bool m_markTableShown = true;
     QList<int> m_markIds;
 
-    QtCharts::QLineSeries *m_series;
+    CurveSeries m_curve;
     MyPathItem *m_pathItem;
     Callout *m_displayItem;
-    MarkTablePanel *m_markPanel;
-    MyCustomProxy *m_paraPanel;
+    CurvePanels m_panels;
     PatternLines m_lines;
 
     QVector<QPointF> m_mirrored;    ///< the images drawn instead of the points, if any
@@ -153,8 +138,4 @@ private:
     ChartMapping m_drawnMapping;    ///< and how it was mapped
     QVector<QPointF> m_analysedValues;
     std::unique_ptr<PatternAnalysis> m_analysis;
-    QSizeF m_viewSize;
-    QPointF m_markSpot;
-    QPointF m_paraSpot;
-    bool m_chartHoldsPoints = false; ///< the chart's own line item knows points of the series
 };

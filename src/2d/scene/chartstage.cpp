@@ -1,11 +1,13 @@
-#include "2d/view/chartstage.h"
+#include "2d/scene/chartstage.h"
 
-#include "2d/view/pathinfo.h"
+#include "2d/scene/curveseries.h"
 
 #include <QChart>
 #include <QGraphicsLayout>
 #include <QGraphicsScene>
 #include <QLegend>
+#include <QLegendMarker>
+#include <QLineSeries>
 #include <QPolarChart>
 #include <QValueAxis>
 
@@ -51,6 +53,24 @@ QValueAxis *polarAxis(const QString &title)
     axis->setLabelsFont(labelFont);
     axis->setRange(-180.0, 180.0);
     return axis;
+}
+
+void setAxisRange(QValueAxis &axis, double min, double max)
+{
+    if (min <= max) {
+        axis.setRange(min, max);
+        return;
+    }
+    // An axis cannot hold a range that is upside down; what it makes of it depends on this order.
+    axis.setMin(min);
+    axis.setMax(max);
+}
+
+/// By way of the empty title, which makes the chart lay itself out again.
+void setAxisTitle(QValueAxis &axis, const QString &title)
+{
+    axis.setTitleText(QString());
+    axis.setTitleText(title);
 }
 
 void styleChart(QChart &chart)
@@ -106,6 +126,145 @@ bool ChartStage::isPolar() const
     return m_kind == polarKind;
 }
 
+void ChartStage::add(CurveSeries &series)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_chart->addSeries(series.line());
+    series.line()->attachAxis(m_xAxis);
+    series.line()->attachAxis(m_yAxis);
+    series.takeOut();
+    m_series.append(&series);
+}
+
+void ChartStage::remove(CurveSeries &series)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    series.putBack();
+    m_series.removeOne(&series);
+    m_chart->removeSeries(series.line());
+}
+
+void ChartStage::setTitle(const QString &title)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_chart->setTitle(title);
+}
+
+void ChartStage::setTitle(const QString &title, const QFont &font)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_chart->setTitleFont(font);
+    m_chart->setTitle(title);
+}
+
+void ChartStage::setXTitle(const QString &title)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    setAxisTitle(*m_xAxis, title);
+}
+
+void ChartStage::setYTitle(const QString &title)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    setAxisTitle(*m_yAxis, title);
+}
+
+void ChartStage::setXDivisions(int divisions)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_xAxis->setTickCount(divisions + 1);
+}
+
+void ChartStage::setYDivisions(int divisions)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_yAxis->setTickCount(divisions + 1);
+}
+
+void ChartStage::setLabelFormat(const QString &format)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_xAxis->setLabelFormat(format);
+    m_yAxis->setLabelFormat(format);
+}
+
+void ChartStage::setXRange(double min, double max)
+{
+    if (!hasXRange())
+        return;
+    const LayoutGuard guard(*this);
+    setAxisRange(*m_xAxis, min, max);
+}
+
+void ChartStage::setYRange(double min, double max)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    setAxisRange(*m_yAxis, min, max);
+}
+
+void ChartStage::resize(const QSizeF &size)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_chart->resize(size);
+}
+
+void ChartStage::showLegend(Qt::Alignment side, const QFont &font)
+{
+    if (!m_chart)
+        return;
+    const LayoutGuard guard(*this);
+    m_chart->legend()->setAlignment(side);
+    m_chart->legend()->setFont(font);
+    m_chart->legend()->show();
+}
+
+void ChartStage::setLegendEntry(const CurveSeries &series, const QColor &color, bool greyed)
+{
+    if (!m_chart)
+        return;
+    constexpr double dimmed = 0.3;
+    QColor shade = color;
+    shade.setAlphaF(greyed ? dimmed : 1.0);
+    const LayoutGuard guard(*this);
+    const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
+    for (QLegendMarker *entry : entries) {
+        entry->setVisible(true);
+        entry->setBrush(shade);
+        entry->setPen(QPen(shade));
+        entry->setLabelBrush(greyed ? QColor(Qt::gray) : QColor(Qt::black));
+    }
+}
+
+QString ChartStage::legendText(const CurveSeries &series) const
+{
+    if (!m_chart)
+        return {};
+    const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
+    return entries.isEmpty() ? QString() : entries.first()->label();
+}
+
 ViewRange ChartStage::axisRange() const
 {
     if (!m_chart)
@@ -155,37 +314,23 @@ QPointF ChartStage::toValue(const QPointF &position) const
     return m_chart ? m_chart->mapToValue(position) : QPointF();
 }
 
-void setAxisRange(QValueAxis &axis, double min, double max)
-{
-    if (min <= max) {
-        axis.setRange(min, max);
-        return;
-    }
-    // An axis cannot hold a range that is upside down; what it makes of it depends on this order.
-    axis.setMin(min);
-    axis.setMax(max);
-}
-
-void setAxisTitle(QValueAxis &axis, const QString &title)
-{
-    axis.setTitleText(QString());
-    axis.setTitleText(title);
-}
-
-SeriesLayoutGuard::SeriesLayoutGuard(const ChartStage &stage, const QMap<int, PathInfo *> &paths)
+ChartStage::LayoutGuard::LayoutGuard(ChartStage &stage)
     : m_stage(stage)
 {
-    m_held.reserve(paths.size());
-    for (PathInfo *path : paths)
-        m_held.append({path, path->takePointsForLayout()});
+    if (m_stage.m_guards++ > 0)
+        return;
+    for (CurveSeries *series : qAsConst(m_stage.m_series))
+        series->takeOut();
 }
 
-SeriesLayoutGuard::~SeriesLayoutGuard()
+ChartStage::LayoutGuard::~LayoutGuard()
 {
+    if (--m_stage.m_guards > 0)
+        return;
     // The layout that a change asks for would otherwise come with the next event, past this guard.
-    QChart *chart = m_stage.chart();
+    QChart *chart = m_stage.m_chart;
     if (chart && !chart->size().isEmpty())
         chart->layout()->activate();
-    for (const Held &held : m_held)
-        held.path->putPointsBack(held.points);
+    for (CurveSeries *series : qAsConst(m_stage.m_series))
+        series->putBack();
 }

@@ -1,7 +1,7 @@
-#include "2d/view/guidelines.h"
+#include "2d/scene/guidelines.h"
 
 #include "2d/data/viewrange.h"
-#include "2d/view/chartstage.h"
+#include "2d/scene/chartstage.h"
 
 #include <QGraphicsScene>
 #include <QPen>

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "2d/data/chartmapping.h"
+
+#include <QMap>
+#include <QPointF>
+#include <QVector>
+
+class CurveSeries;
+
+QT_BEGIN_NAMESPACE
+class QColor;
+class QFont;
+class QGraphicsScene;
+namespace QtCharts {
+class QChart;
+
+class QValueAxis;
+} // namespace QtCharts
+QT_END_NAMESPACE
+
+/// The chart of a view with its two axes: how it is built and changed, and the way from values to
+/// positions.
+///
+/// Every change that makes the chart lay itself out is made here, under a LayoutGuard. Whoever
+/// makes several in a row holds one himself: then the chart lays itself out once.
+class ChartStage
+{
+public:
+    /// While one lives, the series on the stage are empty; its end lets the chart lay itself out
+    /// and fills them again. Of guards within each other the outermost alone has an effect.
+    class LayoutGuard
+    {
+    public:
+        explicit LayoutGuard(ChartStage &stage);
+        ~LayoutGuard();
+        LayoutGuard(const LayoutGuard &) = delete;
+        LayoutGuard &operator=(const LayoutGuard &) = delete;
+
+    private:
+        ChartStage &m_stage;
+    };
+
+    /// Builds the chart of \a kind (0 cartesian, 1 polar, else none) and adds it to \a scene.
+    ChartStage(int kind, QGraphicsScene &scene);
+
+    int kind() const { return m_kind; }
+    bool isPolar() const;
+    /// Whether an operation can act on the X range: an angular axis keeps its range.
+    bool hasXRange() const { return m_chart && !isPolar(); }
+    /// Null for an unknown kind.
+    QtCharts::QChart *chart() const { return m_chart; }
+
+    /// Binds the series to the axes. It must be taken off again before it or the stage goes.
+    void add(CurveSeries &series);
+    void remove(CurveSeries &series);
+
+    void setTitle(const QString &title);
+    void setTitle(const QString &title, const QFont &font);
+    /// The titles of the axis along the bottom or round the circle, and of the other one.
+    void setXTitle(const QString &title);
+    void setYTitle(const QString &title);
+    /// One more than the number of ticks.
+    void setXDivisions(int divisions);
+    void setYDivisions(int divisions);
+    /// A printf format of a double for the numbers along both axes.
+    void setLabelFormat(const QString &format);
+    /// Limits in the order given; a polar chart keeps its X range.
+    void setXRange(double min, double max);
+    void setYRange(double min, double max);
+    void resize(const QSizeF &size);
+    void showLegend(Qt::Alignment side, const QFont &font);
+    /// Shows the entry of \a series in \a color, or greyed.
+    void setLegendEntry(const CurveSeries &series, const QColor &color, bool greyed);
+    /// The entry's text, empty without an entry.
+    QString legendText(const CurveSeries &series) const;
+
+    /// The ranges that the axes have now.
+    ViewRange axisRange() const;
+    QRectF plotArea() const;
+
+    ChartMapping mapping() const;
+    QPointF toScene(const QPointF &value) const;
+    QVector<QPointF> toScene(const QVector<QPointF> &values,
+                             QVector<QPointF> recycled = QVector<QPointF>()) const;
+    QPointF toValue(const QPointF &position) const;
+
+private:
+    int m_kind;
+    QtCharts::QChart *m_chart = nullptr;
+    QtCharts::QValueAxis *m_xAxis = nullptr; ///< along the bottom, or the angular one
+    QtCharts::QValueAxis *m_yAxis = nullptr; ///< on the left, or the radial one
+    QVector<CurveSeries *> m_series;
+    int m_guards = 0;
+};

@@ -1,0 +1,168 @@
+#include "2d/view/curvelist.h"
+
+#include "2d/data/patternanalysis.h"
+#include "2d/scene/callout.h"
+#include "2d/scene/chartstage.h"
+#include "2d/scene/generatecolors.h"
+#include "2d/scene/mypathitem.h"
+#include "2d/view/axisranges.h"
+#include "2d/view/pathinfo.h"
+
+#include <QGraphicsScene>
+#include <QTimer>
+
+#include <algorithm>
+
+CurveList::CurveList(ChartStage &stage, QGraphicsScene &scene, const AxisRanges &ranges)
+    : m_stage(stage)
+    , m_scene(scene)
+    , m_ranges(ranges)
+    , m_marks(stage, scene, m_paths, [this] { return m_ranges.inView(m_stage); })
+{}
+
+CurveList::~CurveList()
+{
+    clear();
+}
+
+PathInfo *CurveList::selected() const
+{
+    const auto found = std::find_if(m_paths.cbegin(), m_paths.cend(),
+                                    [](const PathInfo *path) { return path->isSelected(); });
+    return found == m_paths.cend() ? nullptr : *found;
+}
+
+bool CurveList::hasName(const QString &name) const
+{
+    return std::any_of(m_paths.cbegin(), m_paths.cend(),
+                       [&name](const PathInfo *path) { return path->name() == name; });
+}
+
+PathInfo *CurveList::add(const QString &name)
+{
+    const int id = smallestFreeId(m_paths);
+    auto *path = new PathInfo(id);
+    path->setLineWidth(2);
+    connect(path, &PathInfo::selectPathId, this, &CurveList::selectionAsked);
+    connect(path, &PathInfo::setAcceptDropsStatus, this, &CurveList::acceptDropsAsked);
+    path->setColor(curveColor(id));
+    {
+        const ChartStage::LayoutGuard guard(m_stage); // one layout for the entry and its text
+        m_stage.add(path->curve());
+        path->pathItem()->adoptView(m_stage.kind(), m_ranges.inView(m_stage));
+        path->setName(name);
+    }
+    m_scene.addItem(path->displayItem());
+    m_scene.addItem(path->pathItem());
+    const QList<QGraphicsItem *> items = path->furtherItems();
+    for (QGraphicsItem *item : items)
+        m_scene.addItem(item);
+    path->setMarkTableShown(m_markTablesShown);
+    if (m_size.isValid())
+        path->updataSize(m_size);
+    m_paths.insert(id, path);
+    connect(path, &PathInfo::lookChanged, this, [this, path] { followLook(*path); });
+    return path;
+}
+
+void CurveList::remove(int pathId)
+{
+    PathInfo *path = m_paths.take(pathId);
+    if (!path)
+        return;
+    const QList<int> numbers = path->markIds();
+    for (const int number : numbers)
+        m_marks.remove(number);
+    m_stage.remove(path->curve());
+    delete path;
+}
+
+void CurveList::clear()
+{
+    m_marks.clear();
+    const QList<int> ids = m_paths.keys();
+    for (const int id : ids)
+        remove(id);
+}
+
+void CurveList::followLook(PathInfo &path)
+{
+    if (path.isHidden() && path.isSelected())
+        emit selectionAsked(0);
+    // Hidden curves stay in the legend, so that a click can bring them back.
+    m_stage.setLegendEntry(path.curve(), path.color(), path.isHidden());
+    m_marks.recolor(path);
+    if (m_parameterLinesVisible)
+        recompute(path);
+    emit lookChanged();
+}
+
+void CurveList::refresh(Panels panels)
+{
+    m_marks.reposition();
+    for (PathInfo *path : qAsConst(m_paths)) {
+        path->rebuild(m_stage);
+        if (m_complete)
+            recompute(*path);
+        path->placeMarkTable();
+        if (panels == Panels::AllTables)
+            path->placeParaTable();
+    }
+}
+
+ParaInfo CurveList::recompute(PathInfo &path)
+{
+    path.updateLines(m_stage, m_parameterLinesVisible);
+    const PatternAnalysis *analysis = path.analysis();
+    if (!analysis || path.isHidden() || m_stage.legendText(path.curve()) != path.name())
+        return {};
+    if (path.getParaTableDataStatus())
+        path.updateParaInfo(analysis->figures);
+    return analysis->figures;
+}
+
+void CurveList::catchUpLater()
+{
+    if (m_catchUpPending)
+        return;
+    m_catchUpPending = true;
+    QTimer::singleShot(0, this, [this] { catchUp(); });
+}
+
+void CurveList::catchUp()
+{
+    m_catchUpPending = false;
+    m_marks.reposition();
+    for (PathInfo *path : qAsConst(m_paths)) {
+        path->catchUp(m_stage);
+        if (m_complete)
+            recompute(*path);
+    }
+}
+
+void CurveList::setParameterLinesVisible(bool visible)
+{
+    m_parameterLinesVisible = visible;
+    for (PathInfo *path : qAsConst(m_paths))
+        recompute(*path);
+}
+
+void CurveList::setMarkTablesShown(bool shown)
+{
+    m_markTablesShown = shown;
+    for (PathInfo *path : qAsConst(m_paths))
+        path->setMarkTableShown(shown);
+}
+
+void CurveList::updateMarkTable(PathInfo &path)
+{
+    path.updateMarkInfo(m_marks.all());
+    path.placeMarkTable();
+}
+
+void CurveList::updataSize(QSizeF size)
+{
+    m_size = size;
+    for (PathInfo *path : qAsConst(m_paths))
+        path->updataSize(size);
+}
