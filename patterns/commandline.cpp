@@ -1,8 +1,110 @@
 #include "patterns/commandline.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 // The texts stay English: the command line is read before there is a language to show them in.
+
+namespace {
+
+using Kind = BatchTask::Kind;
+
+/// The options of the work without a window.
+struct BatchOptions
+{
+    QCommandLineOption figures{
+        QStringLiteral("figures"),
+        QStringLiteral("Print the figures of all curves as CSV, without a window.")};
+    QCommandLineOption exportCurves{
+        QStringLiteral("export"),
+        QStringLiteral("Write every curve as a curve file into FOLDER, without a window."),
+        QStringLiteral("FOLDER")};
+    QCommandLineOption exportMsi{
+        QStringLiteral("export-msi"),
+        QStringLiteral("Write two curves as the MSI file OUT.msi, without a window."),
+        QStringLiteral("OUT.msi")};
+    QCommandLineOption horizontal{QStringLiteral("horizontal"),
+                                  QStringLiteral("The horizontal curve for --export-msi."),
+                                  QStringLiteral("CURVE")};
+    QCommandLineOption vertical{QStringLiteral("vertical"),
+                                QStringLiteral("The vertical curve for --export-msi."),
+                                QStringLiteral("CURVE")};
+    QCommandLineOption report{
+        QStringLiteral("report"),
+        QStringLiteral("Write the report of all curves (.html or .pdf), without a window."),
+        QStringLiteral("OUT")};
+
+    QList<QCommandLineOption> all() const
+    {
+        return {figures, exportCurves, exportMsi, horizontal, vertical, report};
+    }
+};
+
+BatchTask taskOf(const QCommandLineParser &parser, const BatchOptions &options)
+{
+    BatchTask task;
+    if (parser.isSet(options.report)) {
+        task.kind = Kind::Report;
+        task.output = parser.value(options.report);
+    } else if (parser.isSet(options.exportMsi)) {
+        task.kind = Kind::ExportMsi;
+        task.output = parser.value(options.exportMsi);
+    } else if (parser.isSet(options.exportCurves)) {
+        task.kind = Kind::Export;
+        task.output = parser.value(options.exportCurves);
+    } else if (parser.isSet(options.figures)) {
+        task.kind = Kind::Figures;
+    }
+    task.horizontal = parser.value(options.horizontal);
+    task.vertical = parser.value(options.vertical);
+    return task;
+}
+
+/// What is wrong with the work that is asked for; empty: nothing.
+QString complaint(const QCommandLineParser &parser, const BatchOptions &options,
+                  const CommandLine &line)
+{
+    int kinds = 0;
+    for (const QCommandLineOption &option :
+         {options.figures, options.exportCurves, options.exportMsi, options.report})
+        kinds += parser.isSet(option) ? 1 : 0;
+    if (kinds > 1)
+        return QStringLiteral("Only one of --figures, --export, --export-msi and --report can be "
+                              "asked for.");
+    const bool namesCuts = parser.isSet(options.horizontal) || parser.isSet(options.vertical);
+    if (line.task.kind == Kind::ExportMsi) {
+        if (line.task.horizontal.isEmpty() || line.task.vertical.isEmpty())
+            return QStringLiteral("--export-msi needs --horizontal and --vertical.");
+    } else if (namesCuts) {
+        return QStringLiteral("--horizontal and --vertical belong to --export-msi.");
+    }
+    if (kinds == 0)
+        return {};
+    if (line.task.kind != Kind::Figures && line.task.output.isEmpty())
+        return QStringLiteral("There is no name to write to.");
+    const QString suffix = QFileInfo(line.task.output).suffix().toLower();
+    if (line.task.kind == Kind::Report && suffix != QStringLiteral("html") &&
+        suffix != QStringLiteral("pdf"))
+        return QStringLiteral("A report is an .html or a .pdf file.");
+    return line.files.isEmpty() ? QStringLiteral("There are no files to read.") : QString();
+}
+
+/// Whether \a arguments ask for work without a window, in however wrong a way.
+bool asksForWork(const QStringList &arguments, const BatchOptions &options)
+{
+    for (const QString &argument : arguments) {
+        if (argument == QStringLiteral("--"))
+            return false;
+        const QString name = argument.section(QLatin1Char('='), 0, 0);
+        for (const QCommandLineOption &option : options.all()) {
+            if (name == QStringLiteral("--") + option.names().constFirst())
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 CommandLine readCommandLine(const QStringList &arguments)
 {
@@ -14,13 +116,19 @@ CommandLine readCommandLine(const QStringList &arguments)
                                       QStringLiteral("Language of the program: en or cn."),
                                       QStringLiteral("en|cn"));
     parser.addOption(language);
-    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Curve files to open."),
+    const BatchOptions options;
+    parser.addOptions(options.all());
+    parser.addPositionalArgument(QStringLiteral("files"),
+                                 QStringLiteral("Curve files and pattern files (MSI, NSMA, NEC2)."),
                                  QStringLiteral("[files...]"));
 
     CommandLine line;
     const bool understood = parser.parse(arguments);
     line.language = parser.value(language);
     line.files = parser.positionalArguments();
+    line.task = taskOf(parser, options);
+    line.isBatch = asksForWork(arguments.mid(1), options);
+    line.wish = line.isBatch ? CommandLine::Wish::Batch : CommandLine::Wish::Run;
     if (!understood) {
         line.wish = CommandLine::Wish::Refuse;
         line.text = parser.errorText();
@@ -35,6 +143,10 @@ CommandLine readCommandLine(const QStringList &arguments)
         line.wish = CommandLine::Wish::Refuse;
         line.text =
             QStringLiteral("Unknown language \"%1\": en and cn are known.").arg(line.language);
+    } else if (line.isBatch) {
+        line.text = complaint(parser, options, line);
+        if (!line.text.isEmpty())
+            line.wish = CommandLine::Wish::Refuse;
     }
     return line;
 }

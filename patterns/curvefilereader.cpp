@@ -1,6 +1,7 @@
 #include "patterns/curvefilereader.h"
 
 #include "2d/data/curvetext.h"
+#include "patterns/formats/patternfile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,6 +13,16 @@ constexpr qint64 chunk = 1 << 20;
 constexpr double readingShare = 0.5;
 
 } // namespace
+
+CutChoice principalCuts(const PatternFormats::PatternFile &file)
+{
+    CutChoice choice;
+    for (int i = 0; i < file.cuts.size(); ++i) {
+        if (file.cuts.at(i).principal)
+            choice.cuts.append(i);
+    }
+    return choice;
+}
 
 bool CurveFileReader::read(const QStringList &files, const Progress &progress)
 {
@@ -33,7 +44,7 @@ bool CurveFileReader::read(const QStringList &files, const Progress &progress)
 CurveFileReader::Step CurveFileReader::readOne(const QString &file,
                                                const std::function<bool(double)> &progress)
 {
-    const QString shown = QFileInfo(file).fileName();
+    const QString shown = m_naming == Naming::AsGiven ? file : QFileInfo(file).fileName();
     QByteArray bytes;
     QString problem;
     if (!readBytes(file, progress, bytes, problem)) {
@@ -50,13 +61,16 @@ CurveFileReader::Step CurveFileReader::readOne(const QString &file,
     if (curve.status == CurveText::Status::Cancelled)
         return Step::GiveUp;
     if (curve.status != CurveText::Status::Complete) {
-        const QString reason = bytes.isEmpty() ? tr("The file is empty.")
-                                               : tr("The third line is not \"Angle,Power\".");
-        m_failures.append(tr("%1: Incorrect file format. %2").arg(shown, reason));
+        readPattern(file, shown, bytes);
         return Step::Go;
     }
-    m_curves.append(
-        {QFileInfo(file).absoluteFilePath(), curve.title.trimmed(), curve.name, curve.points});
+    m_curves.append({QFileInfo(file).absoluteFilePath(),
+                     file,
+                     curve.title.trimmed(),
+                     curve.name,
+                     curve.points,
+                     {},
+                     {}});
     remark(shown, checkCurveRows(bytes), curve.points.isEmpty());
     return Step::Go;
 }
@@ -89,6 +103,40 @@ bool CurveFileReader::readBytes(const QString &path, const std::function<bool(do
         return false;
     }
     return true;
+}
+
+void CurveFileReader::readPattern(const QString &file, const QString &shown,
+                                  const QByteArray &bytes)
+{
+    const PatternFormats::PatternFile pattern =
+        PatternFormats::read(bytes, QFileInfo(file).completeBaseName());
+    if (pattern.format == PatternFormats::Format::None) {
+        const QString reason = bytes.isEmpty()
+                                   ? tr("The file is empty.")
+                                   : tr("The third line is not \"Angle,Power\", and it is no "
+                                        "pattern file of MSI, NSMA or NEC2.");
+        m_failures.append(tr("%1: Incorrect file format. %2").arg(shown, reason));
+        return;
+    }
+    if (pattern.problem) {
+        m_failures.append(QStringLiteral("%1: %2").arg(shown, pattern.problem->sentence()));
+        return;
+    }
+    std::optional<CutChoice> choice = principalCuts(pattern);
+    if (m_chooser && pattern.offersChoice())
+        choice = m_chooser(file, pattern);
+    if (!choice)
+        return;
+    for (const int i : qAsConst(choice->cuts)) {
+        const PatternFormats::Cut &cut = pattern.cuts.at(i);
+        const QVector<QPointF> &points = cut.of(choice->component);
+        if (!points.isEmpty())
+            m_curves.append({QFileInfo(file).absoluteFilePath(), file, cut.title,
+                             cut.name + PatternFormats::suffixOf(choice->component), points,
+                             cut.frequency, cut.details});
+    }
+    for (const QString &remark : pattern.remarks)
+        m_remarks.append(QStringLiteral("%1: %2").arg(shown, remark));
 }
 
 void CurveFileReader::remark(const QString &file, const CurveRowCheck &check, bool empty)

@@ -6,6 +6,18 @@
 #include <QFileInfo>
 #include <QProgressDialog>
 
+CurveRecord recordOf(const ReadCurve &curve)
+{
+    CurveRecord record;
+    record.file = curve.file;
+    record.title = curve.title;
+    record.frequency = curve.frequency;
+    const QString notes = PatternFormats::describe(curve.details);
+    if (!notes.isEmpty())
+        record.notes = notes.split(QLatin1Char('\n'));
+    return record;
+}
+
 CurveImport importCurves(ListChart &form, const QStringList &files, int patience)
 {
     CurveFileReader reader;
@@ -27,10 +39,7 @@ CurveImport importCurves(ListChart &form, const QStringList &files, int patience
     result.remarks = reader.remarks();
     const QVector<ReadCurve> &curves = reader.curves();
     for (const ReadCurve &curve : curves) {
-        CurveRecord record;
-        record.file = curve.file;
-        record.title = curve.title;
-        if (form.addCurve(curve.name, curve.points, record) != 0)
+        if (form.addCurve(curve.name, curve.points, recordOf(curve)) != 0)
             result.opened.append(curve.file);
     }
     return result;

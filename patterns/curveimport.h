@@ -1,8 +1,11 @@
 #pragma once
 
+#include "2d/form/curveset.h"
+
 #include <QStringList>
 
 class ListChart;
+struct ReadCurve;
 
 /// What became of files that were to be opened.
 struct CurveImport
@@ -12,6 +15,9 @@ struct CurveImport
     QStringList failures;   ///< one sentence a file that could not be read
     QStringList remarks;    ///< one sentence a thing in a file that may surprise its author
 };
+
+/// What is known of \a curve.
+CurveRecord recordOf(const ReadCurve &curve);
 
 /// Reads \a files and adds their curves to \a form, all of them or, when the operator cancels,
 /// none. Shows how far it is when that takes longer than \a patience in milliseconds; asks for

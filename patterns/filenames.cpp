@@ -6,7 +6,7 @@
 
 QString fileNameFrom(const QString &text, const QString &fallback)
 {
-    static const QRegularExpression forbidden(QStringLiteral("[\\x00-\\x1f\\x7f\"*/:<>?\\\\|]+"));
+    static const QRegularExpression forbidden(QStringLiteral("[\\x00-\\x1f\\x7f\"*/:<>?\\\\|]"));
     static const QRegularExpression outerDots(QStringLiteral("^[.\\s]+|[.\\s]+$"));
     // Windows drops dots at the end, and a dot in front would hide the file elsewhere.
     const QString name =

@@ -1,5 +1,8 @@
 #include "frame/appstyle.h"
 #include "frame/display.h"
+#include "frame/language.h"
+#include "patterns/batch.h"
+#include "patterns/batchreport.h"
 #include "patterns/commandline.h"
 #include "patterns/openactions.h"
 #include "patterns/patternwindow.h"
@@ -8,7 +11,9 @@
 #include "process/stopsignals.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QTextStream>
 
 #include <cstdio>
@@ -20,7 +25,25 @@ int print(const CommandLine &line)
     useParentConsole();
     const bool refused = line.wish == CommandLine::Wish::Refuse;
     QTextStream(refused ? stderr : stdout) << line.text << '\n';
-    return refused ? 1 : 0;
+    if (refused)
+        return line.isBatch ? Batch::WrongUsage : 1;
+    return 0;
+}
+
+/// Work without a window; the report alone needs a QApplication.
+int work(const CommandLine &line)
+{
+    useParentConsole();
+    Language language;
+    language.set(line.language);
+    QTextStream messages(stderr);
+    messages.setCodec("UTF-8");
+    if (line.task.kind == BatchTask::Kind::Report)
+        return Batch::writeReport(line.task.output, line.files, messages);
+    QFile results;
+    results.open(stdout, QIODevice::WriteOnly);
+    const int status = Batch::run(line.task, line.files, results, messages);
+    return results.flush() ? status : int(Batch::Failed);
 }
 
 } // namespace
@@ -35,6 +58,13 @@ int main(int argc, char **argv)
         const CommandLine early = readCommandLine(arguments);
         if (early.wish == CommandLine::Wish::Print)
             return print(early);
+        if (early.wish == CommandLine::Wish::Batch && early.task.kind != BatchTask::Kind::Report)
+            return work(early);
+        if (early.isBatch) {
+            Display::drawIntoMemory();
+            // What that cannot do is nobody's concern.
+            QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+        }
     }
 
     const bool hasDisplay = Display::prepare(arguments);
@@ -49,10 +79,12 @@ int main(int argc, char **argv)
 
     // Qt has taken its own options out of the list by now.
     const CommandLine line = readCommandLine(QApplication::arguments());
+    if (line.wish == CommandLine::Wish::Batch)
+        return work(line);
     if (line.wish != CommandLine::Wish::Run)
         return print(line);
     if (!hasDisplay)
-        return print({CommandLine::Wish::Refuse, Display::missingText(), {}, {}});
+        return print({CommandLine::Wish::Refuse, Display::missingText(), {}, {}, false, {}});
 
     // Closed, not only ended: a window stores its place when it is closed.
     onStopSignals([] {

@@ -92,6 +92,13 @@ QByteArray pdf(const ListChart &form)
     return bytes;
 }
 
+QByteArray document(const ListChart &form, const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix();
+    const bool isPdf = suffix.compare(QStringLiteral("pdf"), Qt::CaseInsensitive) == 0;
+    return isPdf ? pdf(form) : html(form);
+}
+
 void print(const ListChart &form, QPagedPaintDevice &device)
 {
     const QSizeF paper = device.pageLayout().paintRect(QPageLayout::Inch).size() * layoutDots;

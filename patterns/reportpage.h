@@ -15,6 +15,9 @@ QByteArray html(const ListChart &form);
 /// A PDF document of A4 pages.
 QByteArray pdf(const ListChart &form);
 
+/// HTML, or PDF for a \a fileName of that suffix.
+QByteArray document(const ListChart &form, const QString &fileName);
+
 /// Paints the report onto the pages of \a device, for instance a printer.
 void print(const ListChart &form, QPagedPaintDevice &device);
 

@@ -129,10 +129,7 @@ bool SaveActions::savePicture(const QString &file)
 
 bool SaveActions::saveReport(const QString &file)
 {
-    const bool isPdf =
-        QFileInfo(file).suffix().compare(QStringLiteral("pdf"), Qt::CaseInsensitive) == 0;
-    return m_desk.save(file,
-                       isPdf ? ReportPage::pdf(m_desk.form()) : ReportPage::html(m_desk.form()));
+    return m_desk.save(file, ReportPage::document(m_desk.form(), file));
 }
 
 bool SaveActions::saveAll(const QList<int> &ids)

@@ -36,6 +36,13 @@ const QVector<QPointF> &Cut::of(Component component) const
     return component == Component::Horizontal ? horizontal : points;
 }
 
+QString suffixOf(Component component)
+{
+    if (component == Component::Total)
+        return {};
+    return component == Component::Vertical ? Text::tr(", vertical") : Text::tr(", horizontal");
+}
+
 QString Problem::sentence() const
 {
     return line == 0 ? text : Text::tr("Line %1: %2").arg(line).arg(text);

@@ -24,6 +24,9 @@ constexpr int cutsWithoutAsking = 4;
 /// What of the field a level is made of. Only listings tell the parts.
 enum class Component { Total, Vertical, Horizontal };
 
+/// What the name of a curve of \a component ends with; empty for the total field.
+QString suffixOf(Component component);
+
 /// A fact about an antenna, under the key that the file gives it.
 struct Detail
 {
@@ -36,6 +39,7 @@ using Details = QVector<Detail>;
 /// file's own sense; levels are dBi.
 struct Cut
 {
+    QString title; ///< what it shares with the other cuts of its file
     QString name;
     QString frequency; ///< MHz as text; empty: unknown
     QVector<QPointF> points;

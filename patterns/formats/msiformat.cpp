@@ -262,6 +262,7 @@ void Reader::addCut(const Section &section, const QString &letter)
                                  .arg(section.key)
                                  .arg(section.negative));
     Cut cut;
+    cut.title = m_name;
     cut.name = m_name + QLatin1Char(' ') + letter;
     cut.frequency = m_frequency;
     cut.details = m_details;

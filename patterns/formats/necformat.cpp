@@ -261,6 +261,7 @@ void Reader::addCuts(const Block &block, const QString &title, bool severalFrequ
         distinct(block.rows, &Row::theta).size() >= distinct(block.rows, &Row::phi).size();
     const QString axis = overTheta ? QStringLiteral("phi") : QStringLiteral("theta");
     for (auto &[angle, cut] : overTheta ? cutsOverTheta(block) : cutsOverPhi(block)) {
+        cut.title = title;
         cut.name = QStringLiteral("%1 %2 %3°").arg(title, axis, CurveText::number(angle));
         if (severalFrequencies && !block.frequency.isEmpty())
             cut.name += QStringLiteral(" %1 MHz").arg(block.frequency);

@@ -252,6 +252,7 @@ void Reader::addCut(const RawCut &raw, const QString &fileName)
     QString model = m_values.value(QStringLiteral("MODNUM"));
     if (model.isEmpty())
         model = fileName;
+    cut.title = model;
     cut.name = QStringLiteral("%1 %2 %3").arg(model, raw.kind, raw.polarisation).simplified();
     cut.frequency = raw.frequency;
     cut.details = m_details;

@@ -61,6 +61,13 @@ void makeOptional()
         qputenv("QT_QPA_PLATFORM", "xcb;offscreen");
 }
 
+void drawIntoMemory()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
+}
+
 QString missingText()
 {
     return QStringLiteral(

@@ -17,6 +17,10 @@ bool prepare(const QStringList &arguments);
 /// as if there were none. Called after prepare().
 void makeOptional();
 
+/// For work that shows no window: the application object draws into memory, whatever displays there
+/// are. Called before prepare().
+void drawIntoMemory();
+
 /// What to tell a user who has no display.
 QString missingText();
 

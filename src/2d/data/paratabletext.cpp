@@ -27,18 +27,17 @@ double beforeAfterOfFloatingTable(const ParaInfo &info)
     return naturalLogOfTen / std::log(info.gain.second / info.backLobe.second);
 }
 
-/// The frequency table has a figure of its own; the two tables differ on purpose.
-double beforeAfterOfFrequencyTable(const ParaInfo &info)
-{
-    return 20.0 * std::log10(info.gain.second - info.backLobe.second);
-}
-
 QString crossPolarCell(double ratio)
 {
     return std::abs(ratio - noCrossPolarData) <= 1e-6 ? QStringLiteral("nan") : fixed(ratio, 4);
 }
 
 } // namespace
+
+double beforeAfterRatio(const ParaInfo &info)
+{
+    return 20.0 * std::log10(info.gain.second - info.backLobe.second);
+}
 
 std::array<FloatingTableRow, floatingTableRows> floatingTableCells(const ParaInfo &info)
 {
@@ -64,7 +63,7 @@ QStringList frequencyTableCells(const ParaInfo &info, const QString &frequency)
             fixed(std::abs(info.halfPowerRight.first - info.halfPowerLeft.first), 4),
             fixed(info.firstSideLobeLeft.second, 4),
             fixed(info.firstSideLobeRight.second, 4),
-            fixed(beforeAfterOfFrequencyTable(info), 4),
+            fixed(beforeAfterRatio(info), 4),
             fixed(info.axialRatio.second, 4),
             crossPolarCell(info.crossPolarRatio.second)};
 }

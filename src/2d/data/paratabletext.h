@@ -20,6 +20,11 @@ constexpr int floatingTableRows = 11;
 /// width, the nulls, the side lobes, before-after ratio, axial ratio and cross-polar ratio.
 std::array<FloatingTableRow, floatingTableRows> floatingTableCells(const ParaInfo &info);
 
+/// The before-after ratio of the frequency table, 20 log10(gain - level opposite the peak); the
+/// floating table has another figure of that name on purpose. Minus infinity or NaN where the
+/// formula has no value.
+double beforeAfterRatio(const ParaInfo &info);
+
 /// The cells of one row of the frequency table, four decimals: \a frequency as it is, gain, 3 dB
 /// width, left and right side-lobe level, before-after ratio, axial ratio, cross-polar ratio ("nan"
 /// for 255, which says that there are no cross-polar data).

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Batch</name>
+    <message>
+        <source>The results cannot be written: %1</source>
+        <translation>无法写出结果：%1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made: %1</source>
+        <translation>无法创建文件夹：%1</translation>
+    </message>
+    <message>
+        <source>There is no curve &quot;%1&quot; among these: %2</source>
+        <translation>以下曲线中没有&quot;%1&quot;：%2</translation>
+    </message>
+    <message>
+        <source>The file could not be written, what was there is unchanged: %1: %2</source>
+        <translation>无法写入文件，原有内容未改变：%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>ChartMenu</name>
     <message>
         <source>Copy</source>
@@ -244,10 +263,6 @@
         <translation>文件为空。</translation>
     </message>
     <message>
-        <source>The third line is not &quot;Angle,Power&quot;.</source>
-        <translation>第三行不是“Angle,Power”。</translation>
-    </message>
-    <message>
         <source>%1: Incorrect file format. %2</source>
         <translation>%1：文件格式不正确。%2</translation>
     </message>
@@ -290,6 +305,10 @@
     <message>
         <source>Reading %1...</source>
         <translation>正在读取 %1……</translation>
+    </message>
+    <message>
+        <source>The third line is not &quot;Angle,Power&quot;, and it is no pattern file of MSI, NSMA or NEC2.</source>
+        <translation>第三行不是 &quot;Angle,Power&quot;，也不是 MSI、NSMA 或 NEC2 方向图文件。</translation>
     </message>
 </context>
 <context>
@@ -1542,6 +1561,14 @@ correction</source>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, vertical</source>
+        <translation>，垂直分量</translation>
+    </message>
+    <message>
+        <source>, horizontal</source>
+        <translation>，水平分量</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Batch</name>
+    <message>
+        <source>The results cannot be written: %1</source>
+        <translation>The results cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made: %1</source>
+        <translation>The folder cannot be made: %1</translation>
+    </message>
+    <message>
+        <source>There is no curve &quot;%1&quot; among these: %2</source>
+        <translation>There is no curve &quot;%1&quot; among these: %2</translation>
+    </message>
+    <message>
+        <source>The file could not be written, what was there is unchanged: %1: %2</source>
+        <translation>The file could not be written, what was there is unchanged: %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ChartMenu</name>
     <message>
         <source>Copy</source>
@@ -244,10 +263,6 @@
         <translation>The file is empty.</translation>
     </message>
     <message>
-        <source>The third line is not &quot;Angle,Power&quot;.</source>
-        <translation>The third line is not &quot;Angle,Power&quot;.</translation>
-    </message>
-    <message>
         <source>%1: Incorrect file format. %2</source>
         <translation>%1: Incorrect file format. %2</translation>
     </message>
@@ -290,6 +305,10 @@
     <message>
         <source>Reading %1...</source>
         <translation>Reading %1...</translation>
+    </message>
+    <message>
+        <source>The third line is not &quot;Angle,Power&quot;, and it is no pattern file of MSI, NSMA or NEC2.</source>
+        <translation>The third line is not &quot;Angle,Power&quot;, and it is no pattern file of MSI, NSMA or NEC2.</translation>
     </message>
 </context>
 <context>
@@ -1542,6 +1561,14 @@ correction</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, vertical</source>
+        <translation>, vertical</translation>
+    </message>
+    <message>
+        <source>, horizontal</source>
+        <translation>, horizontal</translation>
     </message>
 </context>
 <context>

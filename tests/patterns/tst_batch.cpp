@@ -1,0 +1,162 @@
+#include "patterns/batch.h"
+#include "patterns/figuretable.h"
+#include "testmain.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QStringList words(const char *utf8)
+{
+    return text(utf8).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QByteArray content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+/// The workbench without a window.
+class TestBatch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        write("a.csv", "T\nA/B\nAngle,Power\n-90,-3\n0,0.1\n90,-3.5\n");
+        write("again.csv", "T\nA/B\nAngle,Power\n-1,0\n0,1\n");
+        write("round.msi", "NAME R\nFREQUENCY 900\nGAIN 3 dBi\nHORIZONTAL 4\n0 0\n90 10\n180 20\n"
+                           "270 10\nVERTICAL 4\n0 1\n90 10\n180 20\n270 10\n");
+        write("empty.csv", "");
+    }
+
+    void commandLine_data()
+    {
+        QTest::addColumn<bool>("isRight");
+        for (const char *right :
+             {"--figures a.csv b.csv", "--export out a", "--report r.PDF a", "--report=r.html a",
+              "--export-msi o.msi --horizontal A --vertical B a", "--language cn --figures a"})
+            QTest::newRow(right) << true;
+        for (const char *wrong :
+             {"--figures", "--figures --export out a", "--export out", "--report r.txt a",
+              "--report", "--export-msi o.msi a", "--export-msi o.msi --horizontal A a",
+              "--figures --colour a", "--figures --vertical A a", "--language xx --figures a"})
+            QTest::newRow(wrong) << false;
+    }
+    void commandLine()
+    {
+        QFETCH(const bool, isRight);
+        const CommandLine line = readCommandLine(words("program") + words(QTest::currentDataTag()));
+        QCOMPARE(line.wish, isRight ? CommandLine::Wish::Batch : CommandLine::Wish::Refuse);
+        QVERIFY(line.isBatch);
+        QVERIFY(!readCommandLine(words("program a.csv -- --figures")).isBatch);
+    }
+
+    void figures()
+    {
+        QCOMPARE(run("--figures a.csv empty.csv ./again.csv"), int(Batch::Failed));
+        const QList<QByteArray> lines = m_results.split('\n');
+        QCOMPARE(lines.size(), 4);
+        // Nothing was measured opposite the peak, and a curve of three points has no lobes to show.
+        QCOMPARE(
+            lines.at(1),
+            QByteArray("a.csv,A/B,,3,0.1,162.09677419354838,-3,-3.5,,3.6,162.09677419354838,,,"));
+        QVERIFY(lines.at(2).startsWith("./again.csv,A/B (2),,2,1,,"));
+        QVERIFY2(m_messages.startsWith(text("empty.csv: ")), qPrintable(m_messages));
+        QCOMPARE(FigureTable::row(text("a,\"b"), text("c"), text("9"), {}),
+                 QByteArray("\"a,\"\"b\",c,9,0,,,,,,,,,,\n"));
+    }
+
+    void exportOfCurves()
+    {
+        write("out/A_B.csv", "old");
+        QCOMPARE(run("--export out a.csv again.csv round.msi"), int(Batch::Done));
+        QCOMPARE(QDir(text("out")).entryList(QDir::Files).join(QLatin1Char('|')),
+                 text("A_B (2).csv|A_B.csv|R H.csv|R V.csv"));
+        QCOMPARE(content(text("out/A_B (2).csv")),
+                 QByteArray("T\nA/B (2)\nAngle,Power\n-1,0\n0,1\n"));
+        QCOMPARE(content(text("out/R H.csv")),
+                 QByteArray("R\nR H\nAngle,Power\n-90,-7\n0,3\n90,-7\n180,-17\n"));
+    }
+
+    void exportAsMsi()
+    {
+        const auto task = [](const char *vertical) {
+            return BatchTask{BatchTask::Kind::ExportMsi, text("o.msi"), text("R H"),
+                             text(vertical)};
+        };
+        const QStringList files{text("round.msi"), text("a.csv")};
+        QCOMPARE(run(task("R V"), files), int(Batch::Done));
+        const QByteArray written = content(text("o.msi"));
+        QVERIFY(written.startsWith("NAME R\nFREQUENCY 900\nGAIN 3 dBi\nHORIZONTAL 360\n0 0.000\n"));
+        QVERIFY(written.contains("VERTICAL 360\n0 1.000\n"));
+        QCOMPARE(run(task("A/B"), files), int(Batch::Failed));
+        QVERIFY2(m_messages.contains(text("from 90° to -90°")), qPrintable(m_messages));
+        QCOMPARE(run(task("nobody"), files), int(Batch::Failed));
+        QVERIFY2(m_messages.contains(text("nobody")), qPrintable(m_messages));
+        QCOMPARE(content(text("o.msi")), written);
+    }
+
+    /// Started as a script does it on a machine without a screen.
+    void reportWithoutDisplay()
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(text(name));
+        process.setProcessEnvironment(environment);
+        process.start(text(MZ_BIN_DIR "/mz6218-patterns"),
+                      words("--report r.html a.csv round.msi missing.csv"));
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), int(Batch::Failed));
+        QVERIFY(process.readAllStandardError().startsWith("missing.csv: "));
+        const QByteArray report = content(text("r.html"));
+        for (const char *part : {"A/B", "R H", "R V", "data:image/png", "</html>"})
+            QVERIFY2(report.contains(part), part);
+    }
+
+private:
+    static void write(const char *name, const QByteArray &bytes)
+    {
+        QDir().mkpath(QFileInfo(text(name)).path());
+        QFile file(text(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("no test file");
+    }
+
+    int run(const BatchTask &task, const QStringList &files)
+    {
+        QBuffer results;
+        results.open(QIODevice::WriteOnly);
+        m_messages.clear();
+        QTextStream messages(&m_messages);
+        const int status = Batch::run(task, files, results, messages);
+        m_results = results.data();
+        return status;
+    }
+    int run(const char *arguments)
+    {
+        const CommandLine line = readCommandLine(words("program") + words(arguments));
+        return run(line.task, line.files);
+    }
+
+    QTemporaryDir m_folder;
+    QByteArray m_results;
+    QString m_messages;
+};
+
+MZ_TEST_GUILESS_MAIN(TestBatch)
+#include "tst_batch.moc"
