@@ -8,14 +8,9 @@
 
 namespace {
 
-constexpr int connectLimit = 5000; // milliseconds, as all below
-constexpr int replyLimit = 5000;
-constexpr int optionalLimit = 1000;
 /// A reply that a stop overtook may still come; what comes until the line is quiet is not the next
 /// command's.
-constexpr int quietTime = 300;
-constexpr int firstPause = 1000;
-constexpr int longestPause = 5000;
+constexpr int quietTime = 300; // ms
 constexpr int longestReply = 1 << 16;
 const QByteArray stopLine = "S\n";
 
@@ -72,7 +67,7 @@ void RotatorClient::close()
 void RotatorClient::connectNow()
 {
     m_socket.connectToHost(m_host, m_port);
-    m_limit.start(connectLimit);
+    m_limit.start(m_waits.connecting);
 }
 
 void RotatorClient::connected()
@@ -99,7 +94,7 @@ void RotatorClient::lose(const QString &reason)
     m_orders.clear();
     m_command = Command::None;
     m_isUp = false;
-    const int pause = std::min(firstPause << std::min(m_attempts, 3), longestPause);
+    const int pause = std::min(m_waits.firstPause << std::min(m_attempts, 3), m_waits.longestPause);
     ++m_attempts;
     m_pause.start(pause);
     m_socket.abort();
@@ -151,7 +146,7 @@ void RotatorClient::sendNext()
     }
     m_socket.write(order.bytes);
     const bool isOptional = m_command == Command::Model || m_command == Command::State;
-    m_limit.start(isOptional ? optionalLimit : replyLimit);
+    m_limit.start(isOptional ? m_waits.optionalReply : m_waits.reply);
 }
 
 void RotatorClient::readLines()

@@ -14,6 +14,16 @@ struct TableDescription
     std::optional<TableLimits> limits;
 };
 
+/// How long a rotator's server is waited for, in milliseconds.
+struct RotatorWaits
+{
+    int connecting = 5000;
+    int reply = 5000;
+    int optionalReply = 1000; ///< to a command that a server need not know
+    int firstPause = 1000;    ///< before it is tried again; doubled from try to try
+    int longestPause = 5000;
+};
+
 /// The asynchronous connection to a rotator's server over TCP. Nothing here blocks; commands are
 /// sent one after the other, each once the reply to the former has come.
 ///
@@ -27,6 +37,9 @@ public:
     explicit RotatorClient(QObject *parent = nullptr);
     /// Stops a table that may be turning, as far as the link takes it at once.
     ~RotatorClient() override;
+
+    /// Replaces the times to wait.
+    void setWaits(const RotatorWaits &waits) { m_waits = waits; }
 
     /// Connects to \a host, asks for the position once, then for the model and the limits.
     void open(const QString &host, quint16 port);
@@ -75,6 +88,7 @@ private:
     void takeStop();
     void describeFurther();
 
+    RotatorWaits m_waits;
     QString m_host;
     quint16 m_port = 0;
     QTcpSocket m_socket;

@@ -86,6 +86,8 @@ namespace RunText {
 
 QByteArray header(const RunHeader &header);
 QByteArray row(const RunRow &row);
+/// The names of \a flags, joined by semicolons.
+QByteArray flags(RunFlags flags);
 /// The line that tells the drift behind the last row.
 QByteArray drift(const std::optional<double> &drift);
 

@@ -48,16 +48,6 @@ std::optional<double> finite(const QByteArray &text)
     return finite(QString::fromUtf8(text));
 }
 
-QByteArray flagText(RunFlags flags)
-{
-    QByteArrayList names;
-    for (const auto &[flag, name] : flagNames) {
-        if (flags.testFlag(flag))
-            names.append(name);
-    }
-    return names.join(';');
-}
-
 /// Nothing for a name that is unknown, as a torn one is.
 std::optional<RunFlags> readFlags(const QByteArray &text)
 {
@@ -170,7 +160,7 @@ QByteArray header(const RunHeader &header)
     const SweepPlan &plan = header.plan;
     add("version", header.version);
     add("identity", header.identity);
-    add("frequency_hz", textOf(header.frequency));
+    add("frequency_hz", header.frequency ? QString::number(*header.frequency, 'f', 0) : QString());
     add("offset_db", textOf(header.offset));
     add("averaging", textOf(header.averaging));
     add("rotator", header.rotator);
@@ -202,8 +192,18 @@ QByteArray row(const RunRow &row)
                                 level(row.mean),
                                 level(row.sigma),
                                 QByteArray::number(row.count),
-                                flagText(row.flags)};
+                                flags(row.flags)};
     return fields.join(',') + '\n';
+}
+
+QByteArray flags(RunFlags flags)
+{
+    QByteArrayList names;
+    for (const auto &[flag, name] : flagNames) {
+        if (flags.testFlag(flag))
+            names.append(name);
+    }
+    return names.join(';');
 }
 
 QByteArray drift(const std::optional<double> &drift)

@@ -232,12 +232,15 @@ RunRow SweepRun::measured() const
 
 void SweepRun::finishPoint(qint64 now)
 {
-    if (!m_orders.keep(measured())) {
+    const RunRow row = measured();
+    const bool isDrift = m_at == m_left.size();
+    if (!isDrift)
+        ++m_at;
+    if (!m_orders.keep(row)) {
         pause(Cause::NotWritten);
         return;
     }
-    if (m_at < m_left.size()) {
-        ++m_at;
+    if (!isDrift) {
         beginPoint(now);
         return;
     }
@@ -334,7 +337,7 @@ void SweepRun::resume(qint64 now)
 
 void SweepRun::stop(qint64 now, bool returns)
 {
-    if (m_state == State::Finished || m_state == State::Idle)
+    if (m_state == State::Finished)
         return;
     stopTable();
     const bool wasReturning = m_goal == Goal::Start;

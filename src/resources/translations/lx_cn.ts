@@ -2191,6 +2191,80 @@ Replace it?</source>
     </message>
 </context>
 <context>
+    <name>SweepDevices</name>
+    <message>
+        <source>Rotator: %1</source>
+        <translation>转台：%1</translation>
+    </message>
+    <message>
+        <source>Meter: %1</source>
+        <translation>功率计：%1</translation>
+    </message>
+    <message>
+        <source>It does not tell what it is.</source>
+        <translation>仪器没有报告自己的标识。</translation>
+    </message>
+</context>
+<context>
+    <name>SweepSession</name>
+    <message>
+        <source>The meter measures relative to a reference; turn that off first.</source>
+        <translation>功率计正在进行相对测量；请先将其关闭。</translation>
+    </message>
+    <message>
+        <source>Frequency, offset or averaging of the meter are not those of the run.</source>
+        <translation>功率计的频率、偏移或平均次数与该次测量不一致。</translation>
+    </message>
+    <message>
+        <source>There is a run file already: %1</source>
+        <translation>测量记录文件已存在：%1</translation>
+    </message>
+    <message>
+        <source>The file exists already: %1</source>
+        <translation>文件已存在：%1</translation>
+    </message>
+    <message>
+        <source>This is no run file that can be resumed: %1</source>
+        <translation>该文件不是可以继续的测量记录：%1</translation>
+    </message>
+    <message>
+        <source>This run was begun with another plan: %1</source>
+        <translation>该次测量是按另一个计划开始的：%1</translation>
+    </message>
+    <message>
+        <source>Another program is measuring into this file: %1</source>
+        <translation>另一个程序正在向该文件写入测量数据：%1</translation>
+    </message>
+    <message>
+        <source>Nothing can be written here: %1</source>
+        <translation>无法写入此处：%1</translation>
+    </message>
+    <message>
+        <source>The table does not move on; it was stopped.</source>
+        <translation>转台不再转动，已将其停止。</translation>
+    </message>
+    <message>
+        <source>The rotator failed three times in a row (error %1).</source>
+        <translation>转台连续三次出错（错误 %1）。</translation>
+    </message>
+    <message>
+        <source>The rotator refuses the angle: it is out of its limits.</source>
+        <translation>转台拒绝该角度：超出其转动范围。</translation>
+    </message>
+    <message>
+        <source>The rotator refuses to work (error %1).</source>
+        <translation>转台拒绝执行（错误 %1）。</translation>
+    </message>
+    <message>
+        <source>The point could not be written: %1</source>
+        <translation>测量点无法写入：%1</translation>
+    </message>
+    <message>
+        <source>The meter is set otherwise than at the start.</source>
+        <translation>功率计的设置与开始时不同。</translation>
+    </message>
+</context>
+<context>
     <name>ViewActions</name>
     <message>
         <source>Manage Curves</source>

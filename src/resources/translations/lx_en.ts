@@ -2191,6 +2191,80 @@ Replace it?</translation>
     </message>
 </context>
 <context>
+    <name>SweepDevices</name>
+    <message>
+        <source>Rotator: %1</source>
+        <translation>Rotator: %1</translation>
+    </message>
+    <message>
+        <source>Meter: %1</source>
+        <translation>Meter: %1</translation>
+    </message>
+    <message>
+        <source>It does not tell what it is.</source>
+        <translation>It does not tell what it is.</translation>
+    </message>
+</context>
+<context>
+    <name>SweepSession</name>
+    <message>
+        <source>The meter measures relative to a reference; turn that off first.</source>
+        <translation>The meter measures relative to a reference; turn that off first.</translation>
+    </message>
+    <message>
+        <source>Frequency, offset or averaging of the meter are not those of the run.</source>
+        <translation>Frequency, offset or averaging of the meter are not those of the run.</translation>
+    </message>
+    <message>
+        <source>There is a run file already: %1</source>
+        <translation>There is a run file already: %1</translation>
+    </message>
+    <message>
+        <source>The file exists already: %1</source>
+        <translation>The file exists already: %1</translation>
+    </message>
+    <message>
+        <source>This is no run file that can be resumed: %1</source>
+        <translation>This is no run file that can be resumed: %1</translation>
+    </message>
+    <message>
+        <source>This run was begun with another plan: %1</source>
+        <translation>This run was begun with another plan: %1</translation>
+    </message>
+    <message>
+        <source>Another program is measuring into this file: %1</source>
+        <translation>Another program is measuring into this file: %1</translation>
+    </message>
+    <message>
+        <source>Nothing can be written here: %1</source>
+        <translation>Nothing can be written here: %1</translation>
+    </message>
+    <message>
+        <source>The table does not move on; it was stopped.</source>
+        <translation>The table does not move on; it was stopped.</translation>
+    </message>
+    <message>
+        <source>The rotator failed three times in a row (error %1).</source>
+        <translation>The rotator failed three times in a row (error %1).</translation>
+    </message>
+    <message>
+        <source>The rotator refuses the angle: it is out of its limits.</source>
+        <translation>The rotator refuses the angle: it is out of its limits.</translation>
+    </message>
+    <message>
+        <source>The rotator refuses to work (error %1).</source>
+        <translation>The rotator refuses to work (error %1).</translation>
+    </message>
+    <message>
+        <source>The point could not be written: %1</source>
+        <translation>The point could not be written: %1</translation>
+    </message>
+    <message>
+        <source>The meter is set otherwise than at the start.</source>
+        <translation>The meter is set otherwise than at the start.</translation>
+    </message>
+</context>
+<context>
     <name>ViewActions</name>
     <message>
         <source>Manage Curves</source>
