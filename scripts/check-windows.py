@@ -1,17 +1,23 @@
 #!/usr/bin/env python3
-"""Lets the Windows compiler read every source of ours, as far as the syntax goes, and makes the
-resources of the programs and an installer of a stand-in for them.
+"""Lets the Windows compiler read every source of ours, as far as the syntax goes, makes the resources of
+the programs, and deploys and packs a stand-in for them.
 
 check-windows.py [BUILD-FOLDER] [PART-OF-A-PATH]
 
 mingw-w64 reads them with Windows' own headers and with the Qt headers of this machine, which take
 their Windows branches by the compiler's macros. It needs a finished build, whose flags and generated
 headers it uses.
+
+Where MZ_WINDOWS_QT names a Qt 5.15 that was built for mingw-w64, and Wine is there, the programs and
+tests are built with it in build-windows, deployed, packed and run, and the wait box is looked at.
+Without these it says that nothing was run.
 """
 
 import json
 import os
+import re
 import shlex
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -19,6 +25,7 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
+WINDOWS = ROOT / "packaging/windows"
 COMPILER = "x86_64-w64-mingw32-g++-posix"
 RESOURCE_COMPILER = "x86_64-w64-mingw32-windres"
 # CMake adds the first two, and the campaigns, for Unix alone; the last source includes a peer's header
@@ -58,32 +65,105 @@ def succeeds(what, command):
     return result.returncode == 0
 
 
+def headers_without_system(folder):
+    """Headers of libraries that are headers alone, apart from the others of this machine."""
+    (folder / "CLI").symlink_to("/usr/include/CLI")
+    return ["-isystem", str(folder)]
+
+
 def compiles(source, settings):
     return succeeds(source.relative_to(ROOT),
                     [COMPILER, "-std=c++17", "-fsyntax-only", *WARNINGS, *settings, str(source)])
 
 
-def packs(build):
-    """Makes the resources of the programs and the installer."""
+def makes_resources(build):
     resources = sorted((build / "packaging").glob("*.rc"))
     with tempfile.TemporaryDirectory() as folder:
         good = [succeeds(file.name, [RESOURCE_COMPILER, str(file), "-O", "coff", "-o", f"{folder}/resource"])
                 for file in resources]
-        good.append(succeeds("the installer", [
-            "makensis", "-WX", "-DVERSION=1.0.0", f"-DSOURCE={ROOT}/packaging/windows",
-            f"-DOUTPUT={folder}/mz6218-setup.exe", str(ROOT / "packaging/windows/mz6218.nsi")]))
     return bool(resources) and all(good)
 
 
+def packs_stand_in():
+    """Deploys and packs a program that needs the compiler's runtime and a plugin in place of Qt's."""
+    with tempfile.TemporaryDirectory() as name:
+        folder = Path(name)
+        (folder / "main.cpp").write_text("#include <iostream>\nint main() { std::cout << 1; }\n", encoding="utf-8")
+        (folder / "CMakeLists.txt").write_text(
+            "cmake_minimum_required(VERSION 3.18)\nproject(stand_in CXX)\nadd_executable(mz6218 main.cpp)\n"
+            "add_library(plugin MODULE main.cpp)\n"
+            "install(TARGETS mz6218 RUNTIME DESTINATION bin COMPONENT portable)\n", encoding="utf-8")
+        build, qt, target = folder / "build", folder / "qt", folder / "deployed"
+        made = succeeds("the toolchain file", [
+            "cmake", "-G", "Ninja", "-S", name, "-B", str(build),
+            f"-DCMAKE_TOOLCHAIN_FILE={WINDOWS}/toolchain-mingw64.cmake"]) and succeeds(
+            "a stand-in", ["cmake", "--build", str(build)])
+        if not made:
+            return False
+        for plugin in re.findall(r"\w+/q?\w+\.dll", (WINDOWS / "deploy.py").read_text(encoding="utf-8")):
+            (qt / "plugins" / plugin).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(build / "libplugin.dll", qt / "plugins" / plugin)
+        (build / "bin").mkdir()
+        (build / "bin/help.pdf").write_bytes(b"")
+        good = succeeds("to be deployed", [str(WINDOWS / "deploy.py"), str(build), str(target), "--qt", str(qt)])
+        for file in ("bin/libstdc++-6.dll", "bin/libwinpthread-1.dll", "licences/LGPL-3.txt"):
+            if good and not (target / file).is_file():
+                print(f"The deployed folder lacks {file}.", file=sys.stderr)
+                good = False
+        return good and succeeds("the installer", [str(WINDOWS / "installer.py"), str(target),
+                                                   str(folder / "mz6218-stand-in.exe")])
+
+
+def runs(build):
+    """Builds with the Qt for Windows, deploys, packs and runs, as far as that Qt and Wine are there."""
+    qt = os.environ.get("MZ_WINDOWS_QT", "")
+    wine = shutil.which("wine64") or shutil.which("wine")
+    if not qt or not wine:
+        print("Nothing was built against a Qt for Windows and nothing was run: "
+              + ("there is no Wine." if qt else "MZ_WINDOWS_QT names none."))
+        return True
+    folder = ROOT / "build-windows"
+    if not succeeds("to be configured", [
+            "cmake", "-G", "Ninja", "-S", str(ROOT), "-B", str(folder), "-DCMAKE_BUILD_TYPE=Release",
+            f"-DCMAKE_TOOLCHAIN_FILE={WINDOWS}/toolchain-mingw64.cmake", f"-DCMAKE_PREFIX_PATH={qt}"]):
+        return False
+    if not succeeds("to be built", ["cmake", "--build", str(folder)]):
+        return False
+    shutil.copy(build / "bin/help.pdf", folder / "bin")
+    target = folder / "deployed"
+    shutil.rmtree(target, ignore_errors=True)
+    if not succeeds("to be deployed", [str(WINDOWS / "deploy.py"), str(folder), str(target), "--qt", qt, "--strip"]):
+        return False
+    programs = sorted((target / "bin").glob("*.exe"))
+    shutil.copy(folder / "bin/mz_waitbox.exe", target / "bin")
+    # Wine's own plugin draws; DISPLAY stays set, as it may be for a user.
+    screen = ["xvfb-run", "-a", "env", "WINEDEBUG=-all"]
+    good = [succeeds(f"{program.name} to say its version", [*screen, wine, str(program), "--version"])
+            for program in programs]
+    good.append(succeeds("the examination", [*screen, wine, str(target / "bin/mz6218.exe"), "--doctor"]))
+    good.append(succeeds("the wait box", [str(ROOT / "scripts/look-at-wait-box.sh"), wine,
+                                          str(target / "bin/mz_waitbox.exe")]))
+    (target / "bin/mz_waitbox.exe").unlink()
+    good.append(succeeds("the installer", [str(WINDOWS / "installer.py"), str(target),
+                                           str(folder / "mz6218-setup-check.exe")]))
+    environment = [f"WINEPATH={target / 'bin'};{qt}/bin", f"QT_PLUGIN_PATH={qt}/plugins", "WINEDEBUG=-all"]
+    good.append(succeeds("the tests", ["xvfb-run", "-a", "env", *environment, "ctest", "--test-dir", str(folder),
+                                       "--output-on-failure"]))
+    print(f"{good.count(True)} of {len(good)} runs under Wine are as they should be.")
+    return all(good)
+
+
 def main(build="build", part=""):
-    found = compilations(Path(build).resolve(), part)
+    build = Path(build).resolve()
+    found = compilations(build, part)
     if not found:
         sys.exit(f"There is nothing to check in {build}.")
-    with ThreadPoolExecutor(os.cpu_count()) as pool:
-        results = list(pool.map(compiles, found.keys(), found.values()))
+    with tempfile.TemporaryDirectory() as folder, ThreadPoolExecutor(os.cpu_count()) as pool:
+        headers = headers_without_system(Path(folder))
+        results = list(pool.map(lambda item: compiles(item[0], item[1] + headers), found.items()))
     print(f"{results.count(True)} of {len(results)} sources compile for Windows.")
-    packed = bool(part) or packs(Path(build).resolve())
-    return 0 if packed and all(results) else 1
+    rest = bool(part) or all([makes_resources(build), packs_stand_in(), runs(build)])
+    return 0 if rest and all(results) else 1
 
 
 if __name__ == "__main__":

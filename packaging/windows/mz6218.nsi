@@ -1,9 +1,9 @@
-; The installer for Windows:
-;   makensis -DVERSION=1.0.0 -DSOURCE=<deployed folder> -DOUTPUT=<installer> mz6218.nsi
+; The installer for Windows; installer.py says how it is made. FILES names the lists of what it installs.
 ; It installs for the current user, since the programs keep settings, records and logs beside themselves
 ; and an ordinary user may not write below "Program Files".
 Unicode true
 !include "MUI2.nsh"
+!include "${FILES}"
 
 !define APP "MZ6218 Power Meter"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\MZ6218"
@@ -25,40 +25,31 @@ SetCompressor /SOLID lzma
 !insertmacro MUI_LANGUAGE "SimpChinese"
 
 Section "Programs"
-    SetOutPath "$INSTDIR"
-    File /r "${SOURCE}\*.*"
+    !insertmacro INSTALL_FILES
     WriteUninstaller "$INSTDIR\uninstall.exe"
+    ; A shortcut starts in the folder that is set when it is made: the programs find their files there.
+    SetOutPath "$INSTDIR\bin"
     CreateDirectory "$SMPROGRAMS\MZ6218"
     CreateShortcut "$SMPROGRAMS\MZ6218\${APP}.lnk" "$INSTDIR\bin\mz6218.exe"
     CreateShortcut "$SMPROGRAMS\MZ6218\MZ6218 Antenna Patterns.lnk" "$INSTDIR\bin\mz6218-patterns.exe"
     WriteRegStr HKCU "Software\MZ6218" "Folder" "$INSTDIR"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "${APP}"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "MZ6218 developers"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\bin\mz6218.exe"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
 SectionEnd
 
-; Records, logs and settings are the user's: only what was installed is removed.
+; Records, logs and settings are the user's: only what was installed is removed, and folders that are
+; empty then.
 Section "Uninstall"
-    Delete "$INSTDIR\bin\mz6218.exe"
-    Delete "$INSTDIR\bin\mz6218-sim.exe"
-    Delete "$INSTDIR\bin\mz6218-patterns.exe"
-    Delete "$INSTDIR\bin\*.dll"
-    Delete "$INSTDIR\bin\help.pdf"
-    Delete "$INSTDIR\README.txt"
-    RMDir /r "$INSTDIR\bin\bearer"
-    RMDir /r "$INSTDIR\bin\platforms"
-    RMDir /r "$INSTDIR\bin\styles"
-    RMDir /r "$INSTDIR\bin\imageformats"
-    RMDir /r "$INSTDIR\bin\iconengines"
-    RMDir /r "$INSTDIR\bin\printsupport"
-    RMDir /r "$INSTDIR\bin\translations"
-    RMDir /r "$INSTDIR\samples"
-    RMDir /r "$INSTDIR\licences"
-    RMDir "$INSTDIR\bin"
+    SetOutPath "$TEMP"
+    !insertmacro REMOVE_FILES
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
-    RMDir /r "$SMPROGRAMS\MZ6218"
+    Delete "$SMPROGRAMS\MZ6218\${APP}.lnk"
+    Delete "$SMPROGRAMS\MZ6218\MZ6218 Antenna Patterns.lnk"
+    RMDir "$SMPROGRAMS\MZ6218"
     DeleteRegKey HKCU "Software\MZ6218"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd

@@ -1,7 +1,5 @@
-# Builds for 64-bit Windows with mingw-w64:
-#   cmake -B build-windows -DCMAKE_TOOLCHAIN_FILE=packaging/windows/toolchain-mingw64.cmake
-#         -DCMAKE_PREFIX_PATH=<Qt 5.15 for mingw> -DBUILD_TESTING=OFF
-# moc, uic, rcc and lrelease must be those of the building machine, of the same Qt version.
+# Builds for 64-bit Windows with mingw-w64; docs/windows.md says how. moc, uic and rcc come with the Qt in
+# CMAKE_PREFIX_PATH, as programs of the building machine, lrelease from the building machine's own Qt.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -15,3 +13,17 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# The roots above hide this machine's packages, and a Qt for Windows has no linguist tools that run here.
+file(GLOB linguist /usr/lib/*/cmake/Qt5LinguistTools /usr/lib/cmake/Qt5LinguistTools
+     /usr/lib64/cmake/Qt5LinguistTools)
+if(linguist AND NOT Qt5LinguistTools_DIR)
+    list(GET linguist 0 linguist)
+    set(Qt5LinguistTools_DIR "${linguist}" CACHE PATH "The linguist tools of the building machine")
+endif()
+
+# Tests run where they are built as far as Wine is there.
+find_program(wine NAMES wine64 wine)
+if(wine)
+    set(CMAKE_CROSSCOMPILING_EMULATOR "${wine}")
+endif()

@@ -57,8 +57,11 @@ bool prepare(const QStringList &arguments)
 
 void makeOptional()
 {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    // DISPLAY may be set elsewhere too, where there is no plugin for X11.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb;offscreen");
+#endif
 }
 
 void drawIntoMemory()

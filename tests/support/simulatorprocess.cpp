@@ -174,7 +174,7 @@ void SimulatorProcess::readOutput()
         if (!bytes.endsWith('\n'))
             return;
         m_read += bytes.size();
-        const QString line = QString::fromUtf8(bytes.chopped(1));
+        const QString line = QString::fromUtf8(bytes.chopped(bytes.endsWith("\r\n") ? 2 : 1));
         if (line.startsWith(listening)) {
             m_address = line.section(QLatin1Char(':'), 0, -2).mid(listening.size());
             m_port = line.section(QLatin1Char(':'), -1).toUShort();

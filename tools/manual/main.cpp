@@ -162,16 +162,24 @@ bool print(QTextDocument &book, const QString &path)
 
 int main(int argc, char **argv)
 {
-    // A build has no display, and needs none to set type.
+#ifndef Q_OS_WIN
+    // A build has no display, and needs none to set type. On Windows there is always one, and this
+    // platform has no fonts there.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     QGuiApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 3) {
         complain() << "usage: mz_manual OUTPUT.pdf SOURCE.md..." << Qt::endl;
         return 2;
     }
-    if (!QFontMetrics(textFont()).inFontUcs4(U'中'))
-        complain() << "mz_manual: no font for Chinese; install fonts-wqy-microhei" << Qt::endl;
+    for (const char32_t letter : {U'A', U'中'}) {
+        if (QFontMetrics(textFont()).inFontUcs4(letter))
+            continue;
+        complain() << "mz_manual: no font for " << (letter == U'A' ? "English" : "Chinese")
+                   << "; install fonts-dejavu-core and fonts-wqy-microhei" << Qt::endl;
+        return 1;
+    }
 
     QTextDocument book;
     book.setDefaultFont(textFont());
