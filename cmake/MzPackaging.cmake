@@ -2,6 +2,9 @@
 #   DEB  component "system":   programs under lib/mz6218, launchers on the path, desktop entries, icons
 #   TGZ  component "portable": one folder with everything beside the programs, Qt's libraries included
 set(programs mz6218 mz6218-sim mz6218-patterns)
+if(TARGET mz6218-cli)
+    list(APPEND programs mz6218-cli)
+endif()
 set(samples "${CMAKE_SOURCE_DIR}/patterns/samples")
 set(CPACK_PACKAGE_CONTACT "MZ6218 developers <mz6218@localhost>")
 
@@ -34,20 +37,26 @@ endfunction()
 mz_describe_for_windows(mz6218 pt.ico "MZ6218 Power Meter")
 mz_describe_for_windows(mz6218-sim pt.ico "MZ6218 Simulated Instrument")
 mz_describe_for_windows(mz6218-patterns patterns.ico "MZ6218 Antenna Patterns")
+if(TARGET mz6218-cli)
+    mz_describe_for_windows(mz6218-cli pt.ico "MZ6218 Command Line")
+endif()
 set_target_properties(mz6218 mz6218-patterns PROPERTIES WIN32_EXECUTABLE ON)
 
 if(UNIX)
-    # The console keeps its files beside itself and is started through a launcher; the other two write
-    # nothing by themselves.
+    # The console keeps its files beside itself and is started through a launcher; the others write
+    # nothing there.
     install(PROGRAMS packaging/linux/mz6218.sh DESTINATION bin RENAME mz6218 COMPONENT system)
+    install(CODE "set(programs ${programs})" COMPONENT system)
     install(CODE [[
         set(prefix "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
         file(MAKE_DIRECTORY "${prefix}/bin")
-        foreach(program mz6218-sim mz6218-patterns)
-            file(CREATE_LINK "../lib/mz6218/bin/${program}" "${prefix}/bin/${program}" SYMBOLIC)
+        foreach(program IN LISTS programs)
+            if(NOT program STREQUAL "mz6218")
+                file(CREATE_LINK "../lib/mz6218/bin/${program}" "${prefix}/bin/${program}" SYMBOLIC)
+            endif()
         endforeach()
         # The path to the libraries of the portable layout, which means nothing here.
-        foreach(program mz6218 mz6218-sim mz6218-patterns)
+        foreach(program IN LISTS programs)
             file(RPATH_REMOVE FILE "${prefix}/lib/mz6218/bin/${program}")
         endforeach()]] COMPONENT system)
     install(FILES packaging/linux/mz6218.desktop packaging/linux/mz6218-patterns.desktop

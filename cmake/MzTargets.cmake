@@ -32,12 +32,43 @@ endif()
 # Includes are written from these two roots, so that each names the room of what it includes.
 target_include_directories(mz_flags INTERFACE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}")
 
+# Qt's headers are compiled once for each set of its modules that targets stand on. A set may define
+# nothing that its users do not define as well, or the compiler would not take it.
+foreach(module Core Widgets Charts)
+    file(WRITE "${CMAKE_BINARY_DIR}/headers/${module}.cpp" "")
+    add_library(mz_headers_${module} OBJECT "${CMAKE_BINARY_DIR}/headers/${module}.cpp")
+    target_link_libraries(mz_headers_${module} PRIVATE mz_flags Qt5::${module})
+    target_precompile_headers(mz_headers_${module} PRIVATE <Qt${module}>)
+    set_target_properties(mz_headers_${module} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endforeach()
+target_precompile_headers(mz_headers_Charts PRIVATE <QtWidgets>)
+
+# mz_precompile(NAME): lets NAME take the headers of what it links.
+function(mz_precompile name)
+    get_target_property(libraries ${name} LINK_LIBRARIES)
+    set(module Core)
+    foreach(library IN LISTS libraries)
+        set(taken "")
+        if(library MATCHES "^Qt5::(Widgets|PrintSupport|Charts)$")
+            string(REGEX REPLACE "PrintSupport" "Widgets" taken "${CMAKE_MATCH_1}")
+        elseif(TARGET ${library})
+            get_target_property(taken ${library} MZ_HEADERS)
+        endif()
+        if(taken STREQUAL Charts OR (taken STREQUAL Widgets AND module STREQUAL Core))
+            set(module ${taken})
+        endif()
+    endforeach()
+    set_target_properties(${name} PROPERTIES MZ_HEADERS ${module})
+    target_precompile_headers(${name} REUSE_FROM mz_headers_${module})
+endfunction()
+
 # mz_add_layer(NAME SOURCES ... LIBRARIES ...): the library of one folder. What it links is what its
 # sources may include; scripts/layers.py holds them to it at every build.
 function(mz_add_layer name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC ${ARG_LIBRARIES} PRIVATE mz_flags)
+    mz_precompile(${name})
     file(RELATIVE_PATH folder "${CMAKE_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
     list(TRANSFORM ARG_SOURCES PREPEND "${folder}/")
     set_property(GLOBAL APPEND_STRING PROPERTY MZ_LAYERS "${name}|${ARG_LIBRARIES}|${ARG_SOURCES}\n")
@@ -59,6 +90,7 @@ function(mz_add_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE mz_flags ${ARG_LIBRARIES})
+    mz_precompile(${name})
 endfunction()
 
 # mz_add_test(NAME SOURCES ... LIBRARIES ... [LABELS ...]): a QtTest program with a folder of its own,
@@ -67,6 +99,7 @@ function(mz_add_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE mz_flags ${ARG_LIBRARIES} mz_testsupport Qt5::Test)
+    mz_precompile(${name})
     target_compile_definitions(${name} PRIVATE MZ_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
                                                MZ_BIN_DIR="${CMAKE_BINARY_DIR}/bin")
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY
