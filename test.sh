@@ -7,9 +7,9 @@ usage() {
     cat <<'TEXT'
 usage: ./test.sh [--sanitize] [-DNAME=VALUE...]
 
-Builds all programs and tests into build/ and runs the tests. With --sanitize the same happens in
-build-sanitize/ under the address and undefined-behaviour sanitizers. Further settings go to CMake as
-they are, for example -DMZ_WERROR=ON.
+Builds all programs and tests into build/ and runs the tests, then once more in a language with a
+decimal comma. With --sanitize they run once, in build-sanitize/, under the address and
+undefined-behaviour sanitizers. Further settings go to CMake as they are, for example -DMZ_WERROR=ON.
 TEXT
 }
 
@@ -41,4 +41,17 @@ cmake --build "$folder"
 export ASAN_OPTIONS=detect_stack_use_after_return=1:check_initialization_order=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0
 export UBSAN_OPTIONS=print_stacktrace=1
-ctest --test-dir "$folder" --parallel 2 --output-on-failure </dev/null
+run_tests() {
+    ctest --test-dir "$folder" --parallel 2 --output-on-failure </dev/null
+}
+run_tests
+[[ $preset != sanitize ]] || exit 0
+
+comma=de_DE.UTF-8
+locales=$PWD/$folder/locales
+if [[ ! -d $locales/$comma ]]; then
+    mkdir -p "$locales"
+    localedef --inputfile=de_DE --charmap=UTF-8 "$locales/$comma"
+fi
+echo "Once more in $comma:"
+LOCPATH=$locales MZ_TEST_LOCALE=$comma run_tests

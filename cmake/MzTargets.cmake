@@ -109,5 +109,5 @@ function(mz_add_test name)
         set(ARG_TIMEOUT 300)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
-                         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC")
+                         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC")
 endfunction()

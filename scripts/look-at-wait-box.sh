@@ -1,6 +1,7 @@
 #!/bin/bash
 # look-at-wait-box.sh PROGRAM...: starts mz_waitbox, by itself or under Wine, on a virtual screen of its
 # own, and fails unless the red letters of the box are seen on it.
+# shellcheck disable=SC2317 # called by the trap
 set -euo pipefail
 [[ $# -gt 0 ]] || { sed -n '2,3s/^# //p' "$0" >&2 && exit 2; }
 

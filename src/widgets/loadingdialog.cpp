@@ -12,8 +12,8 @@ LoadingDialog::LoadingDialog(QWidget *parent)
     , m_movie(new QMovie(this))
 {
     m_ui->setupUi(this);
-    // Without the hint Windows makes a translucent window of this type layered, and shows nothing of
-    // it.
+    // Without the hint Windows makes a translucent window of this type layered, and shows nothing
+    // of it.
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     m_movie->setFileName(QStringLiteral(":/image/loading.gif"));

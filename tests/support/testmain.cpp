@@ -64,7 +64,9 @@ void pinEnvironment()
     if (qEnvironmentVariableIsEmpty("MZ_TEST_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TZ", "UTC");
-    qputenv("LC_ALL", "C.UTF-8");
+    // The programs show and read numbers with a point in every language.
+    const QByteArray language = qgetenv("MZ_TEST_LOCALE");
+    qputenv("LC_ALL", language.isEmpty() ? QByteArray("C.UTF-8") : language);
     qputenv("QT_FONT_DPI", "96");
     qputenv("QT_SCALE_FACTOR", "1");
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "0");
