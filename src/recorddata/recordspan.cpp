@@ -9,7 +9,7 @@ RecordSpan recordSpan(const RecordData &data, int a, int b)
     if (data.isRelative(a) == data.isRelative(b))
         span.difference = data.level(b) - data.level(a);
     span.isRelative = data.isRelative(a);
-    const auto [from, to] = std::minmax(data.time(a), data.time(b));
+    const auto [from, to] = std::minmax({data.time(a), data.time(b)});
     const std::vector<PointRange> ranges = data.between(from, to);
     for (const PointRange &range : ranges) {
         span.mixesUnits = span.mixesUnits || data.mixesUnits(range) ||

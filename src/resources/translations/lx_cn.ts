@@ -1898,6 +1898,37 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>RecordChart</name>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Level against the clock time, with cursors A and B</source>
+        <translation>电平随时钟时间变化，带光标 A 和 B</translation>
+    </message>
+    <message>
+        <source>Power [dB]</source>
+        <translation>功率 [dB]</translation>
+    </message>
+    <message>
+        <source>Power [dBm]</source>
+        <translation>功率 [dBm]</translation>
+    </message>
+    <message>
+        <source>Cursor A here</source>
+        <translation>光标 A 放在此处</translation>
+    </message>
+    <message>
+        <source>Cursor B here</source>
+        <translation>光标 B 放在此处</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>全部显示</translation>
+    </message>
+</context>
+<context>
     <name>RecordReader</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1910,6 +1941,180 @@ correction</source>
     <message>
         <source>%1 is a record of another kind than the other files.</source>
         <translation>%1 的记录类型与其他文件不同。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTables</name>
+    <message>
+        <source>Rows at the cursors</source>
+        <translation>光标处的行</translation>
+    </message>
+    <message>
+        <source>Between the cursors</source>
+        <translation>光标之间</translation>
+    </message>
+    <message>
+        <source>From A to B</source>
+        <translation>从 A 到 B</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>电平</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差值</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>none: dB and dBm are mixed</source>
+        <translation>无：dB 与 dBm 混用</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Peak to peak</source>
+        <translation>峰峰值</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>行数</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>间断</translation>
+    </message>
+</context>
+<context>
+    <name>RecordView</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Record…</source>
+        <translation>打开记录(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>添加文件(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation>保存图片(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Rows from A to B…</source>
+        <translation>保存 A 到 B 的行(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Figures</source>
+        <translation>复制数值(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation>全部显示(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Level</source>
+        <translation>电平自适应(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Go on with Files That Grow</source>
+        <translation>跟随增长的文件(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Reading the record</source>
+        <translation>正在读取记录</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Record - %1</source>
+        <translation>记录 - %1</translation>
+    </message>
+    <message>
+        <source>Record - %1 and %2 more</source>
+        <translation>记录 - %1 及另外 %2 个</translation>
+    </message>
+    <message>
+        <source>%1 rows with a level, %2 gaps</source>
+        <translation>%1 行有电平，%2 处间断</translation>
+    </message>
+    <message>
+        <source>, %1 lines not understood</source>
+        <translation>，%1 行无法识别</translation>
+    </message>
+    <message>
+        <source>Open Record</source>
+        <translation>打开记录</translation>
+    </message>
+    <message>
+        <source>Records (*.csv *.jsonl);;All files (*)</source>
+        <translation>记录 (*.csv *.jsonl);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Save Rows</source>
+        <translation>保存行</translation>
+    </message>
+    <message>
+        <source>%1 is a file of this record: choose another name.</source>
+        <translation>%1 是此记录的文件，请另选名称。</translation>
     </message>
 </context>
 <context>

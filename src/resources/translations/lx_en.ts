@@ -1898,6 +1898,37 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>RecordChart</name>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Level against the clock time, with cursors A and B</source>
+        <translation>Level against the clock time, with cursors A and B</translation>
+    </message>
+    <message>
+        <source>Power [dB]</source>
+        <translation>Power [dB]</translation>
+    </message>
+    <message>
+        <source>Power [dBm]</source>
+        <translation>Power [dBm]</translation>
+    </message>
+    <message>
+        <source>Cursor A here</source>
+        <translation>Cursor A here</translation>
+    </message>
+    <message>
+        <source>Cursor B here</source>
+        <translation>Cursor B here</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Show all</translation>
+    </message>
+</context>
+<context>
     <name>RecordReader</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1910,6 +1941,180 @@ correction</translation>
     <message>
         <source>%1 is a record of another kind than the other files.</source>
         <translation>%1 is a record of another kind than the other files.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTables</name>
+    <message>
+        <source>Rows at the cursors</source>
+        <translation>Rows at the cursors</translation>
+    </message>
+    <message>
+        <source>Between the cursors</source>
+        <translation>Between the cursors</translation>
+    </message>
+    <message>
+        <source>From A to B</source>
+        <translation>From A to B</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Difference</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>none: dB and dBm are mixed</source>
+        <translation>none: dB and dBm are mixed</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Peak to peak</source>
+        <translation>Peak to peak</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>Sigma</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rows</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Gaps</translation>
+    </message>
+</context>
+<context>
+    <name>RecordView</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Open Record…</source>
+        <translation>&amp;Open Record…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>&amp;Add Files…</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation>Save &amp;Picture…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Rows from A to B…</source>
+        <translation>&amp;Save Rows from A to B…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Figures</source>
+        <translation>&amp;Copy Figures</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation>Show &amp;All</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Zoom &amp;In</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Zoom &amp;Out</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Level</source>
+        <translation>&amp;Fit Level</translation>
+    </message>
+    <message>
+        <source>&amp;Go on with Files That Grow</source>
+        <translation>&amp;Go on with Files That Grow</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Reading the record</source>
+        <translation>Reading the record</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Record - %1</source>
+        <translation>Record - %1</translation>
+    </message>
+    <message>
+        <source>Record - %1 and %2 more</source>
+        <translation>Record - %1 and %2 more</translation>
+    </message>
+    <message>
+        <source>%1 rows with a level, %2 gaps</source>
+        <translation>%1 rows with a level, %2 gaps</translation>
+    </message>
+    <message>
+        <source>, %1 lines not understood</source>
+        <translation>, %1 lines not understood</translation>
+    </message>
+    <message>
+        <source>Open Record</source>
+        <translation>Open Record</translation>
+    </message>
+    <message>
+        <source>Records (*.csv *.jsonl);;All files (*)</source>
+        <translation>Records (*.csv *.jsonl);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Save Picture</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Pictures (*.png)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>Save Rows</source>
+        <translation>Save Rows</translation>
+    </message>
+    <message>
+        <source>%1 is a file of this record: choose another name.</source>
+        <translation>%1 is a file of this record: choose another name.</translation>
     </message>
 </context>
 <context>

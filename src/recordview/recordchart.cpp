@@ -1,0 +1,435 @@
+#include "recordview/recordchart.h"
+
+#include "recorddata/clockticks.h"
+
+#include <QChart>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QValueAxis>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace QtCharts;
+
+namespace {
+
+constexpr double zoomStep = 1.25;
+constexpr double shortestTime = 0.01;   // s
+constexpr double smallestLevels = 0.01; // dB
+constexpr double keyStep = 0.1;         // of what is shown
+constexpr double reach = 6.0;           // pixels about a cursor in which it is taken hold of
+constexpr int labelRoom = 96;           // pixels for the label of a division
+constexpr int levelRoom = 40;
+constexpr int rightMargin = 24;
+
+/// \a low and \a high with a twentieth beside them, and not too close to each other.
+void widen(double &low, double &high)
+{
+    const double margin = std::max(0.05 * (high - low), 0.1);
+    low -= margin;
+    high += margin;
+}
+
+QValueAxis *axisOf(QChart &chart, Qt::Orientation orientation)
+{
+    return qobject_cast<QValueAxis *>(chart.axes(orientation).constFirst());
+}
+
+} // namespace
+
+RecordChart::RecordChart(QWidget *parent)
+    : QGraphicsView(parent)
+    , m_stage(0, m_scene)
+{
+    setScene(&m_scene);
+    setObjectName(QStringLiteral("recordChart"));
+    m_scene.setBackgroundBrush(Qt::white);
+    m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportUpdateMode(FullViewportUpdate);
+    setRenderHint(QPainter::Antialiasing, false);
+    setFocusPolicy(Qt::StrongFocus);
+    const QFontMetrics metrics(font());
+    m_stage.chart()->setMargins(QMargins(0, 4, rightMargin, 2 * metrics.height() + 8));
+    m_xAxis = axisOf(*m_stage.chart(), Qt::Horizontal);
+    m_yAxis = axisOf(*m_stage.chart(), Qt::Vertical);
+    m_xAxis->setLabelsVisible(false);
+    m_xAxis->setTitleVisible(false);
+    for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
+        axis->setTickInterval(1e9); // before any range is known: one division at most
+        axis->setTickType(QValueAxis::TicksDynamic);
+        axis->setGridLinePen(QPen(QColor(0xe2, 0xe6, 0xea), 0.0));
+    }
+    retranslate();
+}
+
+void RecordChart::retranslate()
+{
+    setAccessibleName(tr("Record"));
+    setAccessibleDescription(tr("Level against the clock time, with cursors A and B"));
+    const bool isRelative = hasData() && m_data->isRelative(0);
+    m_stage.setYTitle(isRelative ? tr("Power [dB]") : tr("Power [dBm]"));
+    viewport()->update();
+}
+
+void RecordChart::setData(const RecordData *record, bool keepRange)
+{
+    m_data = record;
+    if (!keepRange) {
+        m_cursors = {noPoint, noPoint};
+        m_origin = hasData() ? std::floor(record->begin()) : 0.0;
+        showAll();
+    }
+    for (int &cursor : m_cursors)
+        cursor = std::min(cursor, record ? record->size() - 1 : noPoint);
+    retranslate();
+    refresh();
+    emit cursorsMoved();
+}
+
+void RecordChart::refresh()
+{
+    show(m_shown);
+}
+
+void RecordChart::showAll()
+{
+    if (!hasData())
+        return;
+    setFitsLevel(true);
+    const double margin = std::max(0.01 * (m_data->end() - m_data->begin()), 0.5);
+    show({m_data->begin() - margin, m_data->end() + margin, m_shown.yMin, m_shown.yMax});
+}
+
+void RecordChart::setFitsLevel(bool fits)
+{
+    if (fits == m_fitsLevel)
+        return;
+    m_fitsLevel = fits;
+    emit fitsLevelChanged(fits);
+    refresh();
+}
+
+void RecordChart::show(ViewRange range)
+{
+    if (range.xMax - range.xMin < shortestTime)
+        range.xMax = range.xMin + shortestTime;
+    if (range.yMax - range.yMin < smallestLevels)
+        range.yMax = range.yMin + smallestLevels;
+    const int width = std::max(1, static_cast<int>(m_stage.plotArea().width()));
+    m_curve.show(hasData() ? m_data : nullptr, range.xMin, range.xMax, width);
+    double low = 0.0;
+    double high = 0.0;
+    if (m_fitsLevel && m_curve.levels(low, high)) {
+        widen(low, high);
+        range.yMin = low;
+        range.yMax = high;
+    }
+    m_shown = range;
+    applyAxes();
+    viewport()->update();
+    emit rangeShown();
+}
+
+void RecordChart::applyAxes()
+{
+    const QRectF area = m_stage.plotArea();
+    const int most = std::max(1, static_cast<int>(area.width()) / labelRoom);
+    const AxisTicks time = ClockTicks::ofTime(m_shown.xMin, m_shown.xMax, most);
+    const AxisTicks level = ClockTicks::ofLevel(
+        m_shown.yMin, m_shown.yMax, std::max(2, static_cast<int>(area.height()) / levelRoom));
+    const ChartStage::LayoutGuard guard(m_stage);
+    const auto apply = [](QValueAxis *axis, double anchor, double interval, const auto &setRange) {
+        // With a wide step first, the axis never has to place more divisions than it will have.
+        const bool grows = interval > axis->tickInterval();
+        if (grows)
+            axis->setTickInterval(interval);
+        setRange();
+        axis->setTickAnchor(anchor);
+        if (!grows)
+            axis->setTickInterval(interval);
+    };
+    apply(m_xAxis, time.first - m_origin, time.interval,
+          [this] { m_stage.setXRange(m_shown.xMin - m_origin, m_shown.xMax - m_origin); });
+    const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(level.interval))), 0, 4);
+    const QString format = QStringLiteral("%.%1f").arg(decimals);
+    if (m_yAxis->labelFormat() != format)
+        m_yAxis->setLabelFormat(format);
+    apply(m_yAxis, level.first, level.interval,
+          [this] { m_stage.setYRange(m_shown.yMin, m_shown.yMax); });
+}
+
+QPointF RecordChart::valueAt(const QPointF &position) const
+{
+    const QRectF area = m_stage.plotArea();
+    return {
+        m_shown.xMin + (position.x() - area.left()) / area.width() * (m_shown.xMax - m_shown.xMin),
+        m_shown.yMax - (position.y() - area.top()) / area.height() * (m_shown.yMax - m_shown.yMin)};
+}
+
+// --- Zoom and pan
+
+void RecordChart::zoomTime(double centre, double factor)
+{
+    if (!hasData())
+        return;
+    // Nothing is farther out than ten times the record.
+    const double longest = 10.0 * std::max(1.0, m_data->end() - m_data->begin());
+    const double length = m_shown.xMax - m_shown.xMin;
+    const double wanted = std::clamp(length * factor, shortestTime, longest) / length;
+    show({centre + (m_shown.xMin - centre) * wanted, centre + (m_shown.xMax - centre) * wanted,
+          m_shown.yMin, m_shown.yMax});
+}
+
+void RecordChart::zoomLevel(double centre, double factor)
+{
+    setFitsLevel(false);
+    show({m_shown.xMin, m_shown.xMax, centre + (m_shown.yMin - centre) * factor,
+          centre + (m_shown.yMax - centre) * factor});
+}
+
+void RecordChart::zoomIn()
+{
+    zoomTime(0.5 * (m_shown.xMin + m_shown.xMax), 1.0 / zoomStep);
+}
+
+void RecordChart::zoomOut()
+{
+    zoomTime(0.5 * (m_shown.xMin + m_shown.xMax), zoomStep);
+}
+
+void RecordChart::pan(double times, double levels)
+{
+    const double time = times * (m_shown.xMax - m_shown.xMin);
+    const double level = levels * (m_shown.yMax - m_shown.yMin);
+    if (level < 0.0 || level > 0.0)
+        setFitsLevel(false);
+    show(m_shown.movedBy(time, level));
+}
+
+void RecordChart::wheelEvent(QWheelEvent *event)
+{
+    event->accept();
+    if (event->angleDelta().isNull())
+        return;
+    // Turning the wheel forward shows more, as in every chart of the console.
+    const double factor = event->angleDelta().y() > 0 ? zoomStep : 1.0 / zoomStep;
+    const QPointF centre = valueAt(event->position());
+    if (event->modifiers() & Qt::ControlModifier)
+        zoomLevel(centre.y(), factor);
+    else
+        zoomTime(centre.x(), factor);
+}
+
+void RecordChart::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    m_scene.setSceneRect(QRectF(QPointF(), event->size()));
+    m_stage.resize(event->size());
+    refresh();
+}
+
+// --- Cursors
+
+void RecordChart::setCursorPoint(Cursor cursor, int point)
+{
+    m_cursors[cursor] = hasData() ? std::clamp(point, 0, m_data->size() - 1) : noPoint;
+    m_active = cursor;
+    viewport()->update();
+    emit cursorsMoved();
+}
+
+void RecordChart::placeCursor(Cursor cursor, double time)
+{
+    if (hasData())
+        setCursorPoint(cursor, m_data->nearest(time));
+}
+
+/// Moves the cursor chosen last, and the view with it.
+void RecordChart::stepCursor(int points)
+{
+    if (!hasData() || m_cursors[m_active] == noPoint)
+        return;
+    setCursorPoint(m_active, m_cursors[m_active] + points);
+    const double time = m_data->time(m_cursors[m_active]);
+    if (time < m_shown.xMin)
+        show(m_shown.movedBy(time - m_shown.xMin, 0.0));
+    else if (time > m_shown.xMax)
+        show(m_shown.movedBy(time - m_shown.xMax, 0.0));
+}
+
+/// The cursor at \a position, -1 for none.
+int RecordChart::cursorAt(const QPointF &position) const
+{
+    const QRectF area = m_stage.plotArea();
+    for (const Cursor cursor : {A, B}) {
+        if (m_cursors[cursor] == noPoint)
+            continue;
+        const double share =
+            (m_data->time(m_cursors[cursor]) - m_shown.xMin) / (m_shown.xMax - m_shown.xMin);
+        if (std::abs(area.left() + share * area.width() - position.x()) <= reach)
+            return cursor;
+    }
+    return noPoint;
+}
+
+void RecordChart::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !hasData())
+        return;
+    m_pressed = event->localPos();
+    m_pressedRange = m_shown;
+    const int cursor = cursorAt(m_pressed);
+    m_drag = cursor == noPoint ? Drag::Undecided : Drag::Cursor;
+    if (cursor != noPoint)
+        m_active = static_cast<Cursor>(cursor);
+}
+
+void RecordChart::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointF way = event->localPos() - m_pressed;
+    if (m_drag == Drag::None) {
+        const bool onCursor = hasData() && cursorAt(event->localPos()) != noPoint;
+        viewport()->setCursor(onCursor ? Qt::SplitHCursor : Qt::ArrowCursor);
+    } else if (m_drag == Drag::Cursor) {
+        placeCursor(m_active, valueAt(event->localPos()).x());
+    } else if (m_drag == Drag::Pan || way.manhattanLength() > reach) {
+        m_drag = Drag::Pan;
+        viewport()->setCursor(Qt::ClosedHandCursor);
+        const QRectF area = m_stage.plotArea();
+        const ViewRange &from = m_pressedRange;
+        show(from.movedBy(-way.x() / area.width() * (from.xMax - from.xMin),
+                          m_fitsLevel ? 0.0 : way.y() / area.height() * (from.yMax - from.yMin)));
+    }
+}
+
+void RecordChart::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (m_drag == Drag::Undecided)
+        placeCursor(event->modifiers() & Qt::ShiftModifier ? B : A, valueAt(m_pressed).x());
+    m_drag = Drag::None;
+    viewport()->setCursor(Qt::ArrowCursor);
+}
+
+void RecordChart::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!hasData())
+        return;
+    const double time = valueAt(event->pos()).x();
+    QMenu menu(this);
+    menu.addAction(tr("Cursor A here"), this, [this, time] { placeCursor(A, time); });
+    menu.addAction(tr("Cursor B here"), this, [this, time] { placeCursor(B, time); });
+    menu.addSeparator();
+    menu.addAction(tr("Show all"), this, &RecordChart::showAll);
+    menu.exec(event->globalPos());
+}
+
+void RecordChart::keyPressEvent(QKeyEvent *event)
+{
+    const bool control = event->modifiers() & Qt::ControlModifier;
+    const int step = event->modifiers() & Qt::ShiftModifier ? 100 : 1;
+    const QPointF centre(0.5 * (m_shown.xMin + m_shown.xMax), 0.5 * (m_shown.yMin + m_shown.yMax));
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return control ? stepCursor(-step) : pan(-keyStep, 0.0);
+    case Qt::Key_Right:
+        return control ? stepCursor(step) : pan(keyStep, 0.0);
+    case Qt::Key_PageUp:
+        return pan(-1.0, 0.0);
+    case Qt::Key_PageDown:
+        return pan(1.0, 0.0);
+    case Qt::Key_Up:
+        return pan(0.0, keyStep);
+    case Qt::Key_Down:
+        return pan(0.0, -keyStep);
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return control ? zoomLevel(centre.y(), 1.0 / zoomStep) : zoomIn();
+    case Qt::Key_Minus:
+        return control ? zoomLevel(centre.y(), zoomStep) : zoomOut();
+    case Qt::Key_Home:
+        return showAll();
+    case Qt::Key_A:
+        return placeCursor(A, centre.x());
+    case Qt::Key_B:
+        return placeCursor(B, centre.x());
+    default:
+        QGraphicsView::keyPressEvent(event);
+    }
+}
+
+// --- Drawing
+
+void RecordChart::drawForeground(QPainter *painter, const QRectF &rect)
+{
+    Q_UNUSED(rect)
+    const ChartMapping mapping = m_stage.mapping();
+    if (!mapping.isUsable() || !hasData())
+        return;
+    m_curve.draw(*painter, mapping, m_origin);
+    painter->save();
+    drawClock(*painter, mapping);
+    for (const Cursor cursor : {A, B})
+        drawCursor(*painter, mapping, cursor);
+    painter->restore();
+}
+
+/// The clock times below the axis, and the day of its begin below them.
+void RecordChart::drawClock(QPainter &painter, const ChartMapping &mapping) const
+{
+    constexpr double gap = 4.0;
+    const QRectF area = mapping.plotArea;
+    const QFontMetricsF metrics(painter.font());
+    const AxisTicks ticks =
+        ClockTicks::ofTime(m_shown.xMin, m_shown.xMax, std::max(1, int(area.width()) / labelRoom));
+    painter.setPen(Qt::black);
+    for (double time = ticks.first; time <= m_shown.xMax; time += ticks.interval) {
+        if (time < m_shown.xMin)
+            continue;
+        const double x = mapping.toScene(QPointF(time - m_origin, 0.0)).x();
+        const QString label = ClockTicks::label(time, ticks.interval);
+        painter.drawText(QPointF(x - 0.5 * metrics.horizontalAdvance(label),
+                                 area.bottom() + gap + metrics.ascent()),
+                         label);
+    }
+    const QString from = ClockTicks::text(m_shown.xMin).left(19);
+    const QString to = ClockTicks::text(m_shown.xMax).left(19);
+    const double line = area.bottom() + gap + metrics.height() + metrics.ascent();
+    painter.setPen(QColor(0x46, 0x53, 0x5f));
+    painter.drawText(QPointF(area.left(), line), from);
+    painter.drawText(QPointF(area.right() - metrics.horizontalAdvance(to), line), to);
+}
+
+void RecordChart::drawCursor(QPainter &painter, const ChartMapping &mapping, Cursor cursor) const
+{
+    const int point = m_cursors[cursor];
+    if (point == noPoint)
+        return;
+    const QRectF area = mapping.plotArea;
+    const QPointF place = mapping.toScene({m_data->time(point) - m_origin, m_data->level(point)});
+    if (place.x() < area.left() || place.x() > area.right())
+        return;
+    const QColor color = cursor == A ? QColor(0xc2, 0x3b, 0x22) : QColor(0x2e, 0x7d, 0x32);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.0, cursor == A ? Qt::SolidLine : Qt::DashLine));
+    painter.drawLine(QPointF(place.x(), area.top()), QPointF(place.x(), area.bottom()));
+    painter.setPen(QPen(color, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    if (area.contains(place))
+        painter.drawEllipse(place, 4.0, 4.0);
+    const QFontMetricsF metrics(painter.font());
+    const QString name = cursor == A ? QStringLiteral("A") : QStringLiteral("B");
+    // The two flags stand on either side, so that both can be read on neighbouring points.
+    const double width = metrics.horizontalAdvance(name) + 8.0;
+    const QRectF flag(cursor == A ? place.x() - width : place.x(), area.top(), width,
+                      metrics.height());
+    painter.fillRect(flag, color);
+    painter.setPen(Qt::white);
+    painter.drawText(flag, Qt::AlignCenter, name);
+}

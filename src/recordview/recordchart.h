@@ -1,0 +1,92 @@
+#pragma once
+
+#include "2d/scene/chartstage.h"
+#include "recordview/recordcurve.h"
+
+#include <QGraphicsScene>
+#include <QGraphicsView>
+
+#include <array>
+
+/// Shows a record: level against clock time, with two cursors that stand on points.
+///
+/// The wheel zooms the time about the pointer, with Ctrl the level; dragging pans, or moves the
+/// cursor that it began on. A click puts cursor A on the nearest point, with Shift cursor B.
+class RecordChart : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    enum Cursor { A, B };
+    static constexpr int noPoint = -1;
+
+    explicit RecordChart(QWidget *parent = nullptr);
+
+    /// Shows \a record, which must live until another is set; null for none. The range shown stays
+    /// if \a keepRange, else all is shown and the cursors go.
+    void setData(const RecordData *record, bool keepRange);
+    /// Draws again what has been added to the data.
+    void refresh();
+
+    /// The point that a cursor stands on.
+    int cursor(Cursor cursor) const { return m_cursors[cursor]; }
+    void setCursorPoint(Cursor cursor, int point);
+
+    /// Times in x, levels in y.
+    ViewRange shownRange() const { return m_shown; }
+    bool fitsLevel() const { return m_fitsLevel; }
+    void retranslate();
+
+public slots:
+    void showAll();
+    void zoomIn();
+    void zoomOut();
+    /// Whether the level axis follows what is shown.
+    void setFitsLevel(bool fits);
+
+signals:
+    void cursorsMoved();
+    void rangeShown();
+    void fitsLevelChanged(bool fits);
+
+protected:
+    void drawForeground(QPainter *painter, const QRectF &rect) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    bool hasData() const { return m_data && !m_data->isEmpty(); }
+    void show(ViewRange range);
+    void applyAxes();
+    void zoomTime(double centre, double factor);
+    void zoomLevel(double centre, double factor);
+    void pan(double times, double levels);
+    void stepCursor(int points);
+    void placeCursor(Cursor cursor, double time);
+    int cursorAt(const QPointF &position) const;
+    QPointF valueAt(const QPointF &position) const;
+    void drawClock(QPainter &painter, const ChartMapping &mapping) const;
+    void drawCursor(QPainter &painter, const ChartMapping &mapping, Cursor cursor) const;
+
+    QGraphicsScene m_scene;
+    ChartStage m_stage;
+    QtCharts::QValueAxis *m_xAxis;
+    QtCharts::QValueAxis *m_yAxis;
+    RecordCurve m_curve;
+    const RecordData *m_data = nullptr;
+    ViewRange m_shown{0.0, 1.0, -100.0, 0.0};
+    double m_origin = 0.0; ///< where the axis begins to count: small numbers stay exact
+    bool m_fitsLevel = true;
+    std::array<int, 2> m_cursors{noPoint, noPoint};
+    Cursor m_active = A;
+
+    enum class Drag { None, Undecided, Pan, Cursor };
+    Drag m_drag = Drag::None;
+    QPointF m_pressed;
+    ViewRange m_pressedRange;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "2d/data/chartmapping.h"
+#include "recorddata/recorddata.h"
+
+class QPainter;
+
+/// Draws the part of a record that a chart shows, from the columns that share a pixel.
+class RecordCurve
+{
+public:
+    /// Chooses what is drawn: the time \a from to \a to, \a width pixels wide. A null record is
+    /// none.
+    void show(const RecordData *data, double from, double to, int width);
+
+    /// The lowest and the highest level of it; false when there is none.
+    bool levels(double &low, double &high) const;
+
+    /// Draws it; the x axis of \a mapping counts seconds from \a origin.
+    void draw(QPainter &painter, const ChartMapping &mapping, double origin) const;
+
+private:
+    void drawBars(QPainter &painter, const ChartMapping &mapping, double origin) const;
+    void drawLines(QPainter &painter, const ChartMapping &mapping, double origin) const;
+
+    const RecordData *m_data = nullptr;
+    std::vector<RecordData::Column> m_columns;
+    int m_width = 1;
+};
