@@ -43,6 +43,9 @@ struct MeterReading
     Reading reading; ///< valid exactly where `outcome` is `Ok`
     Outcome outcome = Outcome::Ok;
     Moment at;
+    /// Whether the instrument showed a level in dB relative to its reference, which is then the
+    /// level of the reading.
+    bool isRelative = false;
 };
 
 /// How a setting, zeroing or calibration ended.

@@ -235,16 +235,20 @@ void MeterWorker::describe()
 void MeterWorker::read()
 {
     Reading value = Reading::missing();
+    bool isRelative = false;
     const auto connection =
-        connect(&m_link, &SerialLogic::updatePower, this,
-                [&value](double level, const QString &text) { value = Reading::of(level, text); });
+        connect(&m_link, &SerialLogic::updatePower, this, [&](double level, const QString &text) {
+            const auto relative = ReplyParser::relativeLevel(text);
+            isRelative = relative.has_value();
+            value = Reading::of(relative.value_or(level), text);
+        });
     const MeterAnswer answer = ask([this] { m_link.readMesureData(); });
     disconnect(connection);
     if (answer.outcome != Outcome::Ok)
         value = Reading::missing(value.text);
     const bool wasOpen = m_isLinkOpen;
     if (wasOpen || m_pollPause < 0)
-        emit reading({value, answer.outcome, momentNow()});
+        emit reading({value, answer.outcome, momentNow(), isRelative});
     const bool isToBeDescribed = m_keepsOpen && answer.outcome == Outcome::Timeout;
     settle(answer.outcome);
     if (isToBeDescribed && m_isLinkOpen)

@@ -8,7 +8,7 @@ set -euo pipefail
 
 declare -A sets=(
     # The fonts are those of the manual.
-    [build]="cmake g++ make ninja-build python3 qtbase5-dev libqt5charts5-dev libqt5serialport5-dev
+    [build]="cmake g++ make ninja-build python3 libcli11-dev qtbase5-dev libqt5charts5-dev libqt5serialport5-dev
              qttools5-dev qttools5-dev-tools fonts-dejavu-core fonts-wqy-microhei"
     # Qt's own texts in Chinese, and fonts for both languages.
     [run]="qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"

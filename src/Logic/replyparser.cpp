@@ -141,6 +141,11 @@ Power power(const QString &line)
     return {level.value_or(Power().dbm), fields.last()};
 }
 
+std::optional<double> relativeLevel(const QString &text)
+{
+    return text.endsWith(QLatin1String("dB")) ? number(text.chopped(2)) : std::nullopt;
+}
+
 TaskResult taskResult(const QString &line)
 {
     // In this order: the first that is found decides about a line that holds several.

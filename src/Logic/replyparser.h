@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 /// Reads values out of the instrument's reply lines.
 ///
 /// The values are never refused: a reply without its prefix is converted as it stands, and what
@@ -59,6 +61,10 @@ int averageCount(const QString &line);
 /// is no reading and leaves no text. One whose first field is no finite number ("OVERLOAD", "nan",
 /// nothing) is no reading either, but its text stays.
 Power power(const QString &line);
+
+/// The level of a display text in "dB", which the instrument shows while the relative measurement
+/// is on; nothing for any other text.
+std::optional<double> relativeLevel(const QString &text);
 
 /// Which task \a line reports on; the text that tells may stand anywhere in it.
 TaskResult taskResult(const QString &line);

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "measure/powerstatistics.h"
+#include "meter/metervalues.h"
+#include "recorder/row.h"
+
+/// What has come in one interval.
+class Tally
+{
+public:
+    void add(const MeterReading &reading);
+    /// The wall clock stepped.
+    void noteStep() { m_hasStep = true; }
+
+    bool isEmpty() const { return m_statistics.count() + m_invalid == 0; }
+    /// Puts everything into \a row but its times and settings. \a idle is the reason of an interval
+    /// in which no reading came to an end.
+    void fill(Row &row, const QString &idle) const;
+
+private:
+    PowerStatistics m_statistics;
+    std::optional<double> m_last;
+    int m_invalid = 0;
+    std::optional<Outcome> m_spoiled; // the first that was not `Ok`
+    bool m_hasStep = false;
+};
