@@ -32,7 +32,7 @@ void checkPoints(const QVector<QPointF> &points)
 
 void checkRoundTrip(const Cut &cut)
 {
-    const MsiFormat::Written written =
+    const Written written =
         MsiFormat::write({cut.name, cut.frequency, cut.details, cut.points, cut.points});
     require(written.problem.isEmpty() != Circle::gapIn(cut.points).has_value());
     const auto sensible = [](const QPointF &point) { return std::abs(point.y()) < 1e6; };

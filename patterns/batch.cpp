@@ -4,7 +4,7 @@
 #include "2d/data/curvetext.h"
 #include "patterns/figuretable.h"
 #include "patterns/filenames.h"
-#include "patterns/formats/msiformat.h"
+#include "patterns/formats/patternfile.h"
 #include "storage/filewriting.h"
 
 #include <QCoreApplication>
@@ -92,17 +92,24 @@ const ReadCurve *curveNamed(const QVector<ReadCurve> &curves, const QString &nam
     return nullptr;
 }
 
+PatternFormats::Cut cutOf(const ReadCurve &curve)
+{
+    PatternFormats::Cut cut;
+    cut.name = curve.name;
+    cut.frequency = curve.frequency;
+    cut.points = curve.points;
+    cut.details = curve.details;
+    return cut;
+}
+
 bool exportMsi(const QVector<ReadCurve> &curves, const BatchTask &task, QTextStream &messages)
 {
     const ReadCurve *horizontal = curveNamed(curves, task.horizontal, messages);
     const ReadCurve *vertical = curveNamed(curves, task.vertical, messages);
     if (horizontal == nullptr || vertical == nullptr)
         return false;
-    const QString frequency =
-        horizontal->frequency.isEmpty() ? vertical->frequency : horizontal->frequency;
-    const MsiFormat::Written msi =
-        MsiFormat::write({MsiFormat::commonName(horizontal->name, vertical->name), frequency,
-                          horizontal->details, horizontal->points, vertical->points});
+    const PatternFormats::Written msi =
+        PatternFormats::write(PatternFormats::Format::Msi, cutOf(*horizontal), cutOf(*vertical));
     if (msi.problem.isEmpty())
         return Batch::write(task.output, msi.bytes, messages);
     messages << QStringLiteral("%1: %2").arg(task.output, msi.problem) << '\n';

@@ -70,7 +70,8 @@ CurveFileReader::Step CurveFileReader::readOne(const QString &file,
                      curve.name,
                      curve.points,
                      {},
-                     {}});
+                     {},
+                     false});
     remark(shown, checkCurveRows(bytes), curve.points.isEmpty());
     return Step::Go;
 }
@@ -133,7 +134,7 @@ void CurveFileReader::readPattern(const QString &file, const QString &shown,
         if (!points.isEmpty())
             m_curves.append({QFileInfo(file).absoluteFilePath(), file, cut.title,
                              cut.name + PatternFormats::suffixOf(choice->component), points,
-                             cut.frequency, cut.details});
+                             cut.frequency, cut.details, true});
     }
     for (const QString &remark : pattern.remarks)
         m_remarks.append(QStringLiteral("%1: %2").arg(shown, remark));

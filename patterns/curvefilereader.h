@@ -22,6 +22,7 @@ struct ReadCurve
     QVector<QPointF> points;
     QString frequency;               ///< MHz as text; empty: the file does not tell
     PatternFormats::Details details; ///< what else a pattern file tells
+    bool isCut = false;              ///< one of the cuts of a pattern file, whose name nobody chose
 };
 
 /// Which of a pattern file's cuts are wanted, and of what field.

@@ -2,6 +2,7 @@
 
 #include "2d/form/listchart.h"
 #include "patterns/curvefilereader.h"
+#include "patterns/cutdialog.h"
 
 #include <QFileInfo>
 #include <QProgressDialog>
@@ -27,6 +28,11 @@ CurveImport importCurves(ListChart &form, const QStringList &files, int patience
     progress.setRange(0, 1000);
     progress.setMinimumDuration(patience);
 
+    reader.setChooser([&](const QString &file, const PatternFormats::PatternFile &pattern) {
+        progress.reset();
+        return CutDialog::ask(&form, QFileInfo(file).fileName(), pattern);
+    });
+
     CurveImport result;
     result.cancelled = !reader.read(files, [&progress](const QString &file, int perMille) {
         progress.setLabelText(CurveFileReader::tr("Reading %1...").arg(QFileInfo(file).fileName()));
@@ -39,7 +45,9 @@ CurveImport importCurves(ListChart &form, const QStringList &files, int patience
     result.remarks = reader.remarks();
     const QVector<ReadCurve> &curves = reader.curves();
     for (const ReadCurve &curve : curves) {
-        if (form.addCurve(curve.name, curve.points, recordOf(curve)) != 0)
+        // Nobody is asked for the names of cuts, of which a file may hold many alike.
+        const QString name = curve.isCut ? form.curves().freeName(curve.name) : curve.name;
+        if (form.addCurve(name, curve.points, recordOf(curve)) != 0)
             result.opened.append(curve.file);
     }
     return result;

@@ -66,9 +66,9 @@ void OpenActions::openFiles(const QStringList &files)
 
 void OpenActions::ask()
 {
-    openFiles(QFileDialog::getOpenFileNames(m_desk.dialogParent(), tr("Open Curves"),
-                                            m_desk.context().folder(),
-                                            tr("Curve files (*.csv);;All files (*)")));
+    openFiles(QFileDialog::getOpenFileNames(
+        m_desk.dialogParent(), tr("Open Curves"), m_desk.context().folder(),
+        tr("Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)")));
 }
 
 void OpenActions::openSamples()

@@ -59,12 +59,14 @@ QString descriptions(const Report &report)
 {
     QString rows = headings({Text::tr("Curve"), Text::tr("Frequency (MHz)"), Text::tr("Material"),
                              Text::tr("Points"), Text::tr("Angles"), Text::tr("Loss correction"),
-                             Text::tr("File")});
+                             Text::tr("File"), Text::tr("Notes")});
     for (const ReportCurve &curve : report.curves) {
-        rows += QStringLiteral("<tr>%1%2</tr>\n")
+        const QString notes = curve.notes.join(QLatin1Char('\n')).toHtmlEscaped();
+        rows += QStringLiteral("<tr>%1%2%3</tr>\n")
                     .arg(nameCell(curve),
                          cells({curve.frequency, curve.material, QString::number(curve.points),
-                                angles(curve), curve.correction, curve.file}));
+                                angles(curve), curve.correction, curve.file}),
+                         cell(QString(notes).replace(QLatin1Char('\n'), QStringLiteral("<br>"))));
     }
     return table(rows);
 }

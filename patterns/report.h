@@ -17,6 +17,7 @@ struct ReportCurve
     int points = 0;
     double firstAngle = 0.0;   ///< degrees
     double lastAngle = 0.0;    ///< degrees
+    QStringList notes;         ///< what else is known, a sentence each
     QString correction;        ///< what was added to its levels; empty for a curve as measured
     QStringList figures;       ///< cells under Report::figureHeadings; empty: no points
     QStringList supplementary; ///< cells under Report::supplementaryHeadings

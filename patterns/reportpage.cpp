@@ -35,6 +35,7 @@ ReportCurve reportCurve(const ListChart &form, int id)
     curve.frequency = record.frequency;
     curve.material = record.material;
     curve.correction = record.correction;
+    curve.notes = record.notes;
     curve.points = points.size();
     const auto ends =
         std::minmax_element(points.begin(), points.end(),

@@ -5,7 +5,10 @@
 #include "patterns/chartpicture.h"
 #include "patterns/curvedesk.h"
 #include "patterns/curvehistory.h"
+#include "patterns/exportdialog.h"
 #include "patterns/filenames.h"
+#include "patterns/formats/msiformat.h"
+#include "patterns/formats/patternfile.h"
 #include "patterns/reportpage.h"
 #include "patterns/savequestion.h"
 #include "patterns/windowcontext.h"
@@ -38,6 +41,7 @@ SaveActions::SaveActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
             [this] { saveAll(m_desk.curves().ids()); });
     connect(m_ui.actionSavePicture, &QAction::triggered, this, &SaveActions::askPicture);
     connect(m_ui.actionSaveReport, &QAction::triggered, this, &SaveActions::askReport);
+    connect(m_ui.actionExportPattern, &QAction::triggered, this, &SaveActions::askPattern);
     connect(m_ui.actionPrint, &QAction::triggered, this, &SaveActions::print);
 }
 
@@ -45,7 +49,7 @@ void SaveActions::update()
 {
     const bool any = !m_desk.curves().ids().isEmpty();
     for (QAction *action : {m_ui.actionSaveAllCurves, m_ui.actionSavePicture, m_ui.actionSaveReport,
-                            m_ui.actionPrint})
+                            m_ui.actionExportPattern, m_ui.actionPrint})
         action->setEnabled(any);
     m_ui.actionSaveCurve->setEnabled(m_desk.curves().selected() != 0);
 }
@@ -84,6 +88,54 @@ void SaveActions::askReport()
                               {tr("PDF report"), {QStringLiteral("pdf")}}});
     if (!file.isEmpty())
         saveReport(file);
+}
+
+void SaveActions::askPattern()
+{
+    using PatternFormats::Format;
+    const std::optional<PatternChoice> choice =
+        ExportDialog::ask(m_desk.dialogParent(), m_desk.curves());
+    if (!choice)
+        return;
+    const CurveSet &curves = m_desk.curves();
+    const QString horizontal = curves.name(choice->horizontal);
+    const QString vertical = curves.name(choice->vertical);
+    const QString name =
+        horizontal.isEmpty() ? vertical : MsiFormat::commonName(horizontal, vertical);
+    QVector<SaveFormat> formats{
+        {tr("MSI pattern"), {QStringLiteral("msi"), QStringLiteral("pln")}}};
+    if (choice->format == Format::Nsma)
+        formats = {{tr("NSMA pattern"), {QStringLiteral("adf")}}};
+    else if (choice->format == Format::Nec)
+        formats = {{tr("NEC2 listing"), {QStringLiteral("out")}}};
+    const QString file = ask(tr("Export Pattern"), fileNameFrom(name, tr("pattern")), formats);
+    if (!file.isEmpty())
+        savePattern(*choice, file);
+}
+
+bool SaveActions::savePattern(const PatternChoice &choice, const QString &file)
+{
+    const auto cut = [this](int id,
+                            PatternFormats::Plane plane) -> std::optional<PatternFormats::Cut> {
+        if (id == 0)
+            return std::nullopt;
+        const CurveSet &curves = m_desk.curves();
+        PatternFormats::Cut made;
+        made.title = curves.name(id);
+        made.name = made.title;
+        made.frequency = curves.record(id).frequency;
+        made.points = curves.points(id);
+        made.plane = plane;
+        return made;
+    };
+    const PatternFormats::Written written = PatternFormats::write(
+        choice.format, cut(choice.horizontal, PatternFormats::Plane::Horizontal),
+        cut(choice.vertical, PatternFormats::Plane::Vertical));
+    if (!written.problem.isEmpty()) {
+        m_desk.warn(tr("The pattern cannot be written:"), {written.problem});
+        return false;
+    }
+    return m_desk.save(file, written.bytes);
 }
 
 void SaveActions::print()

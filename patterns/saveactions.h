@@ -4,6 +4,7 @@
 #include <QString>
 
 class CurveDesk;
+struct PatternChoice;
 
 namespace Ui {
 class PatternWindow;
@@ -25,6 +26,8 @@ public:
     bool savePicture(const QString &file);
     /// HTML, or PDF for a file of that suffix.
     bool saveReport(const QString &file);
+    /// Writes \a choice as a pattern file; says what keeps the curves from it.
+    bool savePattern(const PatternChoice &choice, const QString &file);
 
     /// Asks what is to become of curves that only this window holds. Returns false when the window
     /// is to stay.
@@ -38,6 +41,7 @@ private:
     void askCurve();
     void askPicture();
     void askReport();
+    void askPattern();
     void print();
     bool saveAll(const QList<int> &ids);
     bool saveOne(int id, const QString &file);

@@ -27,6 +27,9 @@ enum class Component { Total, Vertical, Horizontal };
 /// What the name of a curve of \a component ends with; empty for the total field.
 QString suffixOf(Component component);
 
+/// Through which plane a cut goes, as far as its file tells.
+enum class Plane { Other, Horizontal, Vertical };
+
 /// A fact about an antenna, under the key that the file gives it.
 struct Detail
 {
@@ -46,6 +49,7 @@ struct Cut
     QVector<QPointF> vertical;   ///< of the vertical field alone; empty: the file does not tell
     QVector<QPointF> horizontal; ///< of the horizontal field alone
     Details details;
+    Plane plane = Plane::Other;
     bool principal = true; ///< is imported unless the user wishes otherwise
 
     const QVector<QPointF> &of(Component component) const;
@@ -72,6 +76,13 @@ struct PatternFile
     /// Whether the user has a choice of cuts or of components.
     bool offersChoice() const;
     bool hasComponents() const;
+};
+
+/// A file as it is to be written, or what keeps it from being written.
+struct Written
+{
+    QByteArray bytes;
+    QString problem; ///< empty: written
 };
 
 /// The value of the first of \a details under one of \a keys, empty without one.

@@ -263,6 +263,7 @@ void Reader::addCut(const Section &section, const QString &letter)
                                  .arg(section.negative));
     Cut cut;
     cut.title = m_name;
+    cut.plane = letter == QStringLiteral("H") ? Plane::Horizontal : Plane::Vertical;
     cut.name = m_name + QLatin1Char(' ') + letter;
     cut.frequency = m_frequency;
     cut.details = m_details;

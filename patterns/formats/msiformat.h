@@ -23,17 +23,10 @@ struct Pattern
     QVector<QPointF> vertical;
 };
 
-/// A file, or what keeps it from being written.
-struct Written
-{
-    QByteArray bytes;
-    QString problem; ///< empty: written
-};
-
 /// Writes both cuts resampled to whole degrees 0 to 359, linearly in dB, below the greater of both
 /// peaks. Reading it back gives the same levels within 0.0005 dB. Refuses cuts that do not go
 /// round.
-Written write(const Pattern &pattern);
+PatternFormats::Written write(const Pattern &pattern);
 
 /// The name for a file of two curves: what "NAME H" and "NAME V" share, else \a horizontal.
 QString commonName(const QString &horizontal, const QString &vertical);

@@ -266,6 +266,10 @@ void Reader::addCuts(const Block &block, const QString &title, bool severalFrequ
         if (severalFrequencies && !block.frequency.isEmpty())
             cut.name += QStringLiteral(" %1 MHz").arg(block.frequency);
         cut.frequency = block.frequency;
+        if (!overTheta && angle == 90.0)
+            cut.plane = Plane::Horizontal;
+        else if (overTheta)
+            cut.plane = Plane::Vertical;
         cut.points = asCut(cut.points);
         cut.vertical = asCut(cut.vertical);
         cut.horizontal = asCut(cut.horizontal);
@@ -324,8 +328,10 @@ QByteArray write(const QVector<Cut> &cuts)
                 " DEGREES   DEGREES        DB       DB       DB\n";
         for (const QPointF &point : cut.points) {
             const QByteArray level = CurveText::number(point.y()).toUtf8();
-            text += ' ' + CurveText::number(point.x()).toUtf8() + " 0.00 -999.99 -999.99 " + level +
-                    '\n';
+            const QByteArray angle = CurveText::number(point.x()).toUtf8();
+            const bool overPhi = cut.plane == Plane::Horizontal;
+            text += (overPhi ? " 90.00 " + angle : ' ' + angle + " 0.00") + " -999.99 -999.99 " +
+                    level + '\n';
         }
     }
     return text + "\n   TOTAL RUN TIME: 0 msec\n";

@@ -13,7 +13,8 @@ bool matches(const QByteArray &text);
 /// of phi 0, phi 90 and theta 90 are principal. \a title heads the cuts' names.
 PatternFormats::PatternFile read(const QByteArray &text, const QString &title);
 
-/// A listing of one block a cut, each a cut over theta at phi 0.
+/// A listing of one block a cut: a horizontal cut over phi at theta 90, any other over theta at phi
+/// 0.
 QByteArray write(const QVector<PatternFormats::Cut> &cuts);
 
 } // namespace NecFormat

@@ -253,6 +253,9 @@ void Reader::addCut(const RawCut &raw, const QString &fileName)
     if (model.isEmpty())
         model = fileName;
     cut.title = model;
+    cut.plane = raw.kind == QStringLiteral("AZ") || raw.kind == QStringLiteral("H")
+                    ? Plane::Horizontal
+                    : Plane::Vertical;
     cut.name = QStringLiteral("%1 %2 %3").arg(model, raw.kind, raw.polarisation).simplified();
     cut.frequency = raw.frequency;
     cut.details = m_details;
@@ -298,7 +301,7 @@ QByteArray headOf(const QVector<Cut> &cuts, int frequencies)
     QByteArray text = keyLine("REVNUM", QStringLiteral("NSMA WG16.99.050"));
     text += keyLine("REVDAT", QStringLiteral("19990520"));
     text += keyLine("ANTMAN", known({QStringLiteral("ANTMAN"), QStringLiteral("MAKE")}, {}));
-    text += keyLine("MODNUM", known({QStringLiteral("MODNUM")}, cuts.first().name));
+    text += keyLine("MODNUM", known({QStringLiteral("MODNUM")}, cuts.first().title));
     text += keyLine("DESCR1", known({QStringLiteral("DESCR1"), QStringLiteral("COMMENT")}, {}));
     text += keyLine("GUNITS", QStringLiteral("DBI/DBI"));
     text += keyLine("MDGAIN", CurveText::number(gain));
@@ -306,22 +309,12 @@ QByteArray headOf(const QVector<Cut> &cuts, int frequencies)
     return text + keyLine("NOFREQ", QString::number(frequencies));
 }
 
-/// The kind of a cut that came from such a file, or whose name ends like an imported one's.
-QString kindOf(const Cut &cut)
-{
-    const QStringList words = cut.name.split(QLatin1Char(' '));
-    for (const QString &kind : {QStringLiteral("EL"), QStringLiteral("H"), QStringLiteral("V")}) {
-        if (words.contains(kind))
-            return kind;
-    }
-    return QStringLiteral("AZ");
-}
-
 QByteArray section(const Cut &cut)
 {
+    const bool vertical = cut.plane == Plane::Vertical;
     const QString polarisation =
         detail(cut.details, {QStringLiteral("POLARI"), QStringLiteral("POLARIZATION")});
-    QByteArray text = keyLine("PATCUT", kindOf(cut));
+    QByteArray text = keyLine("PATCUT", vertical ? QStringLiteral("EL") : QStringLiteral("AZ"));
     text += keyLine("POLARI", polarisation.isEmpty() ? QStringLiteral("V/V") : polarisation);
     text += keyLine("NUPOIN", QString::number(cut.points.size()));
     text += keyLine("FSTLST", CurveText::number(cut.points.first().x()) + QLatin1Char(',') +

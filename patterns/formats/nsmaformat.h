@@ -12,7 +12,8 @@ bool matches(const QByteArray &text);
 /// Reads \a text (UTF-8); \a fileName stands in for a missing MODNUM.
 PatternFormats::PatternFile read(const QByteArray &text, const QString &fileName);
 
-/// A file of \a cuts, their levels in dBi, grouped by frequency.
+/// A file of \a cuts, their levels in dBi, grouped by frequency; a vertical cut is one of
+/// elevation, any other of azimuth. Empty without points.
 QByteArray write(const QVector<PatternFormats::Cut> &cuts);
 
 } // namespace NsmaFormat

@@ -5,6 +5,17 @@
 #include "patterns/formats/nsmaformat.h"
 #include "patterns/formats/textfields.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PatternFormats)
+};
+
+} // namespace
+
 namespace PatternFormats {
 
 Format recognise(const QByteArray &bytes)
@@ -33,6 +44,28 @@ PatternFile read(const QByteArray &bytes, const QString &fileName)
     default:
         return {};
     }
+}
+
+Written write(Format format, const std::optional<Cut> &horizontal,
+              const std::optional<Cut> &vertical)
+{
+    QVector<Cut> cuts;
+    for (const std::optional<Cut> &cut : {horizontal, vertical}) {
+        if (cut && !cut->points.isEmpty())
+            cuts.append(*cut);
+    }
+    if (cuts.isEmpty())
+        return {{}, Text::tr("There is no curve to write.")};
+    if (format == Format::Nsma)
+        return {NsmaFormat::write(cuts), {}};
+    if (format == Format::Nec)
+        return {NecFormat::write(cuts), {}};
+    if (cuts.size() < 2)
+        return {{}, Text::tr("An MSI file needs a horizontal and a vertical curve.")};
+    const QString &frequency = cuts.first().frequency;
+    return MsiFormat::write({MsiFormat::commonName(cuts.first().name, cuts.last().name),
+                             frequency.isEmpty() ? cuts.last().frequency : frequency,
+                             cuts.first().details, cuts.first().points, cuts.last().points});
 }
 
 } // namespace PatternFormats

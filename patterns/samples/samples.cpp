@@ -49,8 +49,8 @@ QVector<PatternFormats::Cut> panelCuts(double down)
         elevation.points.append(
             {double(degree), std::max(behind, dB(element * array, panelDirectivity))});
     }
-    azimuth.name = QStringLiteral("Panel 1800 AZ V/V");
-    elevation.name = QStringLiteral("Panel 1800 EL V/V");
+    azimuth.plane = PatternFormats::Plane::Horizontal;
+    elevation.plane = PatternFormats::Plane::Vertical;
     for (PatternFormats::Cut *cut : {&azimuth, &elevation}) {
         cut->frequency = QStringLiteral("1800");
         cut->details = {{QStringLiteral("MODNUM"), QStringLiteral("Panel 1800")},

@@ -227,8 +227,7 @@ private slots:
     {
         QFETCH(const QVector<QPointF>, cut);
         const auto lowered = cosines(1, -20);
-        const MsiFormat::Written written =
-            MsiFormat::write({title, QStringLiteral("900"), {}, cut, lowered});
+        const Written written = MsiFormat::write({title, QStringLiteral("900"), {}, cut, lowered});
         QCOMPARE(written.problem, QString());
         const PatternFile back = read(written.bytes, QString());
         QVERIFY2(toldOf(back).isEmpty(), qPrintable(toldOf(back)));
@@ -254,7 +253,7 @@ private slots:
         QCOMPARE(cutsOf(read(NsmaFormat::write(cuts), title)),
                  cutsOf({Format::Nsma, cuts, {}, {}}));
         Cut cut = cuts.first();
-        cut.name = QStringLiteral("file phi 0°");
+        cut.name = QStringLiteral("file theta 90°");
         QCOMPARE(cutsOf(read(NecFormat::write({cut}), title)),
                  cutsOf({Format::Nec, {cut}, {}, {}}));
     }

@@ -69,8 +69,13 @@ QString CurveTableModel::text(int id, int column) const
 QString CurveTableModel::toolTip(int id, int column) const
 {
     const CurveRecord record = m_curves.record(id);
-    if (column == Name)
-        return record.file.isEmpty() ? tr("Pasted or dropped") : record.file;
+    if (column == Name) {
+        const QString origin = record.notes.isEmpty() ? tr("Pasted or dropped") : QString();
+        QStringList lines(record.file.isEmpty() ? origin : record.file);
+        lines += record.notes;
+        lines.removeAll(QString());
+        return lines.join(QLatin1Char('\n'));
+    }
     if (column == Correction && record.extrapolated)
         return tr("The frequency lies outside the loss table: the correction is extrapolated.");
     return text(id, column);

@@ -403,6 +403,41 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>CutDialog</name>
+    <message>
+        <source>Open %1</source>
+        <translation>打开 %1</translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation>总场</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>全不选(&amp;N)</translation>
+    </message>
+    <message>
+        <source>The file holds %1 cuts.</source>
+        <translation>文件包含 %1 个切面。</translation>
+    </message>
+    <message>
+        <source>&amp;Field:</source>
+        <translation>场分量(&amp;F)：</translation>
+    </message>
+</context>
+<context>
     <name>EditActions</name>
     <message>
         <source>&amp;Undo %1</source>
@@ -431,6 +466,45 @@ correction</source>
     <message>
         <source>The parameter table is on the clipboard.</source>
         <translation>参数表已复制到剪贴板。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Export Pattern</source>
+        <translation>导出方向图</translation>
+    </message>
+    <message>
+        <source>MSI or Planet</source>
+        <translation>MSI 或 Planet</translation>
+    </message>
+    <message>
+        <source>NSMA (WG16.99.050)</source>
+        <translation>NSMA (WG16.99.050)</translation>
+    </message>
+    <message>
+        <source>NEC2 listing</source>
+        <translation>NEC2 列表</translation>
+    </message>
+    <message>
+        <source>The curves go out as they stand; MSI takes whole circles, on whole degrees. Edit - Mirror Curve turns the sense of the angles.</source>
+        <translation>曲线按原样写出；MSI 需要完整圆周，并按整数度采样。“编辑 - 镜像曲线”可反转角度方向。</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>格式(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal cut:</source>
+        <translation>水平切面(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical cut:</source>
+        <translation>垂直切面(&amp;V)：</translation>
     </message>
 </context>
 <context>
@@ -1485,12 +1559,12 @@ correction</source>
         <translation>打开曲线</translation>
     </message>
     <message>
-        <source>Curve files (*.csv);;All files (*)</source>
-        <translation>曲线文件 (*.csv);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>The sample patterns are not installed.</source>
         <translation>未安装方向图示例。</translation>
+    </message>
+    <message>
+        <source>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</source>
+        <translation>曲线和方向图 (*.csv *.msi *.pln *.adf *.out *.txt);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -1569,6 +1643,14 @@ correction</source>
     <message>
         <source>, horizontal</source>
         <translation>，水平分量</translation>
+    </message>
+    <message>
+        <source>There is no curve to write.</source>
+        <translation>没有可写出的曲线。</translation>
+    </message>
+    <message>
+        <source>An MSI file needs a horizontal and a vertical curve.</source>
+        <translation>MSI 文件需要一条水平曲线和一条垂直曲线。</translation>
     </message>
 </context>
 <context>
@@ -1822,6 +1904,14 @@ correction</source>
     <message>
         <source>Re&amp;do</source>
         <translation>重做(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Pattern...</source>
+        <translation>导出方向图(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Writes curves as a file of MSI, NSMA or NEC2</source>
+        <translation>将曲线写成 MSI、NSMA 或 NEC2 文件</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +2253,10 @@ correction</source>
         <source>Supplementary (textbook definitions)</source>
         <translation>补充参数（按教科书定义）</translation>
     </message>
+    <message>
+        <source>Notes</source>
+        <translation>备注</translation>
+    </message>
 </context>
 <context>
     <name>RotatorClient</name>
@@ -2250,6 +2344,30 @@ correction</source>
 %1</source>
         <translation>这些曲线未保存到文件：
 %1</translation>
+    </message>
+    <message>
+        <source>MSI pattern</source>
+        <translation>MSI 方向图</translation>
+    </message>
+    <message>
+        <source>NSMA pattern</source>
+        <translation>NSMA 方向图</translation>
+    </message>
+    <message>
+        <source>NEC2 listing</source>
+        <translation>NEC2 列表</translation>
+    </message>
+    <message>
+        <source>Export Pattern</source>
+        <translation>导出方向图</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>方向图</translation>
+    </message>
+    <message>
+        <source>The pattern cannot be written:</source>
+        <translation>无法写出方向图：</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,41 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>CutDialog</name>
+    <message>
+        <source>Open %1</source>
+        <translation>Open %1</translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation>total</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>vertical</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;None</translation>
+    </message>
+    <message>
+        <source>The file holds %1 cuts.</source>
+        <translation>The file holds %1 cuts.</translation>
+    </message>
+    <message>
+        <source>&amp;Field:</source>
+        <translation>&amp;Field:</translation>
+    </message>
+</context>
+<context>
     <name>EditActions</name>
     <message>
         <source>&amp;Undo %1</source>
@@ -431,6 +466,45 @@ correction</translation>
     <message>
         <source>The parameter table is on the clipboard.</source>
         <translation>The parameter table is on the clipboard.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Export Pattern</source>
+        <translation>Export Pattern</translation>
+    </message>
+    <message>
+        <source>MSI or Planet</source>
+        <translation>MSI or Planet</translation>
+    </message>
+    <message>
+        <source>NSMA (WG16.99.050)</source>
+        <translation>NSMA (WG16.99.050)</translation>
+    </message>
+    <message>
+        <source>NEC2 listing</source>
+        <translation>NEC2 listing</translation>
+    </message>
+    <message>
+        <source>The curves go out as they stand; MSI takes whole circles, on whole degrees. Edit - Mirror Curve turns the sense of the angles.</source>
+        <translation>The curves go out as they stand; MSI takes whole circles, on whole degrees. Edit - Mirror Curve turns the sense of the angles.</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal cut:</source>
+        <translation>&amp;Horizontal cut:</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical cut:</source>
+        <translation>&amp;Vertical cut:</translation>
     </message>
 </context>
 <context>
@@ -1485,12 +1559,12 @@ correction</translation>
         <translation>Open Curves</translation>
     </message>
     <message>
-        <source>Curve files (*.csv);;All files (*)</source>
-        <translation>Curve files (*.csv);;All files (*)</translation>
-    </message>
-    <message>
         <source>The sample patterns are not installed.</source>
         <translation>The sample patterns are not installed.</translation>
+    </message>
+    <message>
+        <source>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</source>
+        <translation>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</translation>
     </message>
 </context>
 <context>
@@ -1569,6 +1643,14 @@ correction</translation>
     <message>
         <source>, horizontal</source>
         <translation>, horizontal</translation>
+    </message>
+    <message>
+        <source>There is no curve to write.</source>
+        <translation>There is no curve to write.</translation>
+    </message>
+    <message>
+        <source>An MSI file needs a horizontal and a vertical curve.</source>
+        <translation>An MSI file needs a horizontal and a vertical curve.</translation>
     </message>
 </context>
 <context>
@@ -1822,6 +1904,14 @@ correction</translation>
     <message>
         <source>Re&amp;do</source>
         <translation>Re&amp;do</translation>
+    </message>
+    <message>
+        <source>&amp;Export Pattern...</source>
+        <translation>&amp;Export Pattern...</translation>
+    </message>
+    <message>
+        <source>Writes curves as a file of MSI, NSMA or NEC2</source>
+        <translation>Writes curves as a file of MSI, NSMA or NEC2</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +2253,10 @@ correction</translation>
         <source>Supplementary (textbook definitions)</source>
         <translation>Supplementary (textbook definitions)</translation>
     </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
 </context>
 <context>
     <name>RotatorClient</name>
@@ -2250,6 +2344,30 @@ correction</translation>
 %1</source>
         <translation>These curves are in no file:
 %1</translation>
+    </message>
+    <message>
+        <source>MSI pattern</source>
+        <translation>MSI pattern</translation>
+    </message>
+    <message>
+        <source>NSMA pattern</source>
+        <translation>NSMA pattern</translation>
+    </message>
+    <message>
+        <source>NEC2 listing</source>
+        <translation>NEC2 listing</translation>
+    </message>
+    <message>
+        <source>Export Pattern</source>
+        <translation>Export Pattern</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>pattern</translation>
+    </message>
+    <message>
+        <source>The pattern cannot be written:</source>
+        <translation>The pattern cannot be written:</translation>
     </message>
 </context>
 <context>
