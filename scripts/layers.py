@@ -86,8 +86,7 @@ def check(path):
             unit, other = (str(Path(file).with_suffix("")) for file in (source, included))
             if unit != other:
                 graph.setdefault(unit, set()).add(other)
-    for circle in circles(graph):
-        print("in a circle: " + " > ".join(circle), file=sys.stderr)
+    errors += ["in a circle: " + " > ".join(circle) for circle in circles(graph)]
     for error in errors:
         print(error, file=sys.stderr)
     return 1 if errors else 0

@@ -32,7 +32,7 @@ public:
     virtual void setValue(double value, const QString &text);
 
 public slots:
-    /// Left over from a demonstration and kept: seeds the pseudo-random generator with the seconds
+    /// A hook for demonstrations: seeds the pseudo-random generator with the seconds
     /// since midnight and returns its first number. Nothing is drawn.
     int timerout();
 
