@@ -49,9 +49,11 @@ void appendRow(int round, const Begin &begin)
 {
     begin();
     const QDateTime when = QDateTime::currentDateTime();
-    RecordFile::append(
+    const FileOutcome outcome = RecordFile::append(
         QDir::current().filePath(QStringLiteral("record.csv")),
         RecordFile::row(when, 50, round, QStringLiteral("-20.00"), QString::fromUtf8("10.00µW")));
+    if (outcome.kind != FileOutcome::Kind::Written)
+        qWarning() << "Record not written:" << outcome.reason;
 }
 
 void saveSettings(int round, const Begin &begin)

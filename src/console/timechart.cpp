@@ -26,19 +26,29 @@ TimeChart::TimeChart(QWidget *parent, QBoxLayout *layout)
 
 void TimeChart::feed(const Reading &reading, qint64 now)
 {
-    if (m_elapsedSeconds > longestRun)
-        clear();
+    // What is left of a second counts at the next tick; a tick that came early borrows nothing.
+    const qint64 seconds =
+        m_lastTick == noTick ? 0 : std::max<qint64>(1, (now - m_lastTick) / second);
+    m_lastTick = m_lastTick == noTick ? now : std::min(now, m_lastTick + seconds * second);
+    m_elapsedSeconds += double(seconds);
+    if (m_elapsedSeconds > longestRun) {
+        m_view->clearChartData(powerPath);
+        m_elapsedSeconds = 0.0;
+    }
     if (reading.state != Reading::State::None)
         m_view->updateChart(powerPath, QPointF(m_elapsedSeconds / secondsPerMinute, reading.level));
-    const qint64 seconds = std::max<qint64>(1, (now - m_lastTick) / second);
-    m_elapsedSeconds += double(seconds);
-    // What is left of a second counts at the next tick; a tick that came early borrows nothing.
-    m_lastTick = std::min(now, m_lastTick + seconds * second);
 }
+
 void TimeChart::clear()
 {
     m_view->clearChartData(powerPath);
     restartTime();
+}
+
+void TimeChart::restartTime()
+{
+    m_elapsedSeconds = 0.0;
+    m_lastTick = noTick;
 }
 
 void TimeChart::setPeriod(int minutes, const QString &title)

@@ -26,7 +26,7 @@ public:
     /// Empties the chart, its markers included, and starts again at 0.
     void clear();
     /// The next point stands at 0, whatever the chart shows.
-    void restartTime() { m_elapsedSeconds = 0.0; }
+    void restartTime();
 
     /// Shows the last \a minutes, with \a title at the time axis.
     void setPeriod(int minutes, const QString &title);
@@ -37,8 +37,10 @@ public:
     GraphicsBase *view() const { return m_view; }
 
 private:
+    static constexpr qint64 noTick = -1;
+
     GraphicsBase *m_view;
     QElapsedTimer m_clock;
-    qint64 m_lastTick = 0;         // ms
+    qint64 m_lastTick = noTick;    // ms
     double m_elapsedSeconds = 0.0; // since the chart was last emptied
 };

@@ -253,9 +253,11 @@ void TestConsoleWindow::chartKeepsTime()
     chart.feed(Reading::missing(), 21'200);
     QCOMPARE(series->pointsVector(),
              (QVector<QPointF>{
-                 {1 / 60.0, -20.0}, {2 / 60.0, -20.0}, {22 / 60.0, -20.0}, {23 / 60.0, 100.0}}));
+                 {1 / 60.0, -20.0}, {21 / 60.0, -20.0}, {22 / 60.0, -20.0}, {23 / 60.0, 100.0}}));
     chart.feed(level, 3600'000);
-    chart.feed(level, 3601'000);
+    QCOMPARE(series->pointsVector(), (QVector<QPointF>{{0.0, -20.0}}));
+    chart.clear();
+    chart.feed(level, 3700'000); // the time that no link was open does not count
     QCOMPARE(series->pointsVector(), (QVector<QPointF>{{0.0, -20.0}}));
 }
 
