@@ -60,16 +60,22 @@ class TestPatternSupplement : public QObject
 private slots:
     void measuresRoundPatterns();
     void measuresOpenAndOddPatterns();
+    void nullsHaveToBeDeep();
 };
 
 void TestPatternSupplement::measuresRoundPatterns()
 {
     Points shuffled = pattern(175, -180, 179);
     std::shuffle(shuffled.begin(), shuffled.end(), QRandomGenerator(11));
+    Points descending = pattern(12, 0, 360);
+    std::reverse(descending.begin(), descending.end());
+    Points twice = pattern(-20, 0, 360) + pattern(-20, -180, 0);
+    Points incomplete = pattern(100, -180, 179);
+    incomplete.remove(40);
     // The peak on the seam and beside it with one end left out, a side lobe over it, other angles.
     for (const Points &points :
          {shuffled, pattern(180, -180, 180), pattern(177, -180, 179), pattern(-110, -180, 180),
-          pattern(0, 0, 359), pattern(-179, -180, 179.5, 0.5)}) {
+          pattern(0, 0, 359), pattern(-179, -180, 179.5, 0.5), descending, twice, incomplete}) {
         const PatternSupplement figures = supplementaryFigures(points);
         QCOMPARE(rounded(figures.halfPowerBeamWidth), 20.0F);
         QCOMPARE(rounded(figures.firstNullBeamWidth), 80.0F);
@@ -97,6 +103,19 @@ void TestPatternSupplement::measuresOpenAndOddPatterns()
     QCOMPARE(rounded(supplementaryFigures(oneNull).firstNullBeamWidth), 360.0F);
     const auto twoLobes = withLevels({0, -10, -40, -10, 0, -10, -40, -10}, -180, 45);
     QCOMPARE(rounded(supplementaryFigures(twoLobes).sideLobeLevel), 0.0F);
+}
+
+void TestPatternSupplement::nullsHaveToBeDeep()
+{
+    // A ripple of 0.6 dB on the flank ends no lobe, a dip of 2 dB does unless more is asked for.
+    const auto rippled = withLevels({-9, -20, -8, -8.6, -8, 0, -4, -6, -4, -20, -9}, -50, 10);
+    QCOMPARE(rounded(supplementaryFigures(rippled).firstNullBeamWidth), 60.0F);
+    QCOMPARE(rounded(supplementaryFigures(rippled, 0.5).firstNullBeamWidth), 40.0F);
+    QCOMPARE(rounded(supplementaryFigures(rippled, 3.0).firstNullBeamWidth), 80.0F);
+    QVERIFY(!supplementaryFigures(rippled, 30.0).firstNullBeamWidth);
+    // Measured across the seam, but not round the circle: nothing is known of the direction behind.
+    QVERIFY(!supplementaryFigures(pattern(180, 100, 260)).frontToBackRatio);
+    QCOMPARE(rounded(supplementaryFigures(pattern(180, 100, 260)).halfPowerBeamWidth), 20.0F);
 }
 
 MZ_TEST_GUILESS_MAIN(TestPatternSupplement)

@@ -5,6 +5,7 @@
 #include "testmain.h"
 
 #include <QDir>
+#include <QRandomGenerator>
 
 #include <cmath>
 
@@ -35,6 +36,8 @@ private slots:
     void filesAreWhatTheGeneratorWrites();
     void knownAnswers_data();
     void knownAnswers();
+    void noiseLeavesTheFigures_data();
+    void noiseLeavesTheFigures();
 };
 
 void TestSamples::filesAreWhatTheGeneratorWrites()
@@ -95,6 +98,34 @@ void TestSamples::knownAnswers()
     QVERIFY(agrees(found.firstNullBeamWidth, nullWidth, 1.0));
     QVERIFY(agrees(found.sideLobeLevel, sideLobe, 0.3));
     QVERIFY(agrees(found.frontToBackRatio, frontToBack, 0.1));
+}
+
+void TestSamples::noiseLeavesTheFigures_data()
+{
+    QTest::addColumn<double>("noise"); // dB, greatest
+    for (const char *file : {"dipole.csv", "patch.csv", "horn.csv", "array.csv"}) {
+        for (const double noise : {0.05, 0.15, 0.5})
+            QTest::addRow("%s %g", file, noise) << noise;
+    }
+}
+
+void TestSamples::noiseLeavesTheFigures()
+{
+    QFETCH(const double, noise);
+    const QString file =
+        QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(' '), 0, 0);
+    const QVector<QPointF> clean = CurveText::fromFile(content(file)).points;
+    const PatternSupplement known = supplementaryFigures(clean);
+    for (const quint32 seed : {1U, 2U, 3U}) {
+        QRandomGenerator random(seed);
+        QVector<QPointF> noisy = clean;
+        for (QPointF &point : noisy)
+            point.ry() += noise * (2.0 * random.generateDouble() - 1.0);
+        const PatternSupplement found = supplementaryFigures(noisy);
+        QVERIFY(agrees(found.halfPowerBeamWidth, known.halfPowerBeamWidth.value_or(missing), 2.0));
+        QVERIFY(agrees(found.firstNullBeamWidth, known.firstNullBeamWidth.value_or(missing), 2.0));
+        QVERIFY(agrees(found.sideLobeLevel, known.sideLobeLevel.value_or(missing), 0.5));
+    }
 }
 
 MZ_TEST_GUILESS_MAIN(TestSamples)

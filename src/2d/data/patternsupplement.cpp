@@ -1,187 +1,232 @@
 #include "2d/data/patternsupplement.h"
 
+#include "2d/data/angularpattern.h"
+#include "2d/data/leastsquares.h"
+
 #include <algorithm>
-#include <cmath>
+#include <utility>
+#include <vector>
 
 namespace {
 
-constexpr double fullCircle = 360.0;
 constexpr double halfCircle = 180.0;
 constexpr double halfPowerDrop = 3.0;
+/// Below so many dB of noise the samples themselves are nearer to the truth than any fit.
+constexpr double noticeableNoise = 0.03;
 
-/// A pattern by ascending angle. Indices may run over both ends: round a closed pattern they go on,
-/// with angles that go on as well, and an open one has no points there.
-class Pattern
+/// The main lobe: its peak and the angles where it has fallen by 3 dB.
+struct MainLobe
 {
-public:
-    explicit Pattern(QVector<QPointF> points)
-        : m_points(std::move(points))
+    int peak = 0;
+    double level = 0.0;
+    std::optional<double> left;
+    std::optional<double> right;
+
+    std::optional<double> width() const
     {
-        std::stable_sort(m_points.begin(), m_points.end(),
-                         [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); });
-        closeIfRound();
+        return left && right ? std::optional(*right - *left) : std::nullopt;
     }
-
-    int size() const { return m_points.size(); }
-    bool isClosed() const { return m_closed; }
-    bool has(int i) const { return m_closed || (i >= 0 && i < size()); }
-    double level(int i) const { return m_points[wrapped(i)].y(); }
-
-    double angle(int i) const
-    {
-        const int turns = (i - wrapped(i)) / size();
-        return m_points[wrapped(i)].x() + turns * fullCircle;
-    }
-
-    int peak() const
-    {
-        const auto greatest =
-            std::max_element(m_points.begin(), m_points.end(),
-                             [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
-        return static_cast<int>(greatest - m_points.begin());
-    }
-
-    /// The angle between two neighbours at which the level is reached.
-    double crossing(int a, int b, double wanted) const
-    {
-        const double rise = level(b) - level(a);
-        const double part = rise == 0.0 ? 1.0 : (wanted - level(a)) / rise;
-        return angle(a) + (angle(b) - angle(a)) * part;
-    }
-
-    std::optional<double> levelAt(double wanted) const;
-
-private:
-    int wrapped(int i) const
-    {
-        const int rest = i % size();
-        return rest < 0 ? rest + size() : rest;
-    }
-
-    void closeIfRound();
-
-    QVector<QPointF> m_points;
-    bool m_closed = false;
 };
 
-/// A pattern is closed when the gap over its seam is like the gaps between its points. Its two ends
-/// may be one direction, -180 and 180 degrees: of these one is kept.
-void Pattern::closeIfRound()
+/// The first point at or below \a level, going from \a from in the direction of \a step.
+std::optional<int> firstBelow(const AngularPattern &pattern, int from, int step, double level)
 {
-    if (size() < 4)
-        return;
-    double widest = 0.0;
-    for (int i = 1; i < size(); ++i)
-        widest = std::max(widest, m_points[i].x() - m_points[i - 1].x());
-    const double seam = fullCircle - (m_points.last().x() - m_points.first().x());
-    constexpr double rounding = 1e-6;
-    m_closed = seam >= -rounding && seam <= 1.5 * widest;
-    if (m_closed && seam <= rounding) {
-        m_points.first().setY(std::max(m_points.first().y(), m_points.last().y()));
-        m_points.removeLast();
-    }
-}
-
-std::optional<double> Pattern::levelAt(double wanted) const
-{
-    if (m_closed)
-        wanted -= std::floor((wanted - angle(0)) / fullCircle) * fullCircle;
-    const auto after =
-        std::upper_bound(m_points.begin(), m_points.end(), wanted,
-                         [](double x, const QPointF &point) { return x < point.x(); });
-    const int next = static_cast<int>(after - m_points.begin());
-    const int before = next - 1;
-    if (before >= 0 && angle(before) == wanted)
-        return level(before);
-    if (!has(before) || !has(next))
-        return std::nullopt;
-    const double part = (wanted - angle(before)) / (angle(next) - angle(before));
-    return level(before) + (level(next) - level(before)) * part;
-}
-
-/// Where the level has fallen by 3 dB, going from the peak in the direction of \a step.
-std::optional<double> halfPowerAngle(const Pattern &pattern, int peak, int step)
-{
-    const double wanted = pattern.level(peak) - halfPowerDrop;
     for (int count = 1; count < pattern.size(); ++count) {
-        const int i = peak + count * step;
+        const int i = from + count * step;
         if (!pattern.has(i))
             return std::nullopt;
-        if (pattern.level(i) <= wanted)
-            return pattern.crossing(i - step, i, wanted);
+        if (pattern.level(i) <= level)
+            return i;
     }
     return std::nullopt;
 }
 
-/// The index where the main lobe ends in the direction of \a step: the last fall before the level
-/// rises again. A shoulder of equal levels does not end it, the end of an open curve is no null.
-std::optional<int> nullIndex(const Pattern &pattern, int peak, int step)
+MainLobe mainLobe(const AngularPattern &pattern)
 {
-    std::optional<int> lowest;
+    MainLobe lobe;
+    lobe.peak = pattern.peak();
+    lobe.level = pattern.level(lobe.peak);
+    const double wanted = lobe.level - halfPowerDrop;
+    if (const auto i = firstBelow(pattern, lobe.peak, -1, wanted))
+        lobe.left = pattern.crossing(*i + 1, *i, wanted);
+    if (const auto i = firstBelow(pattern, lobe.peak, 1, wanted))
+        lobe.right = pattern.crossing(*i - 1, *i, wanted);
+    return lobe;
+}
+
+/// The indices between which a lobe with its top at \a top lies no more than \a drop dB below it.
+std::pair<int, int> reachOf(const AngularPattern &pattern, int top, double drop)
+{
+    const double level = pattern.level(top) - drop;
+    const int half = pattern.size() / 2;
+    const int first = pattern.isClosed() ? top - half : 0;
+    const int last = pattern.isClosed() ? top + half : pattern.size() - 1;
+    return {firstBelow(pattern, top, -1, level).value_or(first),
+            firstBelow(pattern, top, 1, level).value_or(last)};
+}
+
+/// A polynomial through a noisy lobe, down to 6 dB below its top: a hundred points know their
+/// middle better than each of them does.
+class FittedLobe
+{
+public:
+    FittedLobe(const AngularPattern &pattern, int top)
+    {
+        constexpr double drop = 6.0;
+        constexpr int fewest = 9;
+        const auto [first, last] = reachOf(pattern, top, drop);
+        m_from = pattern.angle(first);
+        m_to = pattern.angle(last);
+        m_isUsable = last - first >= fewest;
+        if (!m_isUsable)
+            return;
+        LeastSquares<4> fit((m_from + m_to) / 2.0, (m_to - m_from) / 2.0);
+        for (int i = first; i <= last; ++i)
+            fit.add(pattern.angle(i), pattern.level(i));
+        m_shape = fit.solved();
+        for (int i = 1; i <= steps; ++i) {
+            if (level(i) > level(m_top))
+                m_top = i;
+        }
+    }
+
+    bool isUsable() const { return m_isUsable; }
+    double topLevel() const { return level(m_top); }
+
+    /// The angle where the lobe has fallen to \a wanted on the side that \a step leads to.
+    std::optional<double> angleOf(double wanted, int step) const
+    {
+        for (int i = m_top + step; i >= 0 && i <= steps; i += step) {
+            if (level(i) > wanted)
+                continue;
+            const double inner = level(i - step);
+            return angle(i - step) +
+                   (angle(i) - angle(i - step)) * (inner - wanted) / (inner - level(i));
+        }
+        return std::nullopt;
+    }
+
+private:
+    static constexpr int steps = 1000;
+
+    double angle(int i) const { return m_from + (m_to - m_from) * i / steps; }
+    double level(int i) const { return m_shape(angle(i)); }
+
+    double m_from = 0.0;
+    double m_to = 0.0;
+    Polynomial<4> m_shape;
+    int m_top = 0;
+    bool m_isUsable = false;
+};
+
+/// The index where the main lobe ends in the direction of \a step: the lowest point before the
+/// level has risen by \a prominence from it. Equal neighbours are passed over; the end of an open
+/// curve is no null.
+std::optional<int> nullIndex(const AngularPattern &pattern, int peak, int step, double prominence)
+{
+    int lowest = peak;
     for (int count = 1; count <= pattern.size(); ++count) {
         const int i = peak + count * step;
         if (!pattern.has(i))
             return std::nullopt;
-        const double change = pattern.level(i) - pattern.level(i - step);
-        if (change > 0.0 && lowest)
-            return lowest;
-        if (change < 0.0)
+        const double rise = pattern.level(i) - pattern.level(lowest);
+        if (rise < 0.0)
             lowest = i;
+        const bool isDeep = pattern.level(peak) - pattern.level(lowest) >= prominence;
+        if (rise > 0.0 && rise >= prominence && isDeep && lowest != peak)
+            return lowest;
     }
     return std::nullopt;
 }
 
-std::optional<double> sideLobeLevel(const Pattern &pattern, int peak, std::optional<int> left,
-                                    std::optional<int> right)
+/// The indices of the points outside the main lobe, two ranges at most.
+std::vector<std::pair<int, int>> outside(const AngularPattern &pattern, std::optional<int> left,
+                                         std::optional<int> right)
 {
-    std::optional<double> greatest;
-    const auto take = [&greatest, &pattern](int from, int to) {
-        for (int i = from; i <= to; ++i)
-            greatest = std::max(greatest.value_or(pattern.level(i)), pattern.level(i));
-    };
+    std::vector<std::pair<int, int>> ranges;
     if (pattern.isClosed()) {
         if (left && right)
-            take(*right + 1, *left + pattern.size() - 1);
+            ranges.emplace_back(*right + 1, *left + pattern.size() - 1);
     } else {
         if (left)
-            take(0, *left - 1);
+            ranges.emplace_back(0, *left - 1);
         if (right)
-            take(*right + 1, pattern.size() - 1);
+            ranges.emplace_back(*right + 1, pattern.size() - 1);
     }
-    if (!greatest)
-        return std::nullopt;
-    return *greatest - pattern.level(peak);
+    return ranges;
 }
 
-std::optional<double> frontToBackRatio(const Pattern &pattern, int peak)
+/// The greatest level in \a ranges; of noisy lobes the greatest of their fitted tops, since the
+/// greatest sample of many is the one with the most noise on it.
+std::optional<double> greatestLevel(const AngularPattern &pattern,
+                                    const std::vector<std::pair<int, int>> &ranges, double noise)
 {
-    std::optional<double> back = pattern.levelAt(pattern.angle(peak) - halfCircle);
-    if (!back)
-        back = pattern.levelAt(pattern.angle(peak) + halfCircle);
-    if (!back)
-        return std::nullopt;
-    return pattern.level(peak) - *back;
+    std::optional<double> greatest;
+    for (const auto &[from, to] : ranges) {
+        for (int i = from; i <= to; ++i)
+            greatest = std::max(greatest.value_or(pattern.level(i)), pattern.level(i));
+    }
+    if (!greatest || !(noise > 0.0))
+        return greatest;
+    // Any lobe whose top comes near the greatest sample may be the greatest one.
+    constexpr double nearness = 6.0;
+    std::optional<double> fitted;
+    for (const auto &[from, to] : ranges) {
+        for (int i = from; i <= to; ++i) {
+            if (pattern.level(i) < *greatest - nearness * noise)
+                continue;
+            const FittedLobe lobe(pattern, i);
+            const double level = lobe.isUsable() ? lobe.topLevel() : pattern.level(i);
+            fitted = std::max(fitted.value_or(level), level);
+            i = std::max(i, reachOf(pattern, i, nearness * noise + 1.0).second);
+        }
+    }
+    return fitted;
+}
+
+PatternSupplement figuresOf(const AngularPattern &pattern, const MainLobe &lobe, double prominence,
+                            double noise)
+{
+    PatternSupplement figures;
+    const std::optional<int> left = nullIndex(pattern, lobe.peak, -1, prominence);
+    const std::optional<int> right = nullIndex(pattern, lobe.peak, 1, prominence);
+    figures.halfPowerBeamWidth = lobe.width();
+    if (left && right)
+        figures.firstNullBeamWidth = pattern.angle(*right) - pattern.angle(*left);
+    if (const auto level = greatestLevel(pattern, outside(pattern, left, right), noise))
+        figures.sideLobeLevel = std::min(0.0, *level - lobe.level);
+    if (const auto level = pattern.levelAt(pattern.angle(lobe.peak) - halfCircle))
+        figures.frontToBackRatio = lobe.level - *level;
+    return figures;
+}
+
+/// The figures of levels with noise on them.
+PatternSupplement noisyFigures(AngularPattern pattern, double prominence)
+{
+    // Denser samples say more when they are averaged.
+    constexpr double finest = 0.1; // degrees
+    pattern = pattern.thinned(finest);
+    const double noise = pattern.noise();
+    // Rises that noise alone does not make in a thousand samples.
+    constexpr double certain = 8.0;
+    MainLobe lobe = mainLobe(pattern);
+    const FittedLobe fitted(pattern, lobe.peak);
+    if (fitted.isUsable()) {
+        lobe.level = fitted.topLevel();
+        lobe.left = fitted.angleOf(lobe.level - halfPowerDrop, -1);
+        lobe.right = fitted.angleOf(lobe.level - halfPowerDrop, 1);
+    }
+    return figuresOf(pattern, lobe, std::max(prominence, certain * noise), noise);
 }
 
 } // namespace
 
-PatternSupplement supplementaryFigures(const QVector<QPointF> &points)
+PatternSupplement supplementaryFigures(const QVector<QPointF> &points, double nullProminence)
 {
-    PatternSupplement figures;
     if (points.isEmpty())
-        return figures;
-    const Pattern pattern(points);
-    const int peak = pattern.peak();
-    const std::optional<double> left = halfPowerAngle(pattern, peak, -1);
-    const std::optional<double> right = halfPowerAngle(pattern, peak, 1);
-    const std::optional<int> leftNull = nullIndex(pattern, peak, -1);
-    const std::optional<int> rightNull = nullIndex(pattern, peak, 1);
-
-    if (left && right)
-        figures.halfPowerBeamWidth = *right - *left;
-    if (leftNull && rightNull)
-        figures.firstNullBeamWidth = pattern.angle(*rightNull) - pattern.angle(*leftNull);
-    figures.sideLobeLevel = sideLobeLevel(pattern, peak, leftNull, rightNull);
-    figures.frontToBackRatio = frontToBackRatio(pattern, peak);
-    return figures;
+        return {};
+    const AngularPattern pattern(points);
+    if (pattern.noise() > noticeableNoise)
+        return noisyFigures(pattern, nullProminence);
+    return figuresOf(pattern, mainLobe(pattern), nullProminence, 0.0);
 }

@@ -11,16 +11,23 @@ struct PatternSupplement
 {
     /// Peak level minus the level in the opposite direction, dB.
     std::optional<double> frontToBackRatio;
-    /// Greatest side lobe (highest maximum outside the main lobe's nulls) minus the peak level, dB:
+    /// Greatest side lobe (highest level outside the main lobe's nulls) minus the peak level, dB:
     /// at most 0.
     std::optional<double> sideLobeLevel;
     /// Angle between the points 3 dB below the peak, degrees, interpolated linearly in dB.
     std::optional<double> halfPowerBeamWidth;
-    /// Angle between the minima on both sides of the main lobe, degrees.
+    /// Angle between the nulls on both sides of the main lobe, degrees.
     std::optional<double> firstNullBeamWidth;
 };
 
-/// Computes the textbook figures of \a points (angle in degrees, level in dB, any order). A curve
-/// that goes round the whole circle is followed across its ±180° seam; any other ends where it
-/// ends.
-PatternSupplement supplementaryFigures(const QVector<QPointF> &points);
+/// A minimum is a null when the level rises by at least so many dB on both of its sides.
+constexpr double usualNullProminence = 1.0;
+
+/// Computes the textbook figures of \a points (angle in degrees, level in dB). Angles count modulo
+/// 360 degrees, in any order; of several levels in one direction the greatest counts. A curve that
+/// goes round the whole circle is followed across any seam, any other ends where it ends.
+///
+/// \a nullProminence in dB is at least 0. Of levels that carry noise the lobes are fitted by
+/// polynomials, and a null has to rise well above the noise; others are taken as they are.
+PatternSupplement supplementaryFigures(const QVector<QPointF> &points,
+                                       double nullProminence = usualNullProminence);
