@@ -22,7 +22,65 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
         const CurveHistory::Step step(m_desk.history(), tr("Manage Curves"));
         form->manageCurves();
     });
+    WindowContext *context = &m_desk.context();
+    connect(form, &ListChart::nullProminenceChosen, context, &WindowContext::setNullProminence);
+    connect(context, &WindowContext::nullProminenceChanged, form, &ListChart::setNullProminence);
+    form->setNullProminence(context->nullProminence());
+    setUpPolarView();
     setUpLanguages();
+}
+
+void ViewActions::setUpPolarView()
+{
+    WindowContext *context = &m_desk.context();
+    auto *orientations = new QActionGroup(this);
+    const auto addOrientation = [&](QAction *action, PolarOrientation orientation) {
+        orientations->addAction(action);
+        connect(action, &QAction::triggered, context, [context, orientation] {
+            PolarView view = context->polarView();
+            view.orientation = orientation;
+            context->setPolarView(view);
+        });
+    };
+    addOrientation(m_ui.actionUpClockwise, PolarOrientation::UpClockwise);
+    addOrientation(m_ui.actionUpCounterClockwise, PolarOrientation::UpCounterClockwise);
+    addOrientation(m_ui.actionRightCounterClockwise, PolarOrientation::RightCounterClockwise);
+    addOrientation(m_ui.actionDownClockwise, PolarOrientation::DownClockwise);
+    auto *labels = new QActionGroup(this);
+    const auto addLabels = [&](QAction *action, PolarLabels kind) {
+        labels->addAction(action);
+        connect(action, &QAction::triggered, context, [context, kind] {
+            PolarView view = context->polarView();
+            view.labels = kind;
+            context->setPolarView(view);
+        });
+    };
+    addLabels(m_ui.actionHalfCircles, PolarLabels::HalfCircles);
+    addLabels(m_ui.actionWholeCircle, PolarLabels::WholeCircle);
+    connect(context, &WindowContext::polarViewChanged, this, &ViewActions::showPolarView);
+    showPolarView();
+}
+
+void ViewActions::showPolarView()
+{
+    const PolarView view = m_desk.context().polarView();
+    m_desk.form().setPolarView(view);
+    switch (view.orientation) {
+    case PolarOrientation::UpClockwise:
+        m_ui.actionUpClockwise->setChecked(true);
+        break;
+    case PolarOrientation::UpCounterClockwise:
+        m_ui.actionUpCounterClockwise->setChecked(true);
+        break;
+    case PolarOrientation::RightCounterClockwise:
+        m_ui.actionRightCounterClockwise->setChecked(true);
+        break;
+    case PolarOrientation::DownClockwise:
+        m_ui.actionDownClockwise->setChecked(true);
+        break;
+    }
+    const bool whole = view.labels == PolarLabels::WholeCircle;
+    (whole ? m_ui.actionWholeCircle : m_ui.actionHalfCircles)->setChecked(true);
 }
 
 void ViewActions::setUpLanguages()

@@ -22,6 +22,8 @@ public:
 
 private:
     void setUpLanguages();
+    void setUpPolarView();
+    void showPolarView();
 
     Ui::PatternWindow &m_ui;
     CurveDesk &m_desk;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "2d/data/polarorientation.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -31,12 +33,23 @@ public:
     virtual QByteArray windowGeometry() const = 0;
     virtual void rememberGeometry(const QByteArray &geometry) = 0;
 
+    virtual PolarView polarView() const = 0;
+    /// Turns the polar charts of all windows, also at the next start.
+    virtual void setPolarView(const PolarView &view) = 0;
+
+    /// The prominence that makes a minimum a null, dB.
+    virtual double nullProminence() const = 0;
+    /// Computes the supplementary figures of all windows anew, also at the next start.
+    virtual void setNullProminence(double prominence) = 0;
+
     /// "en" or "cn".
     virtual QString language() const = 0;
     /// Shows all windows in "en" or "cn" from now on, also at the next start.
     virtual void setLanguage(const QString &code) = 0;
 
 signals:
+    void polarViewChanged(const PolarView &view);
+    void nullProminenceChanged(double prominence);
     void languageChanged();
     void recentFilesChanged();
 };

@@ -9,6 +9,8 @@ Workbench::Workbench(const QString &settingsFile, QObject *parent)
     : WindowContext(parent)
     , m_settings(settingsFile)
     , m_recentFiles(m_settings.recentFiles())
+    , m_polarView(m_settings.polarView())
+    , m_nullProminence(m_settings.nullProminence())
 {
     m_language.set(m_settings.language());
 }
@@ -31,6 +33,20 @@ QString Workbench::folder() const
 void Workbench::rememberFolder(const QString &file)
 {
     m_settings.setFolder(QFileInfo(file).absolutePath());
+}
+
+void Workbench::setPolarView(const PolarView &view)
+{
+    m_polarView = view;
+    m_settings.setPolarView(view);
+    emit polarViewChanged(view);
+}
+
+void Workbench::setNullProminence(double prominence)
+{
+    m_nullProminence = prominence;
+    m_settings.setNullProminence(prominence);
+    emit nullProminenceChanged(prominence);
 }
 
 void Workbench::useLanguage(const QString &code)

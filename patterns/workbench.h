@@ -31,6 +31,10 @@ public:
     {
         m_settings.setWindowGeometry(geometry);
     }
+    PolarView polarView() const override { return m_polarView; }
+    void setPolarView(const PolarView &view) override;
+    double nullProminence() const override { return m_nullProminence; }
+    void setNullProminence(double prominence) override;
     QString language() const override { return m_language.code(); }
     void setLanguage(const QString &code) override;
 
@@ -42,5 +46,7 @@ private:
 
     WorkbenchSettings m_settings;
     RecentFiles m_recentFiles;
+    PolarView m_polarView;
+    double m_nullProminence;
     Language m_language;
 };

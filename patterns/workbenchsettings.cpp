@@ -1,5 +1,6 @@
 #include "patterns/workbenchsettings.h"
 
+#include "2d/data/patternsupplement.h"
 #include "storage/filewriting.h"
 
 #include <QDebug>
@@ -11,9 +12,16 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#include <array>
 #include <optional>
 
 namespace {
+
+/// The words for orientations in the file, in the order of the enumeration.
+const std::array<const char *, 4> orientationWords{"down-clockwise", "up-clockwise",
+                                                   "up-counterclockwise", "right-counterclockwise"};
+constexpr auto wholeCircleWord = "0-360";
+constexpr auto halfCirclesWord = "-180-180";
 
 /// What is stored in \a file, nothing at the first start; no object when it cannot be read.
 std::optional<QJsonObject> stored(const QString &file)
@@ -86,6 +94,40 @@ QString WorkbenchSettings::folder() const
 void WorkbenchSettings::setFolder(const QString &folder)
 {
     store(m_file, QStringLiteral("folder"), folder);
+}
+
+PolarView WorkbenchSettings::polarView() const
+{
+    PolarView view;
+    const QString word = stored(m_file, QStringLiteral("polarOrientation")).toString();
+    for (std::size_t i = 0; i < orientationWords.size(); ++i) {
+        if (word == QLatin1String(orientationWords.at(i)))
+            view.orientation = static_cast<PolarOrientation>(i);
+    }
+    if (stored(m_file, QStringLiteral("polarLabels")).toString() == QLatin1String(wholeCircleWord))
+        view.labels = PolarLabels::WholeCircle;
+    return view;
+}
+
+void WorkbenchSettings::setPolarView(const PolarView &view)
+{
+    const auto word = orientationWords.at(static_cast<std::size_t>(view.orientation));
+    const bool whole = view.labels == PolarLabels::WholeCircle;
+    store(m_file, QStringLiteral("polarOrientation"), QLatin1String(word));
+    store(m_file, QStringLiteral("polarLabels"),
+          QLatin1String(whole ? wholeCircleWord : halfCirclesWord));
+}
+
+double WorkbenchSettings::nullProminence() const
+{
+    const double prominence =
+        stored(m_file, QStringLiteral("nullProminence")).toDouble(usualNullProminence);
+    return prominence >= 0.0 && prominence <= 100.0 ? prominence : usualNullProminence;
+}
+
+void WorkbenchSettings::setNullProminence(double prominence)
+{
+    store(m_file, QStringLiteral("nullProminence"), prominence);
 }
 
 QByteArray WorkbenchSettings::windowGeometry() const

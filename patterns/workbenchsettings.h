@@ -1,5 +1,7 @@
 #pragma once
 
+#include "2d/data/polarorientation.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -24,6 +26,14 @@ public:
     /// The folder of the file dialogs; empty when nothing was stored or the folder is gone.
     QString folder() const;
     void setFolder(const QString &folder);
+
+    /// How the polar chart is turned; 0 degrees up and clockwise when nothing was stored.
+    PolarView polarView() const;
+    void setPolarView(const PolarView &view);
+
+    /// dB; the usual one when nothing, or nothing sensible, was stored.
+    double nullProminence() const;
+    void setNullProminence(double prominence);
 
     QByteArray windowGeometry() const;
     void setWindowGeometry(const QByteArray &geometry);

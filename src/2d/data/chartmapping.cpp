@@ -49,11 +49,15 @@ public:
         , m_centre(QPointF(mapping.plotArea.width() / 2.0, mapping.plotArea.height() / 2.0))
         , m_axes(mapping.axes)
         , m_radius(mapping.plotArea.height() / 2.0)
+        , m_orientation(mapping.orientation)
     {}
 
     QPointF operator()(const QPointF &value) const
     {
-        const double angle = fullCircle * ((value.x() - m_axes.xMin) / (m_axes.xMax - m_axes.xMin));
+        const double angle =
+            m_orientation == PolarOrientation::DownClockwise
+                ? fullCircle * ((value.x() - m_axes.xMin) / (m_axes.xMax - m_axes.xMin))
+                : screenDirection(m_orientation, value.x());
         const double level = value.y() < m_axes.yMin ? m_axes.yMin : value.y();
         const double distance = m_radius * ((level - m_axes.yMin) / (m_axes.yMax - m_axes.yMin));
         const double radians = qDegreesToRadians(angle);
@@ -66,6 +70,7 @@ private:
     QPointF m_centre;
     ViewRange m_axes;
     double m_radius;
+    PolarOrientation m_orientation;
 };
 
 template<typename Rule>
@@ -89,6 +94,15 @@ QPointF ChartMapping::toScene(const QPointF &value) const
     return kind == Kind::Polar ? PolarRule(*this)(value) : CartesianRule(*this)(value);
 }
 
+QPointF ChartMapping::polarValue(const QPointF &position) const
+{
+    const QPointF offset =
+        position - plotArea.topLeft() - QPointF(plotArea.width() / 2.0, plotArea.height() / 2.0);
+    const double direction = qRadiansToDegrees(std::atan2(offset.x(), -offset.y()));
+    const double part = std::hypot(offset.x(), offset.y()) / (plotArea.height() / 2.0);
+    return {angleOfDirection(orientation, direction), axes.yMin + part * (axes.yMax - axes.yMin)};
+}
+
 QVector<QPointF> ChartMapping::toScene(const QVector<QPointF> &values,
                                        QVector<QPointF> recycled) const
 {
@@ -102,8 +116,9 @@ bool operator==(const ChartMapping &a, const ChartMapping &b)
     const auto same = [](double first, double second) {
         return !(first < second) && !(second < first);
     };
-    return a.kind == b.kind && same(a.plotArea.x(), b.plotArea.x()) &&
-           same(a.plotArea.y(), b.plotArea.y()) && same(a.plotArea.width(), b.plotArea.width()) &&
+    return a.kind == b.kind && a.orientation == b.orientation &&
+           same(a.plotArea.x(), b.plotArea.x()) && same(a.plotArea.y(), b.plotArea.y()) &&
+           same(a.plotArea.width(), b.plotArea.width()) &&
            same(a.plotArea.height(), b.plotArea.height()) && same(a.axes.xMin, b.axes.xMin) &&
            same(a.axes.xMax, b.axes.xMax) && same(a.axes.yMin, b.axes.yMin) &&
            same(a.axes.yMax, b.axes.yMax);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "2d/data/polarorientation.h"
 #include "2d/data/viewrange.h"
 
 #include <QPointF>
@@ -12,17 +13,20 @@ struct ChartMapping
 {
     enum class Kind {
         Cartesian, ///< x to the right, y upwards
-        Polar,     ///< x clockwise from the top, y from the centre outwards
+        Polar,     ///< x round the centre, y from the centre outwards
     };
 
     Kind kind = Kind::Cartesian;
     QRectF plotArea; ///< scene coordinates
     ViewRange axes;  ///< the ranges of the two axes
+    PolarOrientation orientation = PolarOrientation::DownClockwise;
 
     /// Whether the chart has a size and its axes a length.
     bool isUsable() const;
 
     QPointF toScene(const QPointF &value) const;
+    /// The value at a scene position of a polar chart, its angle in -180 to 180 degrees.
+    QPointF polarValue(const QPointF &position) const;
     /// Maps all \a values; the result uses the memory of \a recycled.
     QVector<QPointF> toScene(const QVector<QPointF> &values,
                              QVector<QPointF> recycled = QVector<QPointF>()) const;

@@ -5,18 +5,23 @@
 #include <algorithm>
 
 CurveFigures curveFigures(int id, const QVector<QPointF> &points,
-                          const QVector<CurveFigures> &known)
+                          const QVector<CurveFigures> &known, double nullProminence)
 {
     const auto same = std::find_if(known.begin(), known.end(), [&](const CurveFigures &figures) {
         return figures.id == id && figures.points.constData() == points.constData();
     });
-    if (same != known.end())
-        return *same;
     CurveFigures figures;
-    figures.id = id;
-    figures.points = points;
-    if (const auto analysis = analysePattern(points))
-        figures.parameters = analysis->figures;
-    figures.supplement = supplementaryFigures(points);
+    if (same != known.end()) {
+        figures = *same;
+        if (qFuzzyCompare(figures.nullProminence, nullProminence))
+            return figures;
+    } else {
+        figures.id = id;
+        figures.points = points;
+        if (const auto analysis = analysePattern(points))
+            figures.parameters = analysis->figures;
+    }
+    figures.nullProminence = nullProminence;
+    figures.supplement = supplementaryFigures(points, nullProminence);
     return figures;
 }

@@ -1,6 +1,7 @@
 #include "2d/data/curvemaths.h"
 
 #include <algorithm>
+#include <cmath>
 
 std::optional<double> interpolateAt(const QVector<QPointF> &points, double x)
 {
@@ -14,6 +15,20 @@ std::optional<double> interpolateAt(const QVector<QPointF> &points, double x)
         if (vertical)
             return to.y();
         return from.y() + (x - from.x()) * ((to.y() - from.y()) / (to.x() - from.x()));
+    }
+    return std::nullopt;
+}
+
+std::optional<QPointF> pointInDirection(const QVector<QPointF> &points, double x)
+{
+    const std::optional<HorizontalExtent> extent = horizontalExtent(points);
+    if (!extent)
+        return std::nullopt;
+    constexpr double fullCircle = 360.0;
+    double turned = x - fullCircle * std::floor((x - extent->least) / fullCircle);
+    for (; turned <= extent->greatest; turned += fullCircle) {
+        if (const std::optional<double> y = interpolateAt(points, turned))
+            return QPointF(turned, *y);
     }
     return std::nullopt;
 }

@@ -9,6 +9,10 @@
 /// A vertical segment gives the y of its second point. Nothing when no segment encloses x.
 std::optional<double> interpolateAt(const QVector<QPointF> &points, double x);
 
+/// The same where x is a direction in degrees, which the points may count in another turn: the
+/// point of the curve, with its own angle.
+std::optional<QPointF> pointInDirection(const QVector<QPointF> &points, double x);
+
 /// The x between which a curve runs, nothing for an empty one.
 struct HorizontalExtent
 {

@@ -12,20 +12,23 @@ constexpr double autoscaleMargin = 10.0;
 
 bool ViewRange::contains(const QPointF &value) const
 {
+    if (isRound)
+        return value.y() >= yMin && value.y() <= yMax;
     return value.x() >= xMin && value.x() <= xMax && value.y() >= yMin && value.y() <= yMax;
 }
 
 ViewRange ViewRange::scaledAbout(const QPointF &centre, double factor) const
 {
     return {centre.x() - (centre.x() - xMin) * factor, centre.x() + factor * (xMax - centre.x()),
-            centre.y() - (centre.y() - yMin) * factor, centre.y() + factor * (yMax - centre.y())};
+            centre.y() - (centre.y() - yMin) * factor, centre.y() + factor * (yMax - centre.y()),
+            isRound};
 }
 
 ViewRange ViewRange::movedBy(double widths, double heights) const
 {
     const double dx = (xMax - xMin) * widths;
     const double dy = (yMax - yMin) * heights;
-    return {xMin + dx, xMax + dx, yMin + dy, yMax + dy};
+    return {xMin + dx, xMax + dx, yMin + dy, yMax + dy, isRound};
 }
 
 void ViewRange::followTime(double x, int period)

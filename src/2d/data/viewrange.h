@@ -17,6 +17,7 @@ struct ViewRange
     double xMax = 0.0;
     double yMin = 0.0;
     double yMax = 0.0;
+    bool isRound = false; ///< x is a direction, of which every one is in view
 
     /// Whether \a value lies inside, limits included.
     bool contains(const QPointF &value) const;

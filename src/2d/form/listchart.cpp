@@ -79,6 +79,7 @@ void ListChart::setUpCharts()
         // Before the view, which would take the names of dropped files for a curve's text.
         view->viewport()->installEventFilter(this);
     }
+    m_polar->setPolarView({});
     m_polar->setAccessibleName(tr("Polar chart"));
     m_cartesian->setAccessibleName(tr("Cartesian chart"));
     ui->mainSplitter->setStretchFactor(0, 1);
@@ -130,6 +131,11 @@ void ListChart::connectParts()
     connect(ui->fitButton, &QPushButton::clicked, this, &ListChart::fitToData);
     connect(ui->levelMin, &LineEdit::editingFinished, this, &ListChart::applyLevelFields);
     connect(ui->levelMax, &LineEdit::editingFinished, this, &ListChart::applyLevelFields);
+    connect(ui->nullProminence, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+            [this](double prominence) {
+                if (!qFuzzyCompare(prominence, m_nullProminence))
+                    emit nullProminenceChosen(prominence);
+            });
     connect(ui->titleEdit, &QLineEdit::textEdited, this, [this](const QString &text) {
         m_ownTitle = text.trimmed();
         ChartPresentation::setTitle(*m_polar, title());
@@ -249,6 +255,18 @@ void ListChart::applyLevelFields()
     emit message(tr("The lowest level has to be below the highest one."));
 }
 
+void ListChart::setPolarView(const PolarView &view)
+{
+    m_polar->setPolarView(view);
+}
+
+void ListChart::setNullProminence(double prominence)
+{
+    m_nullProminence = prominence;
+    ui->nullProminence->setValue(prominence);
+    refreshFigures();
+}
+
 void ListChart::setSymmetry(bool on)
 {
     for (GraphicsBase *view : {m_polar, m_cartesian}) {
@@ -318,7 +336,7 @@ void ListChart::refreshFigures()
     for (const int id : ids) {
         const QVector<QPointF> points = m_curves->points(id);
         if (!m_curves->isHidden(id) && !points.isEmpty())
-            figures.append(curveFigures(id, points, m_figures));
+            figures.append(curveFigures(id, points, m_figures, m_nullProminence));
     }
     m_figures = figures;
     ui->paraTable->setRowCount(m_figures.size());

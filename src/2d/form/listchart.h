@@ -2,6 +2,7 @@
 
 #include "2d/data/curvefigures.h"
 #include "2d/data/patternscale.h"
+#include "2d/data/polarorientation.h"
 #include "2d/form/curveset.h"
 
 #include <QStringList>
@@ -58,6 +59,10 @@ public slots:
     /// Shows levels from \a min to \a max dB in both charts, whatever curves come. Does nothing
     /// when that is no range.
     void setLevels(double min, double max);
+    /// Turns the polar chart.
+    void setPolarView(const PolarView &view);
+    /// Computes the supplementary figures with nulls of at least so many dB of prominence.
+    void setNullProminence(double prominence);
     /// Mirrors the drawing of all curves, or draws them as they are again.
     void setSymmetry(bool on);
     /// Shows or hides the marker lines of the pattern parameters.
@@ -68,7 +73,9 @@ public slots:
 signals:
     /// Files were dropped onto the form.
     void filesDropped(const QStringList &files);
-    /// Something to tell the operator that needs no answer.
+    /// The user chose what makes a minimum a null, dB.
+    void nullProminenceChosen(double prominence);
+    /// Something to tell the user that needs no answer.
     void message(const QString &text);
 
 protected:
@@ -98,8 +105,9 @@ private:
     CurveTableModel *m_curveModel;
     PointTableModel *m_pointModel;
     QVector<CurveFigures> m_figures;
-    QList<int> m_shownIds;    ///< the curves at the last refresh
-    QString m_ownTitle;       ///< as the operator wrote it; empty: from the files
-    AxisScale m_levels;       ///< the level axis of both charts, dB
+    QList<int> m_shownIds; ///< the curves at the last refresh
+    QString m_ownTitle;    ///< as the operator wrote it; empty: from the files
+    AxisScale m_levels;    ///< the level axis of both charts, dB
+    double m_nullProminence = usualNullProminence;
     bool m_ownLevels = false; ///< the operator chose the levels
 };

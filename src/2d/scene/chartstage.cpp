@@ -1,6 +1,7 @@
 #include "2d/scene/chartstage.h"
 
 #include "2d/scene/curveseries.h"
+#include "2d/scene/directionlabels.h"
 
 #include <QChart>
 #include <QGraphicsLayout>
@@ -269,7 +270,8 @@ ViewRange ChartStage::axisRange() const
 {
     if (!m_chart)
         return {};
-    return {m_xAxis->min(), m_xAxis->max(), m_yAxis->min(), m_yAxis->max()};
+    return {m_xAxis->min(), m_xAxis->max(), m_yAxis->min(), m_yAxis->max(),
+            m_polarView.has_value()};
 }
 
 QRectF ChartStage::plotArea() const
@@ -280,11 +282,32 @@ QRectF ChartStage::plotArea() const
 ChartMapping ChartStage::mapping() const
 {
     return {isPolar() ? ChartMapping::Kind::Polar : ChartMapping::Kind::Cartesian, plotArea(),
-            axisRange()};
+            axisRange(), m_polarView ? m_polarView->orientation : PolarOrientation::DownClockwise};
+}
+
+void ChartStage::setPolarView(const PolarView &view)
+{
+    if (!isPolar() || m_polarView == view)
+        return;
+    m_polarView = view;
+    if (!m_directions) {
+        m_directions = new DirectionLabels(m_chart);
+        // The chart keeps the room for labels of its own, which nobody sees.
+        m_xAxis->setLabelsColor(Qt::transparent);
+        QObject::connect(m_chart, &QChart::plotAreaChanged, m_chart, [this] { placeDirections(); });
+    }
+    placeDirections();
+}
+
+void ChartStage::placeDirections()
+{
+    m_directions->show(*m_polarView, plotArea(), m_xAxis->labelsFont());
 }
 
 QPointF ChartStage::toScene(const QPointF &value) const
 {
+    if (m_polarView)
+        return mapping().toScene(value);
     return m_chart ? m_chart->mapToPosition(value) : QPointF();
 }
 
@@ -299,6 +322,8 @@ QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values,
         return std::equal_to<double>()(a.x(), b.x()) && std::equal_to<double>()(a.y(), b.y());
     };
     const QPointF probe = values[values.size() / 2];
+    if (m_polarView)
+        return closedForm.toScene(values, std::move(recycled));
     if (closedForm.isUsable() && same(closedForm.toScene(probe), m_chart->mapToPosition(probe)))
         return closedForm.toScene(values, std::move(recycled));
 
@@ -311,6 +336,8 @@ QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values,
 
 QPointF ChartStage::toValue(const QPointF &position) const
 {
+    if (m_polarView)
+        return mapping().polarValue(position);
     return m_chart ? m_chart->mapToValue(position) : QPointF();
 }
 

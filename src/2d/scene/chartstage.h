@@ -6,7 +6,10 @@
 #include <QPointF>
 #include <QVector>
 
+#include <optional>
+
 class CurveSeries;
+class DirectionLabels;
 
 QT_BEGIN_NAMESPACE
 class QColor;
@@ -65,6 +68,8 @@ public:
     void setYDivisions(int divisions);
     /// A printf format of a double for the numbers along both axes.
     void setLabelFormat(const QString &format);
+    /// Turns a polar chart, which from then on takes angles modulo 360 degrees. Others stay.
+    void setPolarView(const PolarView &view);
     /// Limits in the order given; a polar chart keeps its X range.
     void setXRange(double min, double max);
     void setYRange(double min, double max);
@@ -86,10 +91,14 @@ public:
     QPointF toValue(const QPointF &position) const;
 
 private:
+    void placeDirections();
+
     int m_kind;
     QtCharts::QChart *m_chart = nullptr;
     QtCharts::QValueAxis *m_xAxis = nullptr; ///< along the bottom, or the angular one
     QtCharts::QValueAxis *m_yAxis = nullptr; ///< on the left, or the radial one
     QVector<CurveSeries *> m_series;
     int m_guards = 0;
+    std::optional<PolarView> m_polarView;
+    DirectionLabels *m_directions = nullptr; ///< the chart's
 };

@@ -31,6 +31,7 @@ ViewRange AxisRanges::inView(const ChartStage &stage) const
         const ViewRange axes = stage.axisRange();
         range.xMin = axes.xMin;
         range.xMax = axes.xMax;
+        range.isRound = axes.isRound;
     }
     return range;
 }

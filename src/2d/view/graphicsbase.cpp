@@ -264,6 +264,13 @@ void GraphicsBase::setXDivisions(int div)
     m_stage->setXDivisions(div);
 }
 
+void GraphicsBase::setPolarView(const PolarView &view)
+{
+    m_stage->setPolarView(view);
+    m_curves->refresh(CurveList::Panels::AllTables);
+    viewport()->update();
+}
+
 void GraphicsBase::setOffset(double xOffset, double yOffset)
 {
     m_offset = {xOffset, yOffset};

@@ -14,6 +14,7 @@ class CurveList;
 class MyCustomProxy;
 class MyMarkItem;
 class PathInfo;
+struct PolarView;
 struct ChartSituation;
 
 QT_BEGIN_NAMESPACE
@@ -115,6 +116,8 @@ public slots:
     void setYRange(double min, double max, int div);
     /// The number of fields between the first and the last tick of the X or angular axis.
     void setXDivisions(int div);
+    /// Turns a polar chart, whose angles count modulo 360 degrees from then on.
+    void setPolarView(const PolarView &view);
     /// Added to every point that updateChart() is given from now on.
     void setOffset(double xOffset, double yOffset);
     /// Replaces all curves by empty ones of these names, with the path ids 1, 2, ...

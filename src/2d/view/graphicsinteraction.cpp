@@ -218,18 +218,18 @@ void GraphicsBase::addMarkSlot()
         return;
     const double x = toValue(m_menuPosition).x();
     const ViewRange axes = m_stage->axisRange();
-    if (x < axes.xMin || x > axes.xMax)
+    if (!axes.isRound && (x < axes.xMin || x > axes.xMax))
         return;
     PathInfo *path = selectedPath();
     if (!path) {
         MessageSimpleDialog::showMessage(tr("Please select the target graph"), 1, window());
         return;
     }
-    const std::optional<double> y = interpolateAt(path->points(), x);
-    if (!y || !shownRange().contains({x, *y}))
+    const std::optional<QPointF> place = m_curves->marks().pointAt(*path, x);
+    if (!place || !shownRange().contains(*place))
         return;
-    MyMarkItem *mark = addMark(toScene({x, *y}), path->color());
-    mark->setValuePoint({x, *y});
+    MyMarkItem *mark = addMark(toScene(*place), path->color());
+    mark->setValuePoint(*place);
     path->addMarkId(mark->markId());
     m_curves->updateMarkTable(*path);
 }

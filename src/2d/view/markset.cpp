@@ -121,6 +121,14 @@ PathInfo *MarkSet::pathOf(const MyMarkItem &mark) const
     return nullptr;
 }
 
+std::optional<QPointF> MarkSet::pointAt(const PathInfo &path, double x) const
+{
+    if (m_shown().isRound)
+        return pointInDirection(path.points(), x);
+    const std::optional<double> y = interpolateAt(path.points(), x);
+    return y ? std::optional(QPointF(x, *y)) : std::nullopt;
+}
+
 void MarkSet::markPressed(MyMarkItem &mark)
 {
     select(&mark);
@@ -131,20 +139,22 @@ void MarkSet::markDragged(MyMarkItem &mark, const QPointF &position)
     PathInfo *path = pathOf(mark);
     if (!path)
         return;
-    const QVector<QPointF> points = path->points();
-    const std::optional<HorizontalExtent> extent = horizontalExtent(points);
+    const std::optional<HorizontalExtent> extent = horizontalExtent(path->points());
     if (!extent)
         return;
     const ViewRange shown = m_shown();
-    const double least = std::max(extent->least, shown.xMin);
-    const double greatest = std::min(extent->greatest, shown.xMax);
-    if (least > greatest)
+    double x = m_stage.toValue(position).x();
+    if (!shown.isRound) {
+        const double least = std::max(extent->least, shown.xMin);
+        const double greatest = std::min(extent->greatest, shown.xMax);
+        if (least > greatest)
+            return;
+        x = qBound(least, x, greatest);
+    }
+    const std::optional<QPointF> point = pointAt(*path, x);
+    if (!point || !shown.contains(*point))
         return;
-    const double x = qBound(least, m_stage.toValue(position).x(), greatest);
-    const std::optional<double> y = interpolateAt(points, x);
-    if (!y || !shown.contains({x, *y}))
-        return;
-    mark.setValuePoint({x, *y});
+    mark.setValuePoint(*point);
     place(mark);
     placeGuides();
     path->updateMarkInfo(m_marks);

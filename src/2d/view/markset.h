@@ -6,6 +6,7 @@
 #include <QMap>
 
 #include <functional>
+#include <optional>
 
 class ChartStage;
 class PathInfo;
@@ -55,6 +56,9 @@ public:
     void recolor(const PathInfo &path);
     /// Puts the markers of \a path onto its curve, each at its own x.
     void snap(const PathInfo &path);
+
+    /// The point of the curve at \a x; round a polar chart in that direction.
+    std::optional<QPointF> pointAt(const PathInfo &path, double x) const;
 
     void markPressed(MyMarkItem &mark) override;
     /// Moves the marker along its curve, as far as the curve and the range in view go.

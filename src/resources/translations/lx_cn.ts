@@ -670,6 +670,18 @@ correction</source>
         <source>Level [dB]</source>
         <translation>电平 [dB]</translation>
     </message>
+    <message>
+        <source>Nulls from</source>
+        <translation>零点不小于</translation>
+    </message>
+    <message>
+        <source>Least prominence of a null, dB</source>
+        <translation>零点的最小深度，dB</translation>
+    </message>
+    <message>
+        <source>A minimum is a null when the level rises by at least this much on both of its sides</source>
+        <translation>两侧电平至少回升这么多的极小值才算零点</translation>
+    </message>
 </context>
 <context>
     <name>LoadingDialog</name>
@@ -1912,6 +1924,34 @@ correction</source>
     <message>
         <source>Writes curves as a file of MSI, NSMA or NEC2</source>
         <translation>将曲线写成 MSI、NSMA 或 NEC2 文件</translation>
+    </message>
+    <message>
+        <source>P&amp;olar Chart</source>
+        <translation>极坐标图(&amp;O)</translation>
+    </message>
+    <message>
+        <source>0° &amp;Up, Clockwise</source>
+        <translation>0° 向上，顺时针(&amp;U)</translation>
+    </message>
+    <message>
+        <source>0° Up, &amp;Counter-clockwise</source>
+        <translation>0° 向上，逆时针(&amp;C)</translation>
+    </message>
+    <message>
+        <source>0° &amp;Right, Counter-clockwise</source>
+        <translation>0° 向右，逆时针(&amp;R)</translation>
+    </message>
+    <message>
+        <source>0° &amp;Down, Clockwise</source>
+        <translation>0° 向下，顺时针(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Labels &amp;-180 ... 180</source>
+        <translation>标签 -180 ... 180(&amp;-)</translation>
+    </message>
+    <message>
+        <source>Labels &amp;0 ... 360</source>
+        <translation>标签 0 ... 360(&amp;0)</translation>
     </message>
 </context>
 <context>

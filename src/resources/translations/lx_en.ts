@@ -670,6 +670,18 @@ correction</translation>
         <source>Level [dB]</source>
         <translation>Level [dB]</translation>
     </message>
+    <message>
+        <source>Nulls from</source>
+        <translation>Nulls from</translation>
+    </message>
+    <message>
+        <source>Least prominence of a null, dB</source>
+        <translation>Least prominence of a null, dB</translation>
+    </message>
+    <message>
+        <source>A minimum is a null when the level rises by at least this much on both of its sides</source>
+        <translation>A minimum is a null when the level rises by at least this much on both of its sides</translation>
+    </message>
 </context>
 <context>
     <name>LoadingDialog</name>
@@ -1912,6 +1924,34 @@ correction</translation>
     <message>
         <source>Writes curves as a file of MSI, NSMA or NEC2</source>
         <translation>Writes curves as a file of MSI, NSMA or NEC2</translation>
+    </message>
+    <message>
+        <source>P&amp;olar Chart</source>
+        <translation>P&amp;olar Chart</translation>
+    </message>
+    <message>
+        <source>0° &amp;Up, Clockwise</source>
+        <translation>0° &amp;Up, Clockwise</translation>
+    </message>
+    <message>
+        <source>0° Up, &amp;Counter-clockwise</source>
+        <translation>0° Up, &amp;Counter-clockwise</translation>
+    </message>
+    <message>
+        <source>0° &amp;Right, Counter-clockwise</source>
+        <translation>0° &amp;Right, Counter-clockwise</translation>
+    </message>
+    <message>
+        <source>0° &amp;Down, Clockwise</source>
+        <translation>0° &amp;Down, Clockwise</translation>
+    </message>
+    <message>
+        <source>Labels &amp;-180 ... 180</source>
+        <translation>Labels &amp;-180 ... 180</translation>
+    </message>
+    <message>
+        <source>Labels &amp;0 ... 360</source>
+        <translation>Labels &amp;0 ... 360</translation>
     </message>
 </context>
 <context>
