@@ -42,7 +42,8 @@ export ASAN_OPTIONS=detect_stack_use_after_return=1:check_initialization_order=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0
 export UBSAN_OPTIONS=print_stacktrace=1
 run_tests() {
-    ctest --test-dir "$folder" --parallel 2 --output-on-failure </dev/null
+    # More than there are cores, since the slowest mostly wait for an instrument.
+    ctest --test-dir "$folder" --parallel $((2 * $(nproc))) --output-on-failure </dev/null
 }
 run_tests
 [[ $preset != sanitize ]] || exit 0
