@@ -201,7 +201,9 @@ Points smoothed(const Points &points, double width)
     const int size = pattern.size();
     if (size == 0)
         return {};
-    // Sums from the first point on: the mean of any window is one difference.
+    // Sums from the first point on: the mean of any window is one difference. Rounding must not
+    // take a window below the least of all levels.
+    const double lowest = std::min_element(points.begin(), points.end(), byLevel)->y();
     const int turns = pattern.isClosed() ? 3 : 1;
     const int begin = pattern.isClosed() ? -size : 0;
     std::vector<long double> sums{0.0L};
@@ -218,7 +220,8 @@ Points smoothed(const Points &points, double width)
             ++to;
         const auto sum = sums[static_cast<std::size_t>(to - begin)] -
                          sums[static_cast<std::size_t>(from - begin)];
-        levels.push_back(level(static_cast<double>(sum) / (to - from)));
+        const double mean = static_cast<double>(sum) / (to - from);
+        levels.push_back(mean > 0.0 ? std::max(lowest, level(mean)) : lowest);
     }
     Points result;
     for (int i = 0; i < size; ++i)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "2d/data/curvealgebra.h"
 #include "2d/view/curvelook.h"
 
 #include <QMap>
@@ -7,6 +8,8 @@
 #include <QPointF>
 #include <QStringList>
 #include <QVector>
+
+#include <optional>
 
 class GraphicsBase;
 class PathInfo;
@@ -24,6 +27,9 @@ struct CurveRecord
     /// how it was computed. Shown in the curve's tool tip and in the report.
     QStringList notes;
     bool isSaved = true; ///< a file holds the curve as it is
+    bool isMask = false; ///< a limit for the others; it has no figures
+    /// Of a difference of two curves, within the main part of the first.
+    std::optional<CurveAlgebra::DifferenceFigures> difference;
 };
 
 bool operator==(const CurveRecord &a, const CurveRecord &b);
