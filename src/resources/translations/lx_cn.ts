@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Average</name>
+    <message>
+        <source>A&amp;verage</source>
+        <translation>平均(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Averages the power of all shown curves</source>
+        <translation>对所有显示曲线的功率取平均</translation>
+    </message>
+    <message>
+        <source>The shown curves have no angle in common.</source>
+        <translation>显示的曲线没有共同的角度。</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Average of %1 curves</source>
+        <translation>%1 条曲线的平均</translation>
+    </message>
+    <message>
+        <source>Mean power of %1</source>
+        <translation>%1 的平均功率</translation>
+    </message>
+</context>
+<context>
     <name>Batch</name>
     <message>
         <source>The results cannot be written: %1</source>
@@ -85,6 +112,41 @@
     <message>
         <source>Reset</source>
         <translation>复位</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>比较(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Makes the difference of two curves, the selected one minus the other</source>
+        <translation>生成两条曲线之差：所选曲线减另一条</translation>
+    </message>
+    <message>
+        <source>%1 minus %2</source>
+        <translation>%1 减 %2</translation>
+    </message>
+    <message>
+        <source>The two curves have no angle in common.</source>
+        <translation>两条曲线没有共同的角度。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; minus &quot;%2&quot;, at the angles of the first</source>
+        <translation>&quot;%1&quot;减&quot;%2&quot;，取第一条的角度</translation>
+    </message>
+    <message>
+        <source>; their frequencies differ</source>
+        <translation>；两者频率不同</translation>
+    </message>
+    <message>
+        <source>; within 20 dB below the peak: mean %1 dB, greatest %2 dB, RMS %3 dB</source>
+        <translation>；峰值以下 20 dB 内：平均 %1 dB，最大 %2 dB，均方根 %3 dB</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
     </message>
 </context>
 <context>
@@ -469,6 +531,37 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>Envelope</name>
+    <message>
+        <source>&amp;Envelope</source>
+        <translation>包络(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Makes the greatest and the least level of all shown curves</source>
+        <translation>生成所有显示曲线的最大和最小电平</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>包络</translation>
+    </message>
+    <message>
+        <source>Maximum of %1 curves</source>
+        <translation>%1 条曲线的最大值</translation>
+    </message>
+    <message>
+        <source>Greatest level of %1</source>
+        <translation>%1 的最大电平</translation>
+    </message>
+    <message>
+        <source>Minimum of %1 curves</source>
+        <translation>%1 条曲线的最小值</translation>
+    </message>
+    <message>
+        <source>Least level of %1</source>
+        <translation>%1 的最小电平</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message>
         <source>none</source>
@@ -681,6 +774,37 @@ correction</source>
     <message>
         <source>A minimum is a null when the level rises by at least this much on both of its sides</source>
         <translation>两侧电平至少回升这么多的极小值才算零点</translation>
+    </message>
+</context>
+<context>
+    <name>LoadMask</name>
+    <message>
+        <source>&amp;Load Mask...</source>
+        <translation>载入限值掩模(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Draws a limit line from a file of angles and levels; the report judges by it</source>
+        <translation>由角度和电平文件绘制限值线，报告据此判定</translation>
+    </message>
+    <message>
+        <source>Load Mask</source>
+        <translation>载入限值掩模</translation>
+    </message>
+    <message>
+        <source>Masks (*.csv *.txt);;All files (*)</source>
+        <translation>限值掩模 (*.csv *.txt);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The mask cannot be read: %1</source>
+        <translation>无法读取限值掩模：%1</translation>
+    </message>
+    <message>
+        <source>A limit that curves are to stay below</source>
+        <translation>曲线应低于的限值</translation>
+    </message>
+    <message>
+        <source>Mask %1</source>
+        <translation>掩模 %1</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1391,21 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>Mask</name>
+    <message>
+        <source>Not an angle and a level.</source>
+        <translation>不是角度和电平。</translation>
+    </message>
+    <message>
+        <source>The angles do not ascend.</source>
+        <translation>角度没有递增。</translation>
+    </message>
+    <message>
+        <source>A mask takes two rows of an angle and a level at least.</source>
+        <translation>限值掩模至少需要两行角度和电平。</translation>
+    </message>
+</context>
+<context>
     <name>MessageDialog</name>
     <message>
         <source>Dialog</source>
@@ -1330,6 +1469,29 @@ correction</source>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>Mirror</name>
+    <message>
+        <source>&amp;Mirror Curve</source>
+        <translation>镜像曲线(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Turns the sense of the selected curve&apos;s angles: left becomes right</source>
+        <translation>反转所选曲线的角度方向：左右互换</translation>
+    </message>
+    <message>
+        <source>Mirror Curve</source>
+        <translation>镜像曲线</translation>
+    </message>
+    <message>
+        <source>%1, mirrored</source>
+        <translation>%1，镜像</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, its angles&apos; sign turned</source>
+        <translation>&quot;%1&quot;，角度符号取反</translation>
     </message>
 </context>
 <context>
@@ -1486,6 +1648,29 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>Normalise</name>
+    <message>
+        <source>&amp;Normalise...</source>
+        <translation>归一化(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the selected curve, to a peak or by an offset</source>
+        <translation>将所选曲线升降到指定峰值或按偏移量调整</translation>
+    </message>
+    <message>
+        <source>Normalise</source>
+        <translation>归一化</translation>
+    </message>
+    <message>
+        <source>%1, normalised</source>
+        <translation>%1，归一化</translation>
+    </message>
+    <message>
+        <source>%2 dB added to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;增加 %2 dB</translation>
+    </message>
+</context>
+<context>
     <name>NsmaFormat</name>
     <message>
         <source>The file holds no cut.</source>
@@ -1577,6 +1762,33 @@ correction</source>
     <message>
         <source>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</source>
         <translation>曲线和方向图 (*.csv *.msi *.pln *.adf *.out *.txt);;所有文件 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>OperationDialogs</name>
+    <message>
+        <source>Normalise</source>
+        <translation>归一化</translation>
+    </message>
+    <message>
+        <source>&amp;Peak to</source>
+        <translation>峰值调至(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>增加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>&amp;Curve:</source>
+        <translation>曲线(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>&amp;minus:</source>
+        <translation>减去(&amp;M)：</translation>
     </message>
 </context>
 <context>
@@ -2299,6 +2511,33 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>Rotate</name>
+    <message>
+        <source>R&amp;otate...</source>
+        <translation>旋转(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Adds an angle to those of the selected curve</source>
+        <translation>将所选曲线的角度整体增加一个值</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>&amp;Angle:</source>
+        <translation>角度(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>%1, rotated by %2°</source>
+        <translation>%1，旋转 %2°</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, rotated by %2°</source>
+        <translation>&quot;%1&quot;，旋转 %2°</translation>
+    </message>
+</context>
+<context>
     <name>RotatorClient</name>
     <message>
         <source>The rotator&apos;s reply is none.</source>
@@ -2485,6 +2724,33 @@ Replace it?</source>
     <message>
         <source>Not sent: the instrument holds %1. Esc puts that back.</source>
         <translation>未发送：仪器实际为 %1。按 Esc 可恢复。</translation>
+    </message>
+</context>
+<context>
+    <name>Smooth</name>
+    <message>
+        <source>&amp;Smooth...</source>
+        <translation>平滑(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Averages the power of the selected curve over a width in degrees</source>
+        <translation>按角度宽度对所选曲线的功率取平均</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>平滑</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>宽度(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>%1, smoothed over %2°</source>
+        <translation>%1，平滑 %2°</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, moving average of the power over %2°</source>
+        <translation>&quot;%1&quot;，%2° 宽度的功率滑动平均</translation>
     </message>
 </context>
 <context>

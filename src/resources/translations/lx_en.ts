@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Average</name>
+    <message>
+        <source>A&amp;verage</source>
+        <translation>A&amp;verage</translation>
+    </message>
+    <message>
+        <source>Averages the power of all shown curves</source>
+        <translation>Averages the power of all shown curves</translation>
+    </message>
+    <message>
+        <source>The shown curves have no angle in common.</source>
+        <translation>The shown curves have no angle in common.</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Average</translation>
+    </message>
+    <message>
+        <source>Average of %1 curves</source>
+        <translation>Average of %1 curves</translation>
+    </message>
+    <message>
+        <source>Mean power of %1</source>
+        <translation>Mean power of %1</translation>
+    </message>
+</context>
+<context>
     <name>Batch</name>
     <message>
         <source>The results cannot be written: %1</source>
@@ -85,6 +112,41 @@
     <message>
         <source>Reset</source>
         <translation>Reset</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>C&amp;ompare</translation>
+    </message>
+    <message>
+        <source>Makes the difference of two curves, the selected one minus the other</source>
+        <translation>Makes the difference of two curves, the selected one minus the other</translation>
+    </message>
+    <message>
+        <source>%1 minus %2</source>
+        <translation>%1 minus %2</translation>
+    </message>
+    <message>
+        <source>The two curves have no angle in common.</source>
+        <translation>The two curves have no angle in common.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; minus &quot;%2&quot;, at the angles of the first</source>
+        <translation>&quot;%1&quot; minus &quot;%2&quot;, at the angles of the first</translation>
+    </message>
+    <message>
+        <source>; their frequencies differ</source>
+        <translation>; their frequencies differ</translation>
+    </message>
+    <message>
+        <source>; within 20 dB below the peak: mean %1 dB, greatest %2 dB, RMS %3 dB</source>
+        <translation>; within 20 dB below the peak: mean %1 dB, greatest %2 dB, RMS %3 dB</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Compare</translation>
     </message>
 </context>
 <context>
@@ -469,6 +531,37 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>Envelope</name>
+    <message>
+        <source>&amp;Envelope</source>
+        <translation>&amp;Envelope</translation>
+    </message>
+    <message>
+        <source>Makes the greatest and the least level of all shown curves</source>
+        <translation>Makes the greatest and the least level of all shown curves</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Envelope</translation>
+    </message>
+    <message>
+        <source>Maximum of %1 curves</source>
+        <translation>Maximum of %1 curves</translation>
+    </message>
+    <message>
+        <source>Greatest level of %1</source>
+        <translation>Greatest level of %1</translation>
+    </message>
+    <message>
+        <source>Minimum of %1 curves</source>
+        <translation>Minimum of %1 curves</translation>
+    </message>
+    <message>
+        <source>Least level of %1</source>
+        <translation>Least level of %1</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message>
         <source>none</source>
@@ -681,6 +774,37 @@ correction</translation>
     <message>
         <source>A minimum is a null when the level rises by at least this much on both of its sides</source>
         <translation>A minimum is a null when the level rises by at least this much on both of its sides</translation>
+    </message>
+</context>
+<context>
+    <name>LoadMask</name>
+    <message>
+        <source>&amp;Load Mask...</source>
+        <translation>&amp;Load Mask...</translation>
+    </message>
+    <message>
+        <source>Draws a limit line from a file of angles and levels; the report judges by it</source>
+        <translation>Draws a limit line from a file of angles and levels; the report judges by it</translation>
+    </message>
+    <message>
+        <source>Load Mask</source>
+        <translation>Load Mask</translation>
+    </message>
+    <message>
+        <source>Masks (*.csv *.txt);;All files (*)</source>
+        <translation>Masks (*.csv *.txt);;All files (*)</translation>
+    </message>
+    <message>
+        <source>The mask cannot be read: %1</source>
+        <translation>The mask cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>A limit that curves are to stay below</source>
+        <translation>A limit that curves are to stay below</translation>
+    </message>
+    <message>
+        <source>Mask %1</source>
+        <translation>Mask %1</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1391,21 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>Mask</name>
+    <message>
+        <source>Not an angle and a level.</source>
+        <translation>Not an angle and a level.</translation>
+    </message>
+    <message>
+        <source>The angles do not ascend.</source>
+        <translation>The angles do not ascend.</translation>
+    </message>
+    <message>
+        <source>A mask takes two rows of an angle and a level at least.</source>
+        <translation>A mask takes two rows of an angle and a level at least.</translation>
+    </message>
+</context>
+<context>
     <name>MessageDialog</name>
     <message>
         <source>Dialog</source>
@@ -1330,6 +1469,29 @@ correction</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Mirror</name>
+    <message>
+        <source>&amp;Mirror Curve</source>
+        <translation>&amp;Mirror Curve</translation>
+    </message>
+    <message>
+        <source>Turns the sense of the selected curve&apos;s angles: left becomes right</source>
+        <translation>Turns the sense of the selected curve&apos;s angles: left becomes right</translation>
+    </message>
+    <message>
+        <source>Mirror Curve</source>
+        <translation>Mirror Curve</translation>
+    </message>
+    <message>
+        <source>%1, mirrored</source>
+        <translation>%1, mirrored</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, its angles&apos; sign turned</source>
+        <translation>&quot;%1&quot;, its angles&apos; sign turned</translation>
     </message>
 </context>
 <context>
@@ -1486,6 +1648,29 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>Normalise</name>
+    <message>
+        <source>&amp;Normalise...</source>
+        <translation>&amp;Normalise...</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the selected curve, to a peak or by an offset</source>
+        <translation>Raises or lowers the selected curve, to a peak or by an offset</translation>
+    </message>
+    <message>
+        <source>Normalise</source>
+        <translation>Normalise</translation>
+    </message>
+    <message>
+        <source>%1, normalised</source>
+        <translation>%1, normalised</translation>
+    </message>
+    <message>
+        <source>%2 dB added to &quot;%1&quot;</source>
+        <translation>%2 dB added to &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
     <name>NsmaFormat</name>
     <message>
         <source>The file holds no cut.</source>
@@ -1577,6 +1762,33 @@ correction</translation>
     <message>
         <source>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</source>
         <translation>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>OperationDialogs</name>
+    <message>
+        <source>Normalise</source>
+        <translation>Normalise</translation>
+    </message>
+    <message>
+        <source>&amp;Peak to</source>
+        <translation>&amp;Peak to</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Compare</translation>
+    </message>
+    <message>
+        <source>&amp;Curve:</source>
+        <translation>&amp;Curve:</translation>
+    </message>
+    <message>
+        <source>&amp;minus:</source>
+        <translation>&amp;minus:</translation>
     </message>
 </context>
 <context>
@@ -2299,6 +2511,33 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>Rotate</name>
+    <message>
+        <source>R&amp;otate...</source>
+        <translation>R&amp;otate...</translation>
+    </message>
+    <message>
+        <source>Adds an angle to those of the selected curve</source>
+        <translation>Adds an angle to those of the selected curve</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotate</translation>
+    </message>
+    <message>
+        <source>&amp;Angle:</source>
+        <translation>&amp;Angle:</translation>
+    </message>
+    <message>
+        <source>%1, rotated by %2°</source>
+        <translation>%1, rotated by %2°</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, rotated by %2°</source>
+        <translation>&quot;%1&quot;, rotated by %2°</translation>
+    </message>
+</context>
+<context>
     <name>RotatorClient</name>
     <message>
         <source>The rotator&apos;s reply is none.</source>
@@ -2485,6 +2724,33 @@ Replace it?</translation>
     <message>
         <source>Not sent: the instrument holds %1. Esc puts that back.</source>
         <translation>Not sent: the instrument holds %1. Esc puts that back.</translation>
+    </message>
+</context>
+<context>
+    <name>Smooth</name>
+    <message>
+        <source>&amp;Smooth...</source>
+        <translation>&amp;Smooth...</translation>
+    </message>
+    <message>
+        <source>Averages the power of the selected curve over a width in degrees</source>
+        <translation>Averages the power of the selected curve over a width in degrees</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Smooth</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Width:</translation>
+    </message>
+    <message>
+        <source>%1, smoothed over %2°</source>
+        <translation>%1, smoothed over %2°</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, moving average of the power over %2°</source>
+        <translation>&quot;%1&quot;, moving average of the power over %2°</translation>
     </message>
 </context>
 <context>
