@@ -4,6 +4,7 @@
 #include "connectdialog.h"
 #include "console/inputgate.h"
 #include "console/recordkeeper.h"
+#include "console/watchdesk.h"
 #include "console/writenotice.h"
 #include "frame/inputrules.h"
 #include "frame/manual.h"
@@ -72,6 +73,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_records(new RecordKeeper(this))
     , m_connectDialog(new ConnectDialog(this))
     , m_wait(this)
+    , m_watch(new WatchDesk({this, m_ui.get(), m_link, m_session, &m_chart, &m_status}))
     , m_clockTimer(new QTimer(this))
 {
     resize(smallestWindow());
@@ -98,6 +100,7 @@ MainWindow::MainWindow(QWidget *parent)
 MainWindow::~MainWindow()
 {
     writeSettings();
+    m_watch->save();
 }
 
 void MainWindow::beginOncePainted(const StartOptions &options)
@@ -171,8 +174,14 @@ void MainWindow::connectSession()
     connect(m_session, &LinkSession::readingChanged, this, &MainWindow::showReading);
     connect(m_session, &LinkSession::settingConfirmed, this, &MainWindow::tellConfirmed);
     connect(m_session, &LinkSession::settingRefused, this, &MainWindow::tellRefused);
-    connect(m_session, &LinkSession::linkLost, this, &MainWindow::errorMessageBox);
-    connect(m_session, &LinkSession::failed, this, &MainWindow::errorMessageBox);
+    connect(m_session, &LinkSession::linkLost, this, [this](const QString &reason) {
+        if (!m_watch->takesLoss(reason))
+            errorMessageBox(reason);
+    });
+    connect(m_session, &LinkSession::failed, this, [this](const QString &reason) {
+        if (!m_watch->takesFailure(reason))
+            errorMessageBox(reason);
+    });
     connect(m_session, &LinkSession::readingDue, this, &MainWindow::readValue);
     connect(m_session, &LinkSession::recordDue, this, &MainWindow::saveValue);
     m_session->setRecordInterval([this] { return m_panel.recordInterval(); });
@@ -200,6 +209,7 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 
 bool MainWindow::openPort(const QString &port, const int &baudRate)
 {
+    m_watch->endTries();
     return m_session->open(port, baudRate);
 }
 
@@ -228,7 +238,10 @@ void MainWindow::showLinkState(LinkSession::State state)
         m_panel.showLinkState(m_session->mode(), true);
         break;
     case LinkSession::State::Open: // the panel stays as the instrument's answers left it
-        m_chart.clear();
+        if (m_watch->isReconnecting())
+            m_chart.resume();
+        else
+            m_chart.clear();
         break;
     }
     showReading();
@@ -626,6 +639,7 @@ void MainWindow::setLanguage(const QString &code)
     m_status.retranslate();
     m_connectDialog->retranslate();
     m_chart.retranslate();
+    m_watch->retranslate();
     showReading();
 }
 

@@ -25,6 +25,7 @@ class QLockFile;
 class QTimer;
 class RecordKeeper;
 class SerialLogic;
+class WatchDesk;
 
 namespace Ui {
 class MainWindow;
@@ -158,6 +159,7 @@ private:
     RecordKeeper *m_records;
     ConnectDialog *m_connectDialog;
     TaskWait m_wait;
+    WatchDesk *m_watch;
     QTimer *m_clockTimer;
     std::unique_ptr<QLockFile> m_folderLock;
     std::optional<StartOptions> m_startOptions; // until the window is painted

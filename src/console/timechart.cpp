@@ -1,6 +1,7 @@
 #include "console/timechart.h"
 
 #include "2d/view/graphicsbase.h"
+#include "2d/view/pathinfo.h"
 #include "measure/reading.h"
 
 #include <QBoxLayout>
@@ -32,23 +33,59 @@ void TimeChart::feed(const Reading &reading, qint64 now)
     m_lastTick = m_lastTick == noTick ? now : std::min(now, m_lastTick + seconds * second);
     m_elapsedSeconds += double(seconds);
     if (m_elapsedSeconds > longestRun) {
+        removeFurtherLines();
         m_view->clearChartData(powerPath);
         m_elapsedSeconds = 0.0;
     }
     if (reading.state != Reading::State::None)
-        m_view->updateChart(powerPath, QPointF(m_elapsedSeconds / secondsPerMinute, reading.level));
+        m_view->updateChart(m_path, QPointF(m_elapsedSeconds / secondsPerMinute, reading.level));
 }
 
 void TimeChart::clear()
 {
+    removeFurtherLines();
     m_view->clearChartData(powerPath);
     restartTime();
 }
 
+void TimeChart::removeFurtherLines()
+{
+    const QList<int> lines = m_view->paths().keys();
+    for (const int line : lines) {
+        if (m_furtherLines.contains(line))
+            m_view->clearChart(line);
+    }
+    m_furtherLines.clear();
+    m_path = powerPath;
+}
+
 void TimeChart::restartTime()
 {
+    if (m_lastTick != noTick) {
+        m_interrupted = m_elapsedSeconds;
+        m_interruptedTick = m_lastTick;
+    }
     m_elapsedSeconds = 0.0;
     m_lastTick = noTick;
+}
+
+void TimeChart::resume()
+{
+    m_elapsedSeconds = m_interrupted;
+    m_lastTick = m_interruptedTick;
+    const PathInfo *before = m_view->paths().value(m_path);
+    if (!before || before->points().isEmpty())
+        return; // no line to be apart from
+    PathInfo *path = m_view->createPath(before->name());
+    path->setColor(before->color());
+    path->setLineWidth(before->lineWidth());
+    m_path = path->pathId();
+    m_furtherLines.append(m_path);
+}
+
+double TimeChart::position() const
+{
+    return m_elapsedSeconds / secondsPerMinute;
 }
 
 void TimeChart::setPeriod(int minutes, const QString &title)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QList>
 
 class GraphicsBase;
 class QBoxLayout;
@@ -27,6 +28,11 @@ public:
     void clear();
     /// The next point stands at 0, whatever the chart shows.
     void restartTime();
+    /// A link that was lost is back: the next point stands where the time has come to since the
+    /// point before restartTime(), on a line of its own, so that there is a gap.
+    void resume();
+    /// Where the last point stands, in minutes.
+    double position() const;
 
     /// Shows the last \a minutes, with \a title at the time axis.
     void setPeriod(int minutes, const QString &title);
@@ -39,8 +45,14 @@ public:
 private:
     static constexpr qint64 noTick = -1;
 
+    void removeFurtherLines();
+
     GraphicsBase *m_view;
     QElapsedTimer m_clock;
     qint64 m_lastTick = noTick;    // ms
     double m_elapsedSeconds = 0.0; // since the chart was last emptied
+    double m_interrupted = 0.0;    // what the last two were at the last restartTime()
+    qint64 m_interruptedTick = noTick;
+    int m_path = 1;            // the line that grows, by its id
+    QList<int> m_furtherLines; // those behind gaps
 };

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AlarmNotice</name>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>报警：%1</translation>
+    </message>
+    <message>
+        <source>The limits rest</source>
+        <translation>限值暂停</translation>
+    </message>
+</context>
+<context>
     <name>Average</name>
     <message>
         <source>A&amp;verage</source>
@@ -617,6 +628,96 @@ correction</source>
     <message>
         <source>Chart</source>
         <translation>图表</translation>
+    </message>
+</context>
+<context>
+    <name>LimitWatch</name>
+    <message>
+        <source>above %1</source>
+        <translation>高于 %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>低于 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsPanel</name>
+    <message>
+        <source>&amp;Upper limit</source>
+        <translation>上限(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Lower limit</source>
+        <translation>下限(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>上限</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>下限</translation>
+    </message>
+    <message>
+        <source>&amp;Hysteresis</source>
+        <translation>回差(&amp;H)</translation>
+    </message>
+    <message>
+        <source>An alarm ends once the level is back by as much</source>
+        <translation>电平回到限值内这么多时报警结束</translation>
+    </message>
+    <message>
+        <source>Readings in a &amp;row</source>
+        <translation>连续读数(&amp;R)</translation>
+    </message>
+    <message>
+        <source>So many readings beyond a limit, one after the other, are an alarm</source>
+        <translation>连续这么多次读数超限即报警</translation>
+    </message>
+    <message>
+        <source>L&amp;atched</source>
+        <translation>锁存(&amp;A)</translation>
+    </message>
+    <message>
+        <source>An alarm stays until it is acknowledged</source>
+        <translation>报警保持到确认为止</translation>
+    </message>
+    <message>
+        <source>Ac&amp;knowledge</source>
+        <translation>确认(&amp;K)</translation>
+    </message>
+    <message>
+        <source>No limits are watched.</source>
+        <translation>未监视限值。</translation>
+    </message>
+    <message>
+        <source>The lower limit must lie below the upper one.</source>
+        <translation>下限必须低于上限。</translation>
+    </message>
+    <message>
+        <source>The limits rest during the relative measurement.</source>
+        <translation>相对测量期间限值暂停。</translation>
+    </message>
+    <message>
+        <source>No reading.</source>
+        <translation>无读数。</translation>
+    </message>
+    <message>
+        <source>Inside the limits.</source>
+        <translation>在限值内。</translation>
+    </message>
+    <message>
+        <source>Above the upper limit.</source>
+        <translation>高于上限。</translation>
+    </message>
+    <message>
+        <source>Below the lower limit.</source>
+        <translation>低于下限。</translation>
+    </message>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>报警：%1</translation>
     </message>
 </context>
 <context>
@@ -2240,6 +2341,25 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>Reconnector</name>
+    <message>
+        <source>No link since %1.</source>
+        <translation>自 %1 起无连接。</translation>
+    </message>
+    <message>
+        <source>Trying again …</source>
+        <translation>正在重试 …</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 to come back.</source>
+        <translation>等待 %1 恢复。</translation>
+    </message>
+    <message>
+        <source>Next try in %1 s.</source>
+        <translation>%1 秒后重试。</translation>
+    </message>
+</context>
+<context>
     <name>RecordChart</name>
     <message>
         <source>Record</source>
@@ -2754,6 +2874,73 @@ Replace it?</source>
     </message>
 </context>
 <context>
+    <name>StatisticsPanel</name>
+    <message>
+        <source>&amp;Over</source>
+        <translation>范围(&amp;O)</translation>
+    </message>
+    <message>
+        <source>since reset</source>
+        <translation>自重置起</translation>
+    </message>
+    <message>
+        <source>the shown range of the chart</source>
+        <translation>图表所示范围</translation>
+    </message>
+    <message>
+        <source>Statistics over</source>
+        <translation>统计范围</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Peak to peak</source>
+        <translation>峰峰值</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>读数</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>起始</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>重置(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>StatusLabels</name>
     <message>
         <source>&lt;font color = red&gt;Close&lt;/font&gt;</source>
@@ -2894,10 +3081,107 @@ Replace it?</source>
     </message>
 </context>
 <context>
+    <name>TrafficModel</name>
+    <message>
+        <source>to</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>接收</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Wait [ms]</source>
+        <translation>等待 [ms]</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>内容</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficPanel</name>
+    <message>
+        <source>Lines that hold …</source>
+        <translation>包含 … 的行</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>暂停(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>通信</translation>
+    </message>
+</context>
+<context>
     <name>ViewActions</name>
     <message>
         <source>Manage Curves</source>
         <translation>管理曲线</translation>
+    </message>
+</context>
+<context>
+    <name>WatchDesk</name>
+    <message>
+        <source>no reply in time</source>
+        <translation>超时无应答</translation>
+    </message>
+    <message>
+        <source>not understood</source>
+        <translation>无法识别</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>no link</source>
+        <translation>无连接</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Open Record…</source>
+        <translation>打开记录…</translation>
+    </message>
+    <message>
+        <source>Reconnect by itself</source>
+        <translation>自动重新连接</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>通信</translation>
     </message>
 </context>
 <context>

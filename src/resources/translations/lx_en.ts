@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AlarmNotice</name>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>Alarm: %1</translation>
+    </message>
+    <message>
+        <source>The limits rest</source>
+        <translation>The limits rest</translation>
+    </message>
+</context>
+<context>
     <name>Average</name>
     <message>
         <source>A&amp;verage</source>
@@ -617,6 +628,96 @@ correction</translation>
     <message>
         <source>Chart</source>
         <translation>Chart</translation>
+    </message>
+</context>
+<context>
+    <name>LimitWatch</name>
+    <message>
+        <source>above %1</source>
+        <translation>above %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>below %1</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsPanel</name>
+    <message>
+        <source>&amp;Upper limit</source>
+        <translation>&amp;Upper limit</translation>
+    </message>
+    <message>
+        <source>&amp;Lower limit</source>
+        <translation>&amp;Lower limit</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Upper limit</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Lower limit</translation>
+    </message>
+    <message>
+        <source>&amp;Hysteresis</source>
+        <translation>&amp;Hysteresis</translation>
+    </message>
+    <message>
+        <source>An alarm ends once the level is back by as much</source>
+        <translation>An alarm ends once the level is back by as much</translation>
+    </message>
+    <message>
+        <source>Readings in a &amp;row</source>
+        <translation>Readings in a &amp;row</translation>
+    </message>
+    <message>
+        <source>So many readings beyond a limit, one after the other, are an alarm</source>
+        <translation>So many readings beyond a limit, one after the other, are an alarm</translation>
+    </message>
+    <message>
+        <source>L&amp;atched</source>
+        <translation>L&amp;atched</translation>
+    </message>
+    <message>
+        <source>An alarm stays until it is acknowledged</source>
+        <translation>An alarm stays until it is acknowledged</translation>
+    </message>
+    <message>
+        <source>Ac&amp;knowledge</source>
+        <translation>Ac&amp;knowledge</translation>
+    </message>
+    <message>
+        <source>No limits are watched.</source>
+        <translation>No limits are watched.</translation>
+    </message>
+    <message>
+        <source>The lower limit must lie below the upper one.</source>
+        <translation>The lower limit must lie below the upper one.</translation>
+    </message>
+    <message>
+        <source>The limits rest during the relative measurement.</source>
+        <translation>The limits rest during the relative measurement.</translation>
+    </message>
+    <message>
+        <source>No reading.</source>
+        <translation>No reading.</translation>
+    </message>
+    <message>
+        <source>Inside the limits.</source>
+        <translation>Inside the limits.</translation>
+    </message>
+    <message>
+        <source>Above the upper limit.</source>
+        <translation>Above the upper limit.</translation>
+    </message>
+    <message>
+        <source>Below the lower limit.</source>
+        <translation>Below the lower limit.</translation>
+    </message>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>Alarm: %1</translation>
     </message>
 </context>
 <context>
@@ -2240,6 +2341,25 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>Reconnector</name>
+    <message>
+        <source>No link since %1.</source>
+        <translation>No link since %1.</translation>
+    </message>
+    <message>
+        <source>Trying again …</source>
+        <translation>Trying again …</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 to come back.</source>
+        <translation>Waiting for %1 to come back.</translation>
+    </message>
+    <message>
+        <source>Next try in %1 s.</source>
+        <translation>Next try in %1 s.</translation>
+    </message>
+</context>
+<context>
     <name>RecordChart</name>
     <message>
         <source>Record</source>
@@ -2754,6 +2874,73 @@ Replace it?</translation>
     </message>
 </context>
 <context>
+    <name>StatisticsPanel</name>
+    <message>
+        <source>&amp;Over</source>
+        <translation>&amp;Over</translation>
+    </message>
+    <message>
+        <source>since reset</source>
+        <translation>since reset</translation>
+    </message>
+    <message>
+        <source>the shown range of the chart</source>
+        <translation>the shown range of the chart</translation>
+    </message>
+    <message>
+        <source>Statistics over</source>
+        <translation>Statistics over</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Now</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Peak to peak</source>
+        <translation>Peak to peak</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>Sigma</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Readings</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>Missed</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>Since</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Reset</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+</context>
+<context>
     <name>StatusLabels</name>
     <message>
         <source>&lt;font color = red&gt;Close&lt;/font&gt;</source>
@@ -2894,10 +3081,107 @@ Replace it?</translation>
     </message>
 </context>
 <context>
+    <name>TrafficModel</name>
+    <message>
+        <source>to</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>from</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>Wait [ms]</source>
+        <translation>Wait [ms]</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficPanel</name>
+    <message>
+        <source>Lines that hold …</source>
+        <translation>Lines that hold …</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>C&amp;lear</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Traffic</translation>
+    </message>
+</context>
+<context>
     <name>ViewActions</name>
     <message>
         <source>Manage Curves</source>
         <translation>Manage Curves</translation>
+    </message>
+</context>
+<context>
+    <name>WatchDesk</name>
+    <message>
+        <source>no reply in time</source>
+        <translation>no reply in time</translation>
+    </message>
+    <message>
+        <source>not understood</source>
+        <translation>not understood</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refused</translation>
+    </message>
+    <message>
+        <source>no link</source>
+        <translation>no link</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>Open Record…</source>
+        <translation>Open Record…</translation>
+    </message>
+    <message>
+        <source>Reconnect by itself</source>
+        <translation>Reconnect by itself</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limits</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Traffic</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include <array>
+
+class GraphicsBase;
+class LimitWatch;
+
+QT_BEGIN_NAMESPACE
+class QGraphicsLineItem;
+class QGraphicsSimpleTextItem;
+QT_END_NAMESPACE
+
+/// The limits as lines across the time chart, while they are watched and in view.
+class LimitLines : public QObject
+{
+    Q_OBJECT
+
+public:
+    LimitLines(LimitWatch *watch, GraphicsBase *view, QObject *parent);
+
+private:
+    struct Line
+    {
+        QGraphicsLineItem *line; ///< the scene's
+        QGraphicsSimpleTextItem *label;
+    };
+
+    void place();
+    void place(const Line &line, double level, bool isShown) const;
+
+    LimitWatch *m_watch;
+    GraphicsBase *m_view;
+    std::array<Line, 2> m_lines; ///< by LimitAlarm::Limit
+};
