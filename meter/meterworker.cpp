@@ -78,7 +78,8 @@ void MeterWorker::tryOpen()
         lose(m_error);
     } else if (m_keepsOpen) {
         describe();
-        poll(m_pollPause);
+        if (m_pollPause >= 0 && m_isLinkOpen)
+            m_pollTimer.start(0);
     } else {
         becomeOpen();
     }

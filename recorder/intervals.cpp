@@ -3,17 +3,25 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace {
+
+constexpr qint64 jitter = 2; // ms
+
+} // namespace
+
 Intervals::Intervals(const Moment &start, qint64 length)
     : m_length(length)
     , m_start(start.steady)
     , m_startWall(start.wall)
-    , m_last(start)
+    , m_reference(start)
 {}
 
 qint64 Intervals::look(const Moment &now)
 {
     const qint64 difference = now.wall - wallAt(now.steady);
-    m_last = now;
+    // The two clocks cannot be read at once, and rows are to have even times even so.
+    if (std::abs(difference) > jitter)
+        m_reference = now;
     return std::abs(difference) > step ? difference : 0;
 }
 
@@ -28,7 +36,7 @@ Intervals::Interval Intervals::close(qint64 steady)
 
 qint64 Intervals::wallAt(qint64 steady) const
 {
-    const qint64 nanoseconds = steady - m_last.steady;
-    // To the nearest millisecond, before and after the last look alike.
-    return m_last.wall + (nanoseconds + (nanoseconds < 0 ? -500000 : 500000)) / 1000000;
+    const qint64 nanoseconds = steady - m_reference.steady;
+    // To the nearest millisecond, before and after that moment alike.
+    return m_reference.wall + (nanoseconds + (nanoseconds < 0 ? -500000 : 500000)) / 1000000;
 }

@@ -39,5 +39,5 @@ private:
     const qint64 m_length;
     qint64 m_start;     // of the interval under way, by the steady clock
     qint64 m_startWall; // the same as it was told
-    Moment m_last;      // look at the clocks
+    Moment m_reference; // by which one clock's time is told from the other's
 };

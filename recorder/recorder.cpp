@@ -161,6 +161,8 @@ void Recorder::takeEvent(const char *name, qint64 wall, const JsonLine &details)
 {
     JsonLine line;
     line.add("time", isoTime(wall)).add("event", QLatin1String(name)).append(details);
+    if (m_output.isClosed())
+        return;
     if (printsRows()) {
         std::fwrite(line.line().constData(), 1, size_t(line.line().size()), stderr);
         return;

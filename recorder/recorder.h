@@ -46,7 +46,10 @@ public:
     void stop();
 
     /// Whether rows could not be written, and are lost when the program ends.
-    bool hasUnwrittenRows() const { return m_rows.waiting() > 0 || m_hasLostRows; }
+    bool hasUnwrittenRows() const
+    {
+        return m_hasLostRows || (m_rows.waiting() > 0 && !m_output.isClosed());
+    }
 
 signals:
     void ended(Recorder::End end);
