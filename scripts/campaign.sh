@@ -1,5 +1,7 @@
 #!/bin/bash
 # Builds and runs one of the long campaigns; what they try is told in docs/reliability.md.
+# shellcheck disable=SC2317,SC2016 # carry_out is called by xargs
+# shellcheck disable=SC2086 # an option that was not given is no word
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
@@ -7,11 +9,20 @@ usage() {
     cat <<'TEXT'
 usage: scripts/campaign.sh faults|files|week [OPTION...]
 
-Builds the campaign into build/ and runs it; the options are the campaign's own (--help lists them).
+  --slice         a few jobs only, as among the tests
+  --only TEXT     only the jobs whose names hold this text
+  --list          only lists the names of the jobs
+  --jobs N        how many at a time (two a core)
+  --scenarios N   random combinations beside the systematic ones (200; faults)
+  --seed S        the same seed gives the same combinations or the same week (1)
+  --days N        length of the run (7; week)
+  --keep          keeps records and logs beside the program (week)
+  --built FOLDER  takes the programs in this build folder, and builds nothing
 TEXT
 }
 
-case ${1-} in
+campaign=${1-}
+case $campaign in
 faults) program=mz_faultcampaign ;;
 files) program=mz_filecampaign ;;
 week) program=mz_longrun ;;
@@ -26,8 +37,94 @@ week) program=mz_longrun ;;
 esac
 shift
 
-scripts/install-dependencies.sh build run test
-cmake --preset release
-cmake --build build --target "$program" mz6218-sim
-export QT_QPA_PLATFORM=offscreen
-"build/tests/$program/$program" "$@"
+slice='' only='' list='' keep='' built=''
+jobs=$((2 * $(nproc))) scenarios=200 seed=1 days=7
+while [[ $# -gt 0 ]]; do
+    case $1 in
+    --slice | --list | --keep) declare "${1#--}=${1#--}" ;;
+    --only | --jobs | --scenarios | --seed | --days | --built)
+        [[ $# -ge 2 ]] || { usage >&2 && exit 2; }
+        declare "${1#--}=$2"
+        shift
+        ;;
+    *)
+        usage >&2
+        exit 2
+        ;;
+    esac
+    shift
+done
+
+if [[ -z $built ]]; then
+    scripts/install-dependencies.sh build run test
+    cmake --preset release
+    cmake --build build --target "$program" mz6218-sim
+    built=build
+fi
+program=$(readlink -f "$built")/tests/$program/$program
+export QT_QPA_PLATFORM=offscreen slice program
+
+case $campaign in
+faults) names=$("$program" list ${slice:-"$scenarios" "$seed"}) ;;
+files) names=$("$program" list) ;;
+week) names="week" ;;
+esac
+names=$(grep -F -- "$only" <<<"$names") || { echo "There is no such job." >&2 && exit 2; }
+if [[ -n $list ]]; then
+    echo "$names"
+    exit 0
+fi
+
+# Beside the program, on the same file system: a link to the program in a folder of its own lets a job's
+# files lie apart from those of the others.
+folder=$(mktemp -d "$(dirname "$program")/jobs-XXXXXX")
+trap 'rm -rf "$folder"' EXIT
+export folder
+
+# carry_out NAME: its lines, those of what is wrong with its name; a crash or a hang counts as well.
+carry_out() {
+    local place=$folder/$SLOT code=0
+    mkdir -p "$place"
+    [[ -e $place/console ]] || ln "$program" "$place/console"
+    (cd "$place" && timeout --kill-after=5 600 ./console run "$1" $slice) >"$place/out" 2>"$place/err" || code=$?
+    sed "s|^WRONG: |&$1: |" "$place/out"
+    grep -q '^figure' "$place/out" && [[ $code -le 1 ]] && return
+    printf 'WRONG: %s: ended with %d: %s\n' "$1" "$code" "$(tail -c 2000 "$place/err" | tr '\n' ' ')"
+}
+export -f carry_out
+
+# Sums the figures up by their groups, as a table, and passes on what is wrong.
+report() {
+    awk -F '\t' '
+        /^figure/ {
+            if (!($2 in groups)) { groups[$2]; rows[++n] = $2 }
+            if (!($3 in columns)) { columns[$3]; heads[++m] = $3 }
+            sums[$2, $3] += $4
+            all[$3] += $4
+            next
+        }
+        { print; wrong += /^WRONG/ }
+        END {
+            line = "| |"; rule = "|---|"; total = "| **all** |"
+            for (j = 1; j <= m; ++j) {
+                line = line " " heads[j] " |"; rule = rule "--:|"; total = total " " all[heads[j]] " |"
+            }
+            print line "\n" rule
+            for (i = 1; i <= n; ++i) {
+                line = "| " rows[i] " |"
+                for (j = 1; j <= m; ++j) line = line " " sums[rows[i], heads[j]] + 0 " |"
+                print line
+            }
+            if (n > 1 && m > 1) print total
+            print wrong + 0 " wrong"
+            exit wrong > 0 || n == 0
+        }'
+}
+
+if [[ $campaign == week ]]; then
+    code=0
+    "$program" ${slice:-"$days" "$seed"} $keep >"$folder/out" || code=$?
+    report <"$folder/out" || code=1
+    exit $code
+fi
+xargs -d '\n' -P "$jobs" --process-slot-var=SLOT -I NAME bash -c 'carry_out "$1"' _ NAME <<<"$names" | report

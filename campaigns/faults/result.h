@@ -1,31 +1,38 @@
 #pragma once
 
-#include <QByteArray>
 #include <QMap>
 #include <QStringList>
-#include <QVector>
+#include <QTextStream>
 
 /// What came of one scenario.
 struct Result
 {
-    struct Failure
-    {
-        QString check; ///< one of checks
-        QString text;
-    };
-    /// What is checked, in the order of the report.
-    static const QStringList checks;
-
-    QString name;
     QMap<QString, int> faults; ///< how often each kind befell a command
     int links = 0;             ///< attempts to open one
     int rows = 0;              ///< recorded and checked
     int boxes = 0;
-    QVector<Failure> failures;
+    QStringList wrong;
 
-    void add(const char *check, const QStringList &texts);
+    /// Adds \a texts, each once: a fault that lasts shows in every row.
+    void add(const char *check, const QStringList &texts)
+    {
+        for (const QString &text : texts)
+            wrong.append(QLatin1String(check) + QStringLiteral(": ") + text);
+        wrong.removeDuplicates();
+    }
 
-    /// One line, and back; a text that is none gives a result without a name.
-    QByteArray toLine() const;
-    static Result fromLine(const QByteArray &line);
+    /// Prints the lines that scripts/campaign.sh reads, its figures to be counted under \a group.
+    void print(const QString &group) const
+    {
+        QTextStream out(stdout);
+        int sum = 0;
+        for (const int count : faults)
+            sum += count;
+        const QList<QPair<const char *, int>> figures{
+            {"scenarios", 1}, {"faults", sum}, {"links", links}, {"boxes", boxes}, {"rows", rows}};
+        for (const auto &figure : figures)
+            out << "figure\t" << group << '\t' << figure.first << '\t' << figure.second << '\n';
+        for (const QString &text : wrong)
+            out << "WRONG: " << text << '\n';
+    }
 };

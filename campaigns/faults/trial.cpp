@@ -19,9 +19,7 @@ Trial::Trial(const Scenario &scenario)
     , m_instrument(scenario.mode, scenario.faults)
     , m_witness(m_console, m_instrument)
     , m_operator(m_console, m_instrument, m_witness)
-{
-    m_result.name = scenario.name;
-}
+{}
 
 Result Trial::run()
 {

@@ -2,23 +2,21 @@
 #include "testmain.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextStream>
 
 #include <cstdio>
 
+/// Lets each system call fail with which our programs write their files, one after another; to be
+/// run by scripts/campaign.sh.
+///   mz_filecampaign list               the writers
+///   mz_filecampaign run NAME [slice]   all failures of one; in a slice a full disk alone with a
+///   window
+
 namespace {
 
 constexpr qint64 someDate = 1772600766; // 2026-03-04 05:06:06 UTC
-
-struct Wishes
-{
-    QRegularExpression only;
-    bool isSlice = false;
-};
 
 struct Figures
 {
@@ -27,28 +25,11 @@ struct Figures
     int wrong = 0;
 };
 
-Wishes readOptions(const QCoreApplication &app)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Lets each system call fail with which our programs write their files, one "
-                       "after another."));
-    parser.addHelpOption();
-    const QCommandLineOption only(QStringLiteral("only"),
-                                  QStringLiteral("Only the writers whose names match."),
-                                  QStringLiteral("PATTERN"));
-    const QCommandLineOption slice(QStringLiteral("slice"),
-                                   QStringLiteral("With a window, try a full disk alone."));
-    parser.addOptions({only, slice});
-    parser.process(app);
-    return {QRegularExpression(parser.value(only)), parser.isSet(slice)};
-}
-
-void print(const Writer &writer, const QByteArray &what, const QStringList &faults)
+void print(const QByteArray &what, const QStringList &faults)
 {
     QTextStream out(stdout);
     for (const QString &fault : faults)
-        out << "WRONG: " << writer.name << ": " << what << ": " << fault << '\n';
+        out << "WRONG: " << what << ": " << fault << '\n';
 }
 
 /// What is tried with \a writer; in a slice all that have a window meet a full disk alone, since a
@@ -76,7 +57,7 @@ Performance following(const Stage &stage, const Writer &writer, const Files &fil
 Figures tryEverything(const Stage &stage, const Writer &writer, const QVector<Failure> &failures)
 {
     const Judgement judgement(stage, writer);
-    print(writer, "undisturbed", judgement.faults());
+    print("undisturbed", judgement.faults());
     Figures figures{judgement.calls().size(), 0, judgement.faults().isEmpty() ? 0 : 1};
     QVector<QPair<Files, Performance>> known;
     for (int number = 0; number < judgement.calls().size(); ++number) {
@@ -88,7 +69,7 @@ Figures tryEverything(const Stage &stage, const Writer &writer, const QVector<Fa
             const Performance next = following(stage, writer, performance.files, &known);
             const QStringList faults = judgement.faultsOf(performance, failure) +
                                        judgement.faultsOfNext(next, performance);
-            print(writer, "call " + QByteArray::number(number) + ' ' + failure.name, faults);
+            print("call " + QByteArray::number(number) + ' ' + failure.name, faults);
             ++figures.runs;
             figures.wrong += faults.isEmpty() ? 0 : 1;
         }
@@ -115,26 +96,25 @@ int main(int argc, char **argv)
     SystemCalls::setStage(scene, someDate);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication app(argc, argv);
-    const Wishes wishes = readOptions(app);
+    const QStringList words = QCoreApplication::arguments().mid(1);
 
     const Stage stage(scene);
     QTextStream out(stdout);
-    QString table = QStringLiteral("| Written | System calls | Failures tried | Wrong outcomes |\n"
-                                   "|---|---:|---:|---:|\n");
-    Figures sum;
-    const QVector<Writer> writers = allWriters();
-    for (const Writer &writer : writers) {
-        if (!wishes.only.match(QString::fromLatin1(writer.name)).hasMatch())
+    int runs = 0;
+    int wrong = 0;
+    for (const Writer &writer : allWriters()) {
+        if (words.value(0) == QLatin1String("list"))
+            out << writer.name << '\n';
+        if (words.value(0) != QLatin1String("run") || writer.name != words.value(1).toUtf8())
             continue;
-        const Figures figures = tryEverything(stage, writer, failuresFor(writer, wishes.isSlice));
-        sum = {sum.calls + figures.calls, sum.runs + figures.runs, sum.wrong + figures.wrong};
-        table += QStringLiteral("| %1 | %2 | %3 | %4 |\n")
-                     .arg(QString::fromLatin1(writer.name))
-                     .arg(figures.calls)
-                     .arg(figures.runs)
-                     .arg(figures.wrong);
+        const bool isSlice = words.value(2) == QLatin1String("slice");
+        const Figures figures = tryEverything(stage, writer, failuresFor(writer, isSlice));
+        out << "figure\t" << writer.name << "\tsystem calls\t" << figures.calls << '\n'
+            << "figure\t" << writer.name << "\tfailures tried\t" << figures.runs << '\n'
+            << "figure\t" << writer.name << "\twrong outcomes\t" << figures.wrong << '\n';
+        runs += figures.runs;
+        wrong += figures.wrong;
     }
-    out << table
-        << QStringLiteral("| all | %1 | %2 | %3 |\n").arg(sum.calls).arg(sum.runs).arg(sum.wrong);
-    return sum.runs > 0 && sum.wrong == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    return wrong == 0 && (runs > 0 || words.value(0) == QLatin1String("list")) ? EXIT_SUCCESS
+                                                                               : EXIT_FAILURE;
 }

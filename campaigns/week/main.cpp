@@ -6,7 +6,6 @@
 #include "weekfiles.h"
 #include "weekrun.h"
 
-#include <QCommandLineParser>
 #include <QTextStream>
 
 #include <cstdio>
@@ -32,26 +31,12 @@ struct Wishes
     quint32 seed = 1;
 };
 
-Wishes readOptions(const QCoreApplication &app)
+/// What scripts/campaign.sh asks for: "slice", or the days and the seed; then "keep".
+Wishes readWishes(const QStringList &words)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Runs the console against the simulated instrument through a week in virtual time."));
-    parser.addHelpOption();
-    const QCommandLineOption days(QStringLiteral("days"), QStringLiteral("Length of the run (7)."),
-                                  QStringLiteral("N"), QStringLiteral("7"));
-    const QCommandLineOption seed(QStringLiteral("seed"),
-                                  QStringLiteral("The same seed gives the same plan (1)."),
-                                  QStringLiteral("S"), QStringLiteral("1"));
-    const QCommandLineOption slice(
-        QStringLiteral("slice"),
-        QStringLiteral("90 minutes around a midnight with one loss of the link, instead of days."));
-    const QCommandLineOption keep(QStringLiteral("keep"),
-                                  QStringLiteral("Keep the records and logs beside the program."));
-    parser.addOptions({days, seed, slice, keep});
-    parser.process(app);
-    return {parser.isSet(slice), parser.isSet(keep), std::max(1, parser.value(days).toInt()),
-            parser.value(seed).toUInt()};
+    const bool isSlice = words.value(1) == QLatin1String("slice");
+    return {isSlice, words.last() == QLatin1String("keep"), std::max(1, words.value(1).toInt()),
+            isSlice ? 1 : words.value(2).toUInt()};
 }
 
 /// The fourth night of the run is the one in which summer time ends, and an hour comes twice.
@@ -63,24 +48,25 @@ WeekPlan makePlan(const Wishes &wishes)
                : WeekPlan::make(start, wishes.days * day, 2 * hour, 12 * hour, wishes.seed);
 }
 
-/// The table of what was expected and what was found, and the sum of all that differed.
+/// Prints what was expected and what was found, and counts what differed.
 class Report
 {
 public:
-    Report() { m_out << QStringLiteral("%1 |  expected |     found\n").arg(QString(), -44); }
-    void compare(const QString &what, qint64 expected, qint64 found)
+    void compare(const char *what, qint64 expected, qint64 found)
     {
-        m_out << QStringLiteral("%1 | %2 | %3\n").arg(what, -44).arg(expected, 9).arg(found, 9);
-        m_failures += expected == found ? 0 : 1;
+        tell(what, QString::number(found));
+        if (expected != found)
+            fail({QLatin1String(what) + QStringLiteral(": expected %1").arg(expected)});
     }
     void tell(const QString &what, const QString &figure)
     {
-        m_out << QStringLiteral("%1 |           | %2\n").arg(what, -44).arg(figure, 9);
+        m_out << "figure\t" << what << "\tfound\t" << figure << '\n';
     }
+    void tell(const char *what, const QString &figure) { tell(QLatin1String(what), figure); }
     void fail(const QStringList &faults)
     {
         for (const QString &fault : faults)
-            m_out << "FAULT: " << fault << '\n';
+            m_out << "WRONG: " << fault << '\n';
         m_failures += faults.size();
     }
     int failures() const { return m_failures; }
@@ -98,8 +84,7 @@ void reportMemory(const WeekRun &run, Report &report)
             QStringLiteral("memory after %1 h, KiB").arg(double(memory.first) / hour, 0, 'f', 1),
             QString::number(memory.second));
     const qint64 growth = run.memory().constLast().second - first;
-    report.tell(QStringLiteral("growth of it since the first figure, KiB"),
-                QString::number(growth));
+    report.tell("growth of it since the first figure, KiB", QString::number(growth));
     if (isMemoryTelling && growth > memoryBound)
         report.fail({QStringLiteral("the memory grew by more than %1 KiB").arg(memoryBound)});
 }
@@ -115,18 +100,16 @@ void reportRun(const WeekPlan &plan, const WeekRun &run, Report &report)
         restarts += int(seconds / 3601);
         boxes += link.isSecondTry ? 1 : 0;
     }
-    report.tell(QStringLiteral("hours of virtual time"),
-                QString::number(double(plan.end()) / hour, 'f', 1));
-    report.tell(QStringLiteral("links (one more than losses)"), QString::number(plan.links.size()));
-    report.tell(QStringLiteral("readings"), QString::number(run.readings()));
-    report.tell(QStringLiteral("waits that a busy machine left unanswered"),
+    report.tell("hours of virtual time", QString::number(double(plan.end()) / hour, 'f', 1));
+    report.tell("links (one more than losses)", QString::number(plan.links.size()));
+    report.tell("readings", QString::number(run.readings()));
+    report.tell("waits that a busy machine left unanswered",
                 QString::number(VirtualClock::unansweredWaits()));
-    report.compare(QStringLiteral("warning boxes"), boxes, run.boxes());
-    report.tell(QStringLiteral("chart points, seconds with a link"),
-                QStringLiteral("%1, %2").arg(run.chartPoints()).arg(open));
-    report.tell(QStringLiteral("most chart points at once (601 shown)"),
-                QString::number(run.mostChartPoints()));
-    report.compare(QStringLiteral("chart restarts after an hour"), restarts, run.chartRestarts());
+    report.compare("warning boxes", boxes, run.boxes());
+    report.tell("seconds with a link", QString::number(open));
+    report.tell("chart points", QString::number(run.chartPoints()));
+    report.tell("most chart points at once (601 shown)", QString::number(run.mostChartPoints()));
+    report.compare("chart restarts after an hour", restarts, run.chartRestarts());
     report.fail(run.faults());
 }
 
@@ -135,12 +118,12 @@ void reportFiles(const WeekPlan &plan, Report &report)
     const QVector<ExpectedRecord> records = expectedRecords(plan);
     const FilesFound rows =
         checkRecords(ConsoleTester::path(QStringLiteral("DataRecord")), plan, records);
-    report.compare(QStringLiteral("records"), records.size(), rows.records);
+    report.compare("records", records.size(), rows.records);
     report.fail(rows.faults);
 
     const QStringList hours = expectedLogs(plan);
     const FilesFound logs = checkLogs(ConsoleTester::path(QStringLiteral("Log")), hours);
-    report.compare(QStringLiteral("log files"), hours.size(), logs.logs);
+    report.compare("log files", hours.size(), logs.logs);
     report.fail(logs.faults);
 }
 
@@ -168,7 +151,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     // A box may come up and be closed while the console's window is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
-    const Wishes wishes = readOptions(app);
+    const Wishes wishes = readWishes(QCoreApplication::arguments());
     const WeekPlan plan = makePlan(wishes);
 
     QDir::setCurrent(QCoreApplication::applicationDirPath());
@@ -183,8 +166,7 @@ int main(int argc, char **argv)
     reportRun(plan, run, report);
     reportFiles(plan, report);
     reportMemory(run, report);
-    report.tell(QStringLiteral("real time, s"),
-                QString::number(VirtualClock::realElapsed() / 1000));
+    report.tell("real time, s", QString::number(VirtualClock::realElapsed() / 1000));
     if (!wishes.keep)
         ConsoleTester::cleanFolder();
     return report.failures() == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
