@@ -1,5 +1,6 @@
 #include "frame/appstyle.h"
 #include "frame/display.h"
+#include "frame/inputrules.h"
 #include "frame/language.h"
 #include "patterns/batch.h"
 #include "patterns/batchreport.h"
@@ -74,6 +75,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("mz6218-patterns"));
     QApplication::setApplicationVersion(QStringLiteral(MZ_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/patterns.ico")));
+    InputRules::install();
     QApplication::setFont(AppStyle::applicationFont());
     AppStyle::applyStyleSheet();
 

@@ -97,7 +97,7 @@ QString reportHtml(const Report &report)
                                   "</style></head>\n<body>\n<h2>%1</h2>\n")
                        .arg(title);
     html += QStringLiteral("<p>%1</p>\n")
-                .arg(report.created.toString(QStringLiteral("yyyy-MM-dd hh:mm")));
+                .arg(QLocale::c().toString(report.created, QStringLiteral("yyyy-MM-dd hh:mm")));
     html +=
         QStringLiteral("<p align=\"center\"><img src=\"%1\" width=\"%2\" height=\"%3\" alt=\"%4\">"
                        "</p>\n")

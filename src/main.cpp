@@ -3,6 +3,7 @@
 #include "doctor/doctor.h"
 #include "frame/appstyle.h"
 #include "frame/display.h"
+#include "frame/inputrules.h"
 #include "mainwindow.h"
 #include "messagelog.h"
 #include "process/parentconsole.h"
@@ -76,6 +77,7 @@ int main(int argc, char **argv)
         return refuse(Display::missingText() + QLatin1Char('\n'));
 
     qInstallMessageHandler(MessageLog::handler);
+    InputRules::install();
     QApplication::setFont(AppStyle::applicationFont());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/pt.ico")));
     QApplication::setApplicationName(QStringLiteral("MZ6218 Power Meter"));

@@ -148,6 +148,7 @@ void MainWindow::connectLink()
         else
             QGuiApplication::restoreOverrideCursor();
     });
+    connect(m_link, &SerialLogic::replied, m_settings, &SettingBoxes::noteOutcome);
     connect(m_link, &SerialLogic::updateIDN, this, &MainWindow::updateIDN);
     connect(m_link, &SerialLogic::updateFrequency, this, &MainWindow::updateFrequency);
     connect(m_link, &SerialLogic::updateOffset, this, &MainWindow::updateOffset);
@@ -171,6 +172,9 @@ void MainWindow::connectSession()
     connect(m_session, &LinkSession::portChanged, this,
             [this](const QString &port, int value) { m_status.showPort(port, value); });
     connect(m_session, &LinkSession::waitingFor, this, &MainWindow::showWaiting);
+    // Not the link's own events: it waits for those itself.
+    connect(m_session, &LinkSession::stillWaiting, this,
+            [] { QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers); });
     connect(m_session, &LinkSession::readingChanged, this, &MainWindow::showReading);
     connect(m_session, &LinkSession::settingConfirmed, this, &MainWindow::tellConfirmed);
     connect(m_session, &LinkSession::settingRefused, this, &MainWindow::tellRefused);
@@ -257,7 +261,6 @@ void MainWindow::showWaiting(const QString &what)
         return;
     }
     m_status.showNotice([what] { return what; });
-    QCoreApplication::processEvents(); // the link blocks the window in each of its waits
 }
 
 void MainWindow::errorMessageBox(QString error)

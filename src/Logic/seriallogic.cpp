@@ -185,7 +185,7 @@ bool SerialLogic::sendSerial(const QByteArray &cmd)
     }
     m_port->write(cmd);
     if (waitTelling(m_waits.serialWriting,
-                    [this](int ms) { return m_port->isOpen() && m_port->waitForBytesWritten(ms); }))
+                    [this](int ms) { return m_port->isOpen() && waitForWrite(*m_port, ms); }))
         return true;
     emit errors(tr("Failed to send cmd."));
     return false;
@@ -202,7 +202,7 @@ bool SerialLogic::sendTcp(const QByteArray &cmd)
         m_socket->write(cmd);
         if (waitTelling(m_waits.tcpWriting, [this](int ms) {
                 return m_socket->state() == QAbstractSocket::ConnectedState &&
-                       m_socket->waitForBytesWritten(ms);
+                       waitForWrite(*m_socket, ms);
             }))
             return true;
         if (++unconfirmedWrites > tolerableUnconfirmedWrites) {
@@ -292,9 +292,16 @@ bool SerialLogic::waitForNewBytes()
     // brought the reply in already.
     if (device->bytesAvailable() > m_staleBytes)
         return true;
-    return waitTelling(m_waits.reading, [device](int ms) {
-        return device->isOpen() && device->waitForReadyRead(ms);
+    return waitTelling(m_waits.reading, [this, device](int ms) {
+        const bool hasCome = m_isCancelled && device->bytesAvailable() > m_staleBytes;
+        return device->isOpen() && (hasCome || device->waitForReadyRead(ms));
     });
+}
+
+bool SerialLogic::waitForWrite(QIODevice &device, int ms) const
+{
+    // Who looks whether to cancel may handle events, and with them what is waited for here.
+    return (m_isCancelled && device.bytesToWrite() == 0) || device.waitForBytesWritten(ms);
 }
 
 QByteArray SerialLogic::takeInput()

@@ -57,8 +57,9 @@ public:
     void setWaits(const LinkWaits &waits) { m_waits = waits; }
 
     /// Lets every wait look at \a isCancelled some twenty times a second, and end as if its time
-    /// had run out once that is true. Only for a thread that nothing else lives in: connecting
-    /// then runs an event loop, since the socket's own wait cannot be cut short.
+    /// had run out once that is true. Connecting then runs an event loop, since the socket's own
+    /// wait cannot be cut short: in a thread with a window, for callers only that hold back what
+    /// the user does meanwhile.
     void setCancel(std::function<bool()> isCancelled) { m_isCancelled = std::move(isCancelled); }
     /// Lets everything that came before a command was sent be dropped, so that it is not taken for
     /// the reply.
@@ -155,6 +156,7 @@ private:
     bool sendSerial(const QByteArray &cmd);
     bool sendTcp(const QByteArray &cmd);
     bool waitForNewBytes();
+    bool waitForWrite(QIODevice &device, int ms) const;
     QByteArray takeInput();
     bool dropOverlongLine();
     bool isUp() const;

@@ -31,6 +31,8 @@ LinkSession::LinkSession(SerialLogic *link, QObject *parent)
     connect(link, &SerialLogic::updateSetFailed, this, &LinkSession::takeError);
     connect(link, &SerialLogic::lost, this, &LinkSession::takeLoss);
     connect(link, &SerialLogic::displayLog, this, &LinkSession::lineSent);
+    connect(link, &SerialLogic::replied, this,
+            [this](const QByteArray &, const QString &line) { emit lineReceived(line); });
 }
 
 QTimer *LinkSession::createTimer(const char *name, void (LinkSession::*due)())
@@ -76,7 +78,12 @@ bool LinkSession::open(const QString &port, int value)
     bool isOpen = false;
     {
         const QScopedValueRollback<bool> opening(m_isOpening, true);
+        m_link->setCancel([this] {
+            emit stillWaiting();
+            return m_isStopWanted;
+        });
         isOpen = openWithSettings(port, value);
+        m_link->setCancel({});
         emit waitingFor({});
     }
     if (isOpen)

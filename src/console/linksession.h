@@ -49,7 +49,7 @@ public:
     /// \a port and \a value: serial port and baud rate, or host and TCP port. False when that
     /// failed, which `failed` has told, or when it was stopped.
     bool open(const QString &port, int value);
-    /// Gives up the opening under way as soon as the wait it is in is over.
+    /// Gives up the opening under way, within a tenth of a second.
     void stopOpening();
     bool isOpening() const { return m_isOpening; }
 
@@ -110,9 +110,11 @@ signals:
     void stateChanged(LinkSession::State state);
     /// An open succeeded or failed: \a port and \a value as it was given them.
     void portChanged(const QString &port, int value);
-    /// What the opening under way waits for next, in words; empty when it is over. Whoever handles
-    /// it may handle events, and may call stopOpening().
+    /// What the opening under way waits for next, in words; empty when it is over.
     void waitingFor(const QString &what);
+    /// Comes some twenty times a second while an opening waits. Whoever handles it may handle
+    /// events, and may call stopOpening(), but must keep the user from everything else.
+    void stillWaiting();
     /// Every reading, also one that is missing, and the end of the former link's at an open.
     void readingChanged(const Reading &reading);
 
@@ -127,6 +129,8 @@ signals:
 
     /// A line on its way to the instrument.
     void lineSent(const QString &line);
+    /// A line that has come from it; empty when none came in time.
+    void lineReceived(const QString &line);
 
     void readingDue();
     void recordDue();

@@ -85,8 +85,10 @@ void setLook(QLabel *label, const QString &state)
     if (label->property(look) == state)
         return;
     label->setProperty(look, state);
-    label->style()->unpolish(label); // the style sheet looks at properties only then
+    const QFont font = label->font(); // which the style would take away
+    label->style()->unpolish(label);  // the style sheet looks at properties only then
     label->style()->polish(label);
+    label->setFont(font);
 }
 
 } // namespace

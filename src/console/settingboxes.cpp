@@ -104,9 +104,7 @@ void SettingBoxes::showFrequency(double value, const QString &unit)
 {
     m_ui->comboBoxUnit->setCurrentText(unit);
     m_ui->doubleSpinBoxFreq->setValue(value);
-    // No frequency is zero: the question for it was not answered.
-    hold(Setting::Frequency,
-         value > 0.0 ? std::optional<double>(value * m_frequencyFactor) : std::nullopt);
+    hold(Setting::Frequency, value * m_frequencyFactor);
 }
 
 void SettingBoxes::showOffset(double decibels)
@@ -118,14 +116,14 @@ void SettingBoxes::showOffset(double decibels)
 void SettingBoxes::showAverageCount(int count)
 {
     m_ui->spinBoxAverageCount->setValue(count);
-    hold(Setting::AverageCount, count > 0 ? std::optional<double>(count) : std::nullopt);
+    hold(Setting::AverageCount, count);
 }
 
 void SettingBoxes::showPowerUnit(const QString &unit)
 {
     const bool dBm = unit == QStringLiteral("dBm") || unit == QStringLiteral("DBM");
     checkSilently(dBm ? m_ui->radioButtondBm : m_ui->radioButtonW);
-    hold(Setting::PowerUnit, unit.isEmpty() ? std::nullopt : std::optional<double>(dBm));
+    hold(Setting::PowerUnit, dBm ? 1.0 : 0.0);
 }
 
 void SettingBoxes::showRelativeState(const QString &state)
@@ -133,12 +131,20 @@ void SettingBoxes::showRelativeState(const QString &state)
     const bool on = state == QStringLiteral("ON");
     checkSilently(on ? m_ui->radioButtonRelativeON : m_ui->radioButtonRelativeOFF);
     m_ui->groupBoxUnit->setEnabled(!on);
-    hold(Setting::RelativeState, state.isEmpty() ? std::nullopt : std::optional<double>(on));
+    hold(Setting::RelativeState, on ? 1.0 : 0.0);
 }
 
-void SettingBoxes::hold(Setting setting, std::optional<double> value)
+void SettingBoxes::noteOutcome(const QByteArray & /*command*/, const QString & /*line*/,
+                               Outcome outcome)
 {
-    m_held[setting].value = value;
+    m_outcome = outcome;
+}
+
+void SettingBoxes::hold(Setting setting, double value)
+{
+    // A question that was not answered shows as nothing or zero, which nobody has measured.
+    const bool isAnswered = std::exchange(m_outcome, Outcome::Ok) == Outcome::Ok;
+    m_held[setting].value = isAnswered ? std::optional<double>(value) : std::nullopt;
     mark(setting);
 }
 
@@ -273,8 +279,11 @@ bool SettingBoxes::isUnsent(Setting setting) const
 QString SettingBoxes::disagreement(Setting setting) const
 {
     const auto found = m_held.find(setting);
-    if (found == m_held.end() || !found->second.asked || !found->second.value ||
-        !differ(setting, *found->second.asked, *found->second.value))
+    if (found == m_held.end() || !found->second.asked)
+        return {};
+    if (!found->second.value)
+        return tr("%1 was confirmed, but could not be read back.").arg(nameOf(setting));
+    if (!differ(setting, *found->second.asked, *found->second.value))
         return {};
     return tr("%1: asked for %2, the instrument holds %3.")
         .arg(nameOf(setting), textOf(setting, *found->second.asked),

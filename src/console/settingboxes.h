@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Logic/outcome.h"
 #include "console/linksession.h"
 
 #include <QObject>
@@ -37,6 +38,8 @@ public:
     void showPowerUnit(const QString &unit);
     /// "ON" is on and locks the power unit, anything else is off.
     void showRelativeState(const QString &state);
+    /// What became of the question whose answer is shown next; anything but Ok is no answer.
+    void noteOutcome(const QByteArray &command, const QString &line, Outcome outcome);
     /// Forgets what the instrument holds: there is none.
     void forget();
 
@@ -49,8 +52,8 @@ public:
     void ask(Setting setting);
     /// Sends what is shown of \a setting over \a link.
     void send(Setting setting, SerialLogic &link) const;
-    /// What was asked for last of \a setting and what the instrument holds instead, in words; empty
-    /// when they agree or when nothing was asked for.
+    /// What was asked for last of \a setting and what the instrument holds instead, or that it does
+    /// not tell, in words; empty when the two agree or when nothing was asked for.
     QString disagreement(Setting setting) const;
     /// Whether the instrument holds another value than the one shown.
     bool isUnsent(Setting setting) const;
@@ -79,7 +82,7 @@ private:
     QString textOf(Setting setting, double value) const;
     QVector<QWidget *> widgetsOf(Setting setting) const;
     bool differ(Setting setting, double a, double b) const;
-    void hold(Setting setting, std::optional<double> value);
+    void hold(Setting setting, double value);
     void mark(Setting setting);
     void markAll();
     void fillFrequencyUnits();
@@ -87,6 +90,7 @@ private:
 
     Ui::MainWindow *m_ui;
     std::map<Setting, Held> m_held;
+    Outcome m_outcome = Outcome::Ok;
     int m_frequencyFactor = 1000000; // kHz in one of the shown unit
     bool m_isToggled = false;        // by the click under way
 };

@@ -31,7 +31,7 @@ StatusLabels::StatusLabels(QStatusBar *bar)
     , m_notice(new ElidedLabel(bar))
     , m_stop(new QPushButton(bar))
 {
-    constexpr int noticeStretch = 5;
+    constexpr int noticeStretch = 4;
     m_notice->setObjectName(QStringLiteral("labelNotice"));
     m_stop->setObjectName(QStringLiteral("btnStopOpening"));
     bar->insertWidget(0, m_notice, noticeStretch);

@@ -44,8 +44,9 @@ QString adviceOnSilence(bool serial)
     return serial
                ? QStringLiteral("Is this the instrument's port, and the baud rate its own? Is the "
                                 "instrument on, and the cable one with a return line?")
-               : QStringLiteral("Is this the address of the instrument, and not of something "
-                                "else? Switch the instrument off and on.");
+               : QStringLiteral("Another program may hold the instrument, which serves one at a "
+                                "time: end consoles and scripts that use it, and leave it on. "
+                                "Otherwise: is this its address, and not that of something else?");
 }
 
 QString adviceOnRefusal(bool serial)

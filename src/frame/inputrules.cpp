@@ -64,6 +64,7 @@ private:
         auto *box = static_cast<QWidget *>(object);
         if (box->focusPolicy() == Qt::WheelFocus)
             box->setFocusPolicy(Qt::StrongFocus);
+        box->setLocale(QLocale()); // the parent may be older than the rules
         auto *number = qobject_cast<QDoubleSpinBox *>(object);
         auto *editor = number ? number->findChild<QLineEdit *>() : nullptr;
         if (editor)

@@ -1,6 +1,7 @@
 #include "recorddata/clockticks.h"
 
 #include <QDateTime>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -64,9 +65,9 @@ QString label(double time, double interval)
     const QDateTime at = moment(time);
     const bool isMidnight = at.time() == QTime(0, 0);
     if (interval >= day || (interval >= minute && isMidnight))
-        return at.toString(QStringLiteral("MM-dd"));
+        return QLocale::c().toString(at, QStringLiteral("MM-dd"));
     if (interval >= minute)
-        return at.toString(QStringLiteral("hh:mm"));
+        return QLocale::c().toString(at, QStringLiteral("hh:mm"));
     return at.toString(interval >= 1.0 ? QStringLiteral("hh:mm:ss")
                                        : QStringLiteral("hh:mm:ss.zzz"));
 }
@@ -86,7 +87,7 @@ QString duration(double seconds)
     const QString sign = seconds < 0.0 && ms > 0 ? QStringLiteral("-") : QString();
     if (ms < qint64(minute * 1000.0))
         return QStringLiteral("%1%2 s").arg(sign).arg(double(ms) / 1000.0, 0, 'f', 3);
-    const QString clock = rest.toString(QStringLiteral("hh:mm:ss"));
+    const QString clock = QLocale::c().toString(rest, QStringLiteral("hh:mm:ss"));
     return days > 0 ? QStringLiteral("%1%2 d %3").arg(sign).arg(days).arg(clock) : sign + clock;
 }
 

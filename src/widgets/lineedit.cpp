@@ -23,7 +23,7 @@ bool beginsNumber(const QString &text)
     const QChar character = text.front();
     return (character >= QLatin1Char('0') && character <= QLatin1Char('9')) ||
            character == QLatin1Char('-') || character == QLatin1Char('+') ||
-           character == QLocale().decimalPoint();
+           character == QLatin1Char('.') || character == QLatin1Char(',');
 }
 
 } // namespace
@@ -39,6 +39,7 @@ LineEdit::LineEdit(QWidget *parent)
 
     m_label->setAlignment(Qt::AlignCenter);
     m_label->setFixedSize(90, 32);
+    m_editor->setLocale(QLocale::c()); // a point, wherever the field is used
     m_editor->setDecimals(1);
     m_editor->setRange(-widestRange, widestRange);
     m_editor->setAlignment(Qt::AlignCenter);
@@ -156,7 +157,14 @@ bool LineEdit::eventFilter(QObject *watched, QEvent *event)
         passFocusOn(static_cast<QFocusEvent *>(event)->reason());
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
         return false;
-    if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+    auto *press = static_cast<QKeyEvent *>(event);
+    if (event->type() == QEvent::KeyPress && press->text() == QStringLiteral(",")) {
+        // Where a decimal comma is usual, nobody means a group separator by it.
+        QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, press->modifiers(), QStringLiteral("."));
+        QCoreApplication::sendEvent(m_editor, &point);
+        return true;
+    }
+    if (press->key() != Qt::Key_Escape)
         return false;
     // Accepted, so that a dialog around the field does not close instead.
     event->accept();

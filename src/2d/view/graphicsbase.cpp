@@ -341,6 +341,10 @@ void GraphicsBase::clearChartData(int index)
     m_stage->setXRange(m_ranges.shown.xMin, m_ranges.shown.xMax);
     path.setPoints({});
     path.rebuild(*m_stage);
+    // Without a curve to sit on, a marker would float.
+    const QList<int> marks = path.markIds();
+    for (const int mark : marks)
+        m_curves->marks().remove(mark);
     m_curves->catchUpLater();
 }
 

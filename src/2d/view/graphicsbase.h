@@ -130,7 +130,7 @@ public slots:
     void finishUpdateChart();
     /// Removes all markers and curves.
     void clearChart();
-    /// Empties the time chart's curve \a index, which must exist.
+    /// Empties the time chart's curve \a index, which must exist, and takes its markers away.
     void clearChartData(int index);
     /// Removes the curve \a index.
     void clearChart(int index);

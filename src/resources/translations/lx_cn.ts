@@ -2845,6 +2845,10 @@ Replace it?</source>
         <source>Not sent: the instrument holds %1. Esc puts that back.</source>
         <translation>未发送：仪器实际为 %1。按 Esc 可恢复。</translation>
     </message>
+    <message>
+        <source>%1 was confirmed, but could not be read back.</source>
+        <translation>%1已确认，但无法读回。</translation>
+    </message>
 </context>
 <context>
     <name>Smooth</name>

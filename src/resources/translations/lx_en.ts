@@ -2845,6 +2845,10 @@ Replace it?</translation>
         <source>Not sent: the instrument holds %1. Esc puts that back.</source>
         <translation>Not sent: the instrument holds %1. Esc puts that back.</translation>
     </message>
+    <message>
+        <source>%1 was confirmed, but could not be read back.</source>
+        <translation>%1 was confirmed, but could not be read back.</translation>
+    </message>
 </context>
 <context>
     <name>Smooth</name>
