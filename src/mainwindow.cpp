@@ -66,7 +66,6 @@ MainWindow::MainWindow(QWidget *parent)
     , m_settings(new SettingBoxes(m_ui.get(), this))
     , m_status(m_ui->statusBar)
     , m_gate(new InputGate(m_status.stopButton()))
-    , m_ports(m_ui->comboBoxCom)
     , m_chart(this, m_ui->horizontalLayout_8)
     , m_link(new SerialLogic(this))
     , m_session(new LinkSession(m_link, this))
@@ -169,8 +168,11 @@ void MainWindow::connectSession()
     connect(m_session, &LinkSession::modeChanged, this,
             [this](LinkMode mode) { m_panel.showLinkState(mode, false); });
     connect(m_session, &LinkSession::stateChanged, this, &MainWindow::showLinkState);
-    connect(m_session, &LinkSession::portChanged, this,
-            [this](const QString &port, int value) { m_status.showPort(port, value); });
+    connect(m_session, &LinkSession::portChanged, this, [this](const QString &port, int value) {
+        m_status.showPort(port, value);
+        if (m_session->mode() == serialLink)
+            m_panel.showPort(port);
+    });
     connect(m_session, &LinkSession::waitingFor, this, &MainWindow::showWaiting);
     // Not the link's own events: it waits for those itself.
     connect(m_session, &LinkSession::stillWaiting, this,
@@ -546,7 +548,7 @@ void MainWindow::saveValue()
 void MainWindow::timerOut()
 {
     const QDateTime now = QDateTime::currentDateTime();
-    m_ports.refresh();
+    m_panel.refreshPorts();
     m_status.showTime(now);
     m_logDays.tick(now.date());
     if (m_session->isOpen())

@@ -4,7 +4,6 @@
 #include "console/consolepanel.h"
 #include "console/linksession.h"
 #include "console/logdays.h"
-#include "console/portlist.h"
 #include "console/settingboxes.h"
 #include "console/startoptions.h"
 #include "console/statuslabels.h"
@@ -152,7 +151,6 @@ private:
     SettingBoxes *m_settings;
     StatusLabels m_status;
     InputGate *m_gate;
-    PortList m_ports;
     TimeChart m_chart;
     SerialLogic *m_link;
     LinkSession *m_session;

@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QLocale>
 #include <QScrollBar>
+#include <QSerialPortInfo>
 #include <QStyle>
 
 namespace {
@@ -81,6 +82,32 @@ void ConsolePanel::showLinkState(LinkMode mode, bool open)
     m_ui->actionClose->setVisible(serial);
     m_ui->actionConnect->setVisible(!serial);
     m_ui->actionDisconnect->setVisible(!serial);
+}
+
+void ConsolePanel::refreshPorts()
+{
+    QStringList names;
+    const auto ports = QSerialPortInfo::availablePorts();
+    for (const QSerialPortInfo &port : ports)
+        names.append(port.portName());
+    if (names == m_knownPorts)
+        return;
+    m_knownPorts = names;
+    const QString chosen = m_ui->comboBoxCom->currentText();
+    if (!m_unlistedPort.isEmpty() && !names.contains(m_unlistedPort))
+        names.append(m_unlistedPort);
+    m_ui->comboBoxCom->clear();
+    m_ui->comboBoxCom->addItems(names);
+    m_ui->comboBoxCom->setCurrentText(chosen);
+}
+
+void ConsolePanel::showPort(const QString &name)
+{
+    if (!name.isEmpty() && m_ui->comboBoxCom->findText(name) < 0) {
+        m_unlistedPort = name;
+        m_ui->comboBoxCom->addItem(name);
+    }
+    m_ui->comboBoxCom->setCurrentText(name);
 }
 
 void ConsolePanel::showReading(const LinkSession &session)

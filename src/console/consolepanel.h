@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -35,6 +36,12 @@ public:
     /// Enables and shows what a link of this \a mode, \a open or not, lets the user do.
     void showLinkState(LinkMode mode, bool open);
 
+    /// Lists the serial ports of the machine anew when they have changed, which leaves the user's
+    /// choice alone as long as it is there.
+    void refreshPorts();
+    /// Chooses the port \a name, also one that the machine does not list.
+    void showPort(const QString &name);
+
     /// Shows the reading of \a session and what it is worth.
     void showReading(const LinkSession &session);
     /// Makes the reading as large as the window has room for, and room for the scroll bar beside
@@ -63,5 +70,7 @@ private:
     Ui::MainWindow *m_ui;
     QMainWindow *m_window;
     PowerDisplay m_power;
+    QStringList m_knownPorts;
+    QString m_unlistedPort; // chosen all the same
     QString m_recordFolder; // what the line holds, but for what is being typed
 };

@@ -14,7 +14,7 @@ namespace {
 constexpr int readPeriod = 500;     // ms
 constexpr int firstSaveWait = 1000; // ms after an open
 constexpr int minute = 60000;       // ms
-constexpr int liveTime = 3000;      // ms, several polls
+constexpr int liveTime = 2000;      // ms, several polls
 
 } // namespace
 

@@ -1,0 +1,327 @@
+#include "2d/scene/mymarkitem.h"
+#include "2d/view/graphicsbase.h"
+#include "2d/view/pathinfo.h"
+#include "consoletester.h"
+#include "simulatorprocess.h"
+#include "testmain.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWheelEvent>
+
+namespace {
+
+QStringList fault(const char *kind)
+{
+    return {QStringLiteral("--fault"), QLatin1String(kind)};
+}
+
+/// What the status bar says out of the ordinary.
+QString notice(const ConsoleTester &console)
+{
+    return console.text("labelNotice");
+}
+
+bool isMarked(const ConsoleTester &console, const char *widget)
+{
+    return console.find<QWidget>(widget)->property("unsent").toBool();
+}
+
+void type(const ConsoleTester &console, const char *widget, const QString &text)
+{
+    auto *box = console.find<QWidget>(widget);
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(box, text);
+}
+
+QByteArray records(const QString &folder)
+{
+    QByteArray all;
+    const QDir dir(folder);
+    for (const QString &name : dir.entryList(QDir::Files))
+        all += name.toUtf8() + '\n' + ConsoleTester::contentOf(dir.filePath(name));
+    return all;
+}
+
+} // namespace
+
+/// What the console shows can be believed, and what cannot says so.
+class TestTrust : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
+    void init() { ConsoleTester::cleanFolder(); }
+    void cleanupTestCase() { ConsoleTester::cleanFolder(); }
+
+    void numbersHaveAPoint_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("value");
+        QTest::newRow("point") << "1.5" << 1.5;
+        QTest::newRow("comma") << "1,5" << 1.5;
+        QTest::newRow("comma behind a point") << "1.2,5" << 1.25;
+    }
+
+    void numbersHaveAPoint()
+    {
+        const ConsoleTester console;
+        console.window().updateOffset(2.5);
+        QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->text(),
+                 QStringLiteral("2.50"));
+        console.find<QWidget>("groupBoxOffset")->setEnabled(true);
+        QFETCH(QString, typed);
+        type(console, "doubleSpinBoxOffset", typed);
+        QTEST(console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->value(), "value");
+        console.window().updateFrequency(2450000, QStringLiteral("KHz"));
+        QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxFreq")->text(),
+                 QStringLiteral("2450000"));
+    }
+
+    void refusedSettingIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("box");
+        QTest::addColumn<QString>("typed"); // empty: it is a button to click
+        QTest::addColumn<QString>("said");
+        QTest::newRow("offset") << QByteArray("doubleSpinBoxOffset") << "7"
+                                << "Offset was not";
+        QTest::newRow("count") << QByteArray("spinBoxAverageCount") << "8"
+                               << "Average count was";
+        QTest::newRow("frequency") << QByteArray("doubleSpinBoxFreq") << "2450"
+                                   << "Frequency was";
+        QTest::newRow("unit") << QByteArray("radioButtonW") << ""
+                              << "Power unit was not";
+    }
+
+    /// Polling rests, the reading is old at once, and the value is marked until it is put back.
+    void refusedSettingIsTold()
+    {
+        QFETCH(QByteArray, box);
+        QFETCH(QString, typed);
+        QFETCH(QString, said);
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start(fault("refuse")));
+        const ConsoleTester console;
+        QVERIFY(console.connectTo(simulator));
+        QTRY_VERIFY(console.text("labelReadingState").contains(QStringLiteral("Live")));
+        if (typed.isEmpty()) {
+            console.click(box.constData());
+        } else {
+            type(console, box.constData(), typed);
+            QVERIFY(isMarked(console, box.constData()));
+            QTest::keyClick(console.find<QWidget>(box.constData()), Qt::Key_Return);
+        }
+        QVERIFY2(notice(console).startsWith(said), qPrintable(notice(console)));
+        QVERIFY(console.text("labelReadingState").contains(QStringLiteral("Stale")));
+        QVERIFY(!console.isRunning("readTimer"));
+        auto *widget = console.find<QWidget>(box.constData());
+        QVERIFY(isMarked(console, box.constData()));
+        QVERIFY2(widget->toolTip().contains(QStringLiteral("the instrument holds")),
+                 qPrintable(widget->toolTip()));
+        if (typed.isEmpty()) {
+            const int sent = simulator.commands().count(QStringLiteral("UNIT:POW W"));
+            console.click(box.constData()); // the same again
+            QVERIFY(simulator.waitForCommand(QStringLiteral("UNIT:POW W"), sent + 1));
+            return;
+        }
+        QTest::keyClick(widget, Qt::Key_Escape);
+        QVERIFY(!isMarked(console, box.constData()));
+        QVERIFY(!widget->toolTip().contains(QStringLiteral("the instrument holds")));
+    }
+
+    void differenceIsTold()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start(fault("numeric-frequency")));
+        const ConsoleTester console;
+        QVERIFY(console.connectTo(simulator));
+        console.find<QComboBox>("comboBoxUnit")->setCurrentText(QStringLiteral("MHz"));
+        type(console, "doubleSpinBoxFreq", QStringLiteral("2453.125"));
+        console.click("btnSetFreq");
+        QVERIFY2(notice(console).contains(QStringLiteral("2453.125 MHz")) ||
+                     notice(console).contains(QStringLiteral("2.453125 GHz")),
+                 qPrintable(notice(console)));
+        QVERIFY(console.isRunning("readTimer") && !isMarked(console, "doubleSpinBoxFreq"));
+        type(console, "doubleSpinBoxOffset", QStringLiteral("3"));
+        console.click("btnSetOffset");
+        QCOMPARE(notice(console), QString());
+    }
+
+    void readingSaysWhatItIsWorth()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start());
+        const ConsoleTester console;
+        auto *power = console.find<QLabel>("labelCurrentPower");
+        const auto says = [&](const char *words) {
+            return console.text("labelReadingState").contains(QLatin1String(words)) &&
+                   power->accessibleName().contains(QLatin1String(words)) &&
+                   power->accessibleName().contains(power->text());
+        };
+        QVERIFY(says("Not connected"));
+        QVERIFY(console.connectTo(simulator));
+        QCOMPARE(power->text(), QStringLiteral("--.--"));
+        console.window().timerOut();
+        QVERIFY(says("No reading") && console.chartPoints().isEmpty());
+        console.window().updatePower(100.0, QStringLiteral("OVERLOAD"));
+        QVERIFY(says("No reading: the instrument says \"OVERLOAD\""));
+        console.window().updatePower(-20.0, QStringLiteral("-20.00dBm"));
+        QVERIFY(says("Live"));
+        console.find<QTimer>("firstSaveTimer")->stop(); // a record would read again
+        console.find<QTimer>("readTimer")->stop();
+        QTRY_VERIFY_WITH_TIMEOUT(says("Stale: 2 s old"), 6000);
+        console.trigger("actionDisconnect");
+        QVERIFY(says("Not connected"));
+    }
+
+    void wheelPassesBoxesWithoutFocus()
+    {
+        const ConsoleTester console;
+        for (const char *name : {"spinBoxInterval", "comboBoxUnit", "doubleSpinBoxFreq"}) {
+            auto *box = console.find<QWidget>(name);
+            box->parentWidget()->setEnabled(true);
+            const QVariant before = box->metaObject()->userProperty().read(box);
+            QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPoint(5, 5)), {}, {0, -120},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(box, &wheel);
+            QCOMPARE(box->metaObject()->userProperty().read(box), before);
+        }
+    }
+
+    void folderThatCannotBeWrittenIsRefused()
+    {
+        const ConsoleTester console;
+        const QTemporaryDir folder;
+        auto *line = console.find<QLineEdit>("lineEditPath");
+        line->parentWidget()->setEnabled(true);
+        const QString former = line->text();
+        for (const QString &typed : {QString(), folder.filePath(QStringLiteral("none"))}) {
+            line->selectAll();
+            QTest::keyClick(line, Qt::Key_Delete);
+            QTest::keyClicks(line, typed);
+            QStringList seen;
+            const ModalScript script({readBox(seen)});
+            QTest::keyClick(line, Qt::Key_Return);
+            QVERIFY2(seen.value(0).startsWith(QStringLiteral("Warning: No records can be")),
+                     qPrintable(seen.value(0)));
+            QCOMPARE(line->text(), former);
+        }
+        line->selectAll();
+        QTest::keyClicks(line, folder.path());
+        QTest::keyClick(line, Qt::Key_Return);
+        console.window().saveValue();
+        QVERIFY(
+            records(folder.path()).startsWith(QDate::currentDate().toString(Qt::ISODate).toUtf8()));
+        QVERIFY(console.text("labelRecord").startsWith(QStringLiteral("Last row: 20")));
+    }
+
+    void lostRecordsAreToldOnce()
+    {
+        const ConsoleTester console;
+        console.find<QLineEdit>("lineEditPath")->setText(QStringLiteral("/no such folder"));
+        console.window().saveValue();
+        QVERIFY(notice(console).startsWith(QStringLiteral("Records are not written: ")));
+        const QString since = console.text("labelRecord");
+        QVERIFY2(since.contains(QStringLiteral("No rows since")), qPrintable(since));
+        type(console, "lineEditPath", {});
+        console.window().saveValue();
+        QCOMPARE(console.text("labelRecord"), since);
+    }
+
+    void recordBetweenSettingAndReadingWaitsForIt()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start());
+        const QTemporaryDir folder;
+        const ConsoleTester console;
+        console.find<QLineEdit>("lineEditPath")->setText(folder.path());
+        QVERIFY(console.connectTo(simulator));
+        console.find<QTimer>("firstSaveTimer")->stop();
+        console.window().updatePower(-77.0, QStringLiteral("former"));
+        type(console, "doubleSpinBoxOffset", QStringLiteral("10"));
+        console.click("btnSetOffset");
+        console.window().saveValue();
+        const QByteArray rows = records(folder.path());
+        QVERIFY2(rows.contains(",10,-") && !rows.contains("former"), rows.constData());
+    }
+
+    void openingIsStopped()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start(fault("no-reply")));
+        const ConsoleTester console;
+        console.trigger("actionCommunication_by_LAN");
+        QTimer::singleShot(100, &console.window(), [&console] {
+            QVERIFY(notice(console).contains(QStringLiteral("identity")));
+            console.click("btnOpen"); // what is pressed meanwhile goes nowhere
+            QTest::mouseClick(console.find<QWidget>("btnStopOpening"), Qt::LeftButton);
+        });
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!console.connectTo(simulator));
+        QVERIFY(time.elapsed() < 4000); // a single wait takes longer
+        QCOMPARE(console.faultsOfState(false), QStringList());
+        QCOMPARE(notice(console), QString());
+    }
+
+    void secondErrorWaitsForNobody()
+    {
+        const ConsoleTester console;
+        QStringList seen;
+        const ModalScript script({[&](QWidget *box) {
+            console.window().errorMessageBox(QStringLiteral("second"));
+            readBox(seen)(box);
+        }});
+        console.window().errorMessageBox(QStringLiteral("first"));
+        QCOMPARE(seen, QStringList(QStringLiteral("Note: first")));
+        QVERIFY(script.isDone());
+    }
+
+    void serialLineThatHangsUpWhilePollingRestsIsTold()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start(QStringList{QStringLiteral("--serial")} + fault("refuse")));
+        const ConsoleTester console;
+        QVERIFY(console.window().openPort(simulator.serialPath(), 115200));
+        QCOMPARE(console.find<QComboBox>("comboBoxCom")->currentText(), simulator.serialPath());
+        console.window().timerOut();
+        QCOMPARE(console.find<QComboBox>("comboBoxCom")->currentText(), simulator.serialPath());
+        type(console, "doubleSpinBoxOffset", QStringLiteral("5"));
+        console.click("btnSetOffset");
+        QVERIFY(!console.isRunning("readTimer"));
+        QStringList seen;
+        const ModalScript script({readBox(seen)});
+        simulator.stop();
+        QTRY_COMPARE(seen, QStringList(QStringLiteral("Note: Please open the serial port first.")));
+        QTRY_COMPARE(console.faultsOfState(false), QStringList());
+    }
+
+    void markersGoWithTheCurve()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.start());
+        const ConsoleTester console;
+        QVERIFY(console.connectTo(simulator));
+        console.window().updatePower(-20.0, {});
+        for (int second = 0; second < 3; ++second)
+            console.window().timerOut();
+        auto *chart = console.window().findChild<GraphicsBase *>();
+        const auto *mark = chart->addMark(chart->toScene({1 / 60.0, -20.0}), Qt::red);
+        chart->paths().value(1)->addMarkId(mark->markId());
+        console.click("btnResetChart");
+        QVERIFY(chart->marks().isEmpty());
+    }
+};
+
+MZ_TEST_MAIN(TestTrust)
+#include "tst_trust.moc"
