@@ -62,6 +62,14 @@ function(mz_precompile name)
     target_precompile_headers(${name} REUSE_FROM mz_headers_${module})
 endfunction()
 
+# mz_note_layer(NAME LIBRARIES SOURCES): a line of the list that scripts/layers.py reads.
+function(mz_note_layer name libraries sources)
+    file(RELATIVE_PATH folder "${CMAKE_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+    list(TRANSFORM sources PREPEND "${folder}/")
+    set_property(GLOBAL APPEND_STRING PROPERTY MZ_LAYERS "${name}|${libraries}|${sources}\n")
+    add_dependencies(${name} mz_layers)
+endfunction()
+
 # mz_add_layer(NAME SOURCES ... LIBRARIES ...): the library of one folder. What it links is what its
 # sources may include; scripts/layers.py holds them to it at every build.
 function(mz_add_layer name)
@@ -69,10 +77,7 @@ function(mz_add_layer name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC ${ARG_LIBRARIES} PRIVATE mz_flags)
     mz_precompile(${name})
-    file(RELATIVE_PATH folder "${CMAKE_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
-    list(TRANSFORM ARG_SOURCES PREPEND "${folder}/")
-    set_property(GLOBAL APPEND_STRING PROPERTY MZ_LAYERS "${name}|${ARG_LIBRARIES}|${ARG_SOURCES}\n")
-    add_dependencies(${name} mz_layers)
+    mz_note_layer(${name} "${ARG_LIBRARIES}" "${ARG_SOURCES}")
 endfunction()
 
 add_custom_target(mz_layers
@@ -91,6 +96,7 @@ function(mz_add_program name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE mz_flags ${ARG_LIBRARIES})
     mz_precompile(${name})
+    mz_note_layer(${name} "${ARG_LIBRARIES}" "${ARG_SOURCES}")
 endfunction()
 
 # mz_add_test(NAME SOURCES ... LIBRARIES ... [LABELS ...]): a QtTest program with a folder of its own,

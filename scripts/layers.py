@@ -3,7 +3,8 @@
 
 usage: layers.py check LIST   fails when a source includes what its target does not link, and when
                               files include each other in a circle
-       layers.py draw LIST    prints the layers and their links as a Mermaid diagram
+       layers.py draw LIST    prints the programs, the layers and their links as a Mermaid diagram
+       layers.py drawn LIST   fails when docs/architecture.md shows another diagram
 
 LIST is layers.txt of a build folder: "target|libraries|sources" a line.
 """
@@ -92,21 +93,35 @@ def check(path):
     return 1 if errors else 0
 
 
-def draw(path):
+def diagram(path):
     links, _ = read_layers(path)
-    print("graph TD")
-    for target in sorted(links):
+    programs = [target for target in links if target.startswith("mz6218")]
+    shown = set().union(*(reachable(links, program) for program in programs))
+    lines = ["graph TD"]
+    for target in sorted(shown):
         # A link that follows from another one is left out.
         own = [library for library in links[target] if library in links]
         indirect = {far for near in own for far in reachable(links, near) - {near}}
-        for library in own:
-            if library not in indirect:
-                print(f"    {target} --> {library}")
+        lines += [f"    {target} --> {library}" for library in own if library not in indirect]
+    return "\n".join(lines) + "\n"
+
+
+def draw(path):
+    print(diagram(path), end="")
     return 0
 
 
+def drawn(path):
+    page = ROOT / "docs" / "architecture.md"
+    if f"```mermaid\n{diagram(path)}```" in page.read_text(encoding="utf-8"):
+        return 0
+    print(f"{page.name} shows other layers than there are; scripts/layers.py draw prints them.",
+          file=sys.stderr)
+    return 1
+
+
 def main(arguments):
-    commands = {"check": check, "draw": draw}
+    commands = {"check": check, "draw": draw, "drawn": drawn}
     if len(arguments) != 2 or arguments[0] not in commands:
         print(__doc__.strip(), file=sys.stderr)
         return 2
