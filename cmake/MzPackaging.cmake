@@ -1,7 +1,7 @@
 # What is installed, and the two packages that cpack makes of it:
 #   DEB  component "system":   programs under lib/mz6218, launchers on the path, desktop entries, icons
 #   TGZ  component "portable": one folder with everything beside the programs, Qt's libraries included
-set(programs mz6218 mz6218-sim mz6218-patterns)
+set(programs mz6218 mz6218-cli mz6218-sim mz6218-patterns)
 if(TARGET mz6218-cli)
     list(APPEND programs mz6218-cli)
 endif()
@@ -35,6 +35,7 @@ function(mz_describe_for_windows program icon description)
     endif()
 endfunction()
 mz_describe_for_windows(mz6218 pt.ico "MZ6218 Power Meter")
+mz_describe_for_windows(mz6218-cli pt.ico "MZ6218 Command Line")
 mz_describe_for_windows(mz6218-sim pt.ico "MZ6218 Simulated Instrument")
 mz_describe_for_windows(mz6218-patterns patterns.ico "MZ6218 Antenna Patterns")
 if(TARGET mz6218-cli)
@@ -63,6 +64,19 @@ if(UNIX)
             DESTINATION share/applications COMPONENT system)
     install(DIRECTORY packaging/icons/hicolor DESTINATION share/icons COMPONENT system)
 
+    foreach(program ${programs})
+        configure_file(packaging/man/${program}.1 "${CMAKE_BINARY_DIR}/packaging/${program}.1" COPYONLY)
+        execute_process(COMMAND gzip --force --keep --best --no-name "${CMAKE_BINARY_DIR}/packaging/${program}.1")
+        install(FILES "${CMAKE_BINARY_DIR}/packaging/${program}.1.gz" DESTINATION share/man/man1 COMPONENT system)
+    endforeach()
+    install(FILES packaging/linux/mz6218-cli.bash-completion DESTINATION share/bash-completion/completions
+            RENAME mz6218-cli COMPONENT system)
+    install(FILES packaging/linux/mz6218-record@.service DESTINATION lib/systemd/system COMPONENT system)
+    install(FILES packaging/linux/sysusers.conf DESTINATION lib/sysusers.d RENAME mz6218.conf COMPONENT system)
+    install(FILES packaging/linux/bench1.toml docs/grafana-dashboard.json
+            DESTINATION share/doc/mz6218/examples COMPONENT system)
+    install(FILES docs/fleet.md DESTINATION share/doc/mz6218 COMPONENT system)
+
     set(changelog "${CMAKE_BINARY_DIR}/packaging/changelog")
     configure_file(packaging/debian/changelog.in "${changelog}" @ONLY)
     execute_process(COMMAND gzip --force --keep --best --no-name "${changelog}")
@@ -85,10 +99,10 @@ endif()
 
 set(CPACK_PACKAGE_NAME mz6218)
 set(CPACK_PACKAGE_VENDOR "MZ6218 developers")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Console, simulator and pattern workbench for the MZ6218 power meter")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Console, recorder, simulator and pattern workbench for the MZ6218")
 set(CPACK_PACKAGE_DESCRIPTION
     "Sets, reads, charts and records an MZ6218 RF power meter over a serial
- port or TCP, simulates one without hardware, and analyses antenna
+ port or TCP, with a window or unattended, simulates one without hardware, and analyses antenna
  radiation patterns.")
 set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_SOURCE_DIR}/LICENSE")
 set(CPACK_GENERATOR "DEB;TGZ")
@@ -99,6 +113,8 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA "${CMAKE_SOURCE_DIR}/packaging/debian/postinst"
+    "${CMAKE_SOURCE_DIR}/packaging/debian/prerm")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qttranslations5-l10n, fonts-wqy-microhei | fonts-noto-cjk")
 set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_SOURCE_DIR}/cmake/MzPackageOptions.cmake")
 include(CPack)

@@ -172,7 +172,7 @@ has_loaded() {
 check_programs() {
     local bin=$1 folder=$root$2 program
     listing >"$state/before"
-    for program in mz6218 mz6218-sim mz6218-patterns; do
+    for program in mz6218 mz6218-cli mz6218-sim mz6218-patterns; do
         check "$program tells its version" tells_version "$bin/$program"
     done
     start simulator "$bin/mz6218-sim" --listen $instrument
@@ -223,6 +223,48 @@ make_upgrade() {
     dpkg-deb --build --root-owner-group "$state/later" "$state/later.deb" >/dev/null
 }
 
+# Where this machine runs systemd, the package's unit is started with the package's program; elsewhere
+# the unit is read by systemd's own check, and that is said.
+check_unit() {
+    local unit=mz6218-record@.service instance=mz6218-record@packagecheck
+    check "manual pages" test -s "$root/usr/share/man/man1/mz6218-cli.1.gz" -a \
+        -s "$root/usr/share/man/man1/mz6218.1.gz" -a -s "$root/usr/share/man/man1/mz6218-sim.1.gz" -a \
+        -s "$root/usr/share/man/man1/mz6218-patterns.1.gz"
+    check "completion" bash -n "$root/usr/share/bash-completion/completions/mz6218-cli"
+    check "the example of a configuration is one that works" example_works
+    if [[ ! -d /run/systemd/system ]]; then
+        echo "  not checked: the unit itself, since systemd does not run here"
+        return
+    fi
+    if [[ -e /usr/lib/systemd/system/$unit || -e /etc/mz6218/packagecheck.toml ]]; then
+        echo "  not checked: the unit itself, since the package is installed on this machine"
+        return
+    fi
+    install -D -m 644 "$root/usr/lib/sysusers.d/mz6218.conf" /run/sysusers.d/mz6218.conf
+    systemd-sysusers mz6218.conf
+    sed "s|/usr/bin/mz6218-cli|$build/bin/mz6218-cli|; /^ProtectHome=/d" "$root/usr/lib/systemd/system/$unit" \
+        >/run/systemd/system/$unit
+    install -d /etc/mz6218
+    printf 'lan = "127.0.0.1:1"\nname = "packagecheck"\n[record]\nevery = "1s"\n' >/etc/mz6218/packagecheck.toml
+    systemctl daemon-reload
+    check "the unit starts" systemctl start "$instance"
+    check_soon "it writes rows" grep -q link /var/lib/mz6218/packagecheck-*.csv
+    check "it ends when asked to" systemctl stop "$instance"
+    check "it ended well" test "$(systemctl show --value --property Result "$instance")" = success
+    rm -f /run/systemd/system/$unit /run/sysusers.d/mz6218.conf /etc/mz6218/packagecheck.toml \
+        /var/lib/mz6218/packagecheck-*
+    systemctl daemon-reload
+}
+
+# With its address changed to one where nobody answers, it is the link that fails and not a word in it.
+example_works() {
+    local code=0
+    sed 's/192.168.1.20/127.0.0.1:1/; s|^out = .*|out = "/tmp/example"|' \
+        "$root/usr/share/doc/mz6218/examples/bench1.toml" >"$root/tmp/example.toml"
+    (inside /usr/bin/mz6218-cli --config /tmp/example.toml record --no-wait) 2>"$state/example.txt" || code=$?
+    [[ $code -eq 3 ]]
+}
+
 check_debian_package() {
     local package=$1 folder=$home/.local/share/mz6218 depends
     depends=$(dpkg-deb --field "$package" Depends | sed 's/([^)]*)//g; s/[,|]/ /g')
@@ -232,6 +274,7 @@ check_debian_package() {
     check "it installs with all that it depends on" install_package "$package"
     check "desktop entries" desktop-file-validate "$root"/usr/share/applications/mz6218*.desktop
     check "licence" test -s "$root/usr/share/doc/mz6218/copyright"
+    check_unit
     check_programs /usr/bin "$folder" /usr/lib /usr/lib/mz6218/samples
 
     make_upgrade "$package"

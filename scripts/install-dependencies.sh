@@ -15,7 +15,7 @@ declare -A sets=(
     [virtual]="xvfb xauth imagemagick"
     [test]="xvfb locales mold xauth xclip xdotool imagemagick nec2c"
     [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix desktop-file-utils git libclang-rt-dev
-          llvm nsis shellcheck"
+          llvm nsis prometheus shellcheck"
     [pictures]="xvfb xauth imagemagick xdotool poppler-utils"
     [bench]="libqwt-qt5-dev libqcustomplot-dev"
 )
