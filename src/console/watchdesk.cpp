@@ -85,7 +85,6 @@ WatchDesk::WatchDesk(const Console &console)
     console.window->installEventFilter(this);
     console.chart->view()->viewport()->installEventFilter(this);
     retranslate();
-    m_newWindowState = console.window->saveState();
     load();
 }
 
@@ -134,6 +133,8 @@ QDockWidget *WatchDesk::addPanel(const char *name, QWidget *panel, Qt::DockWidge
     m_console.window->addDockWidget(area, dock);
     dock->hide();
     m_viewMenu->addAction(dock->toggleViewAction());
+    connect(dock, &QDockWidget::visibilityChanged, this,
+            [this](bool visible) { m_wasPanelShown = m_wasPanelShown || visible; });
     return dock;
 }
 
@@ -348,8 +349,9 @@ bool WatchDesk::eventFilter(QObject *watched, QEvent *event)
 void WatchDesk::load()
 {
     const WatchSettings settings = WatchSettings::load(WatchSettings::ownFile());
-    if (!settings.windowState.isEmpty())
-        m_console.window->restoreState(settings.windowState);
+    m_windowState = settings.windowState;
+    if (!m_windowState.isEmpty())
+        m_console.window->restoreState(m_windowState);
     m_statisticsPanel->setOver(settings.isStatisticsOverShown ? StatisticsPanel::ShownRange
                                                               : StatisticsPanel::SinceReset);
     m_reconnect->setChecked(settings.reconnects);
@@ -360,9 +362,7 @@ void WatchDesk::load()
 void WatchDesk::save() const
 {
     WatchSettings settings;
-    const QByteArray state = m_console.window->saveState();
-    if (state != m_newWindowState)
-        settings.windowState = state;
+    settings.windowState = m_wasPanelShown ? m_console.window->saveState() : m_windowState;
     settings.isStatisticsOverShown = m_statisticsPanel->over() == StatisticsPanel::ShownRange;
     settings.reconnects = m_reconnect->isChecked();
     settings.limits = m_limitsPanel->limits();

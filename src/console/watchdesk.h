@@ -114,5 +114,6 @@ private:
     std::optional<double> m_frequency; ///< Hz, as the instrument told it
     std::optional<double> m_offset;    ///< dB
     bool m_isRelative = false;
-    QByteArray m_newWindowState; ///< of a console that nothing was changed in
+    QByteArray m_windowState; ///< as it was read
+    bool m_wasPanelShown = false;
 };

@@ -42,6 +42,8 @@ public:
     /// How it stands, for the status bar.
     QString text() const;
 
+    /// Lets a second last \a ms, for tests.
+    void setSecond(int ms) { m_second.setInterval(ms); }
     /// Replaces the look at the list of serial ports.
     void setPortLookup(std::function<bool(const QString &)> isThere) { m_isThere = isThere; }
 

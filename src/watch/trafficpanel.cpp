@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QSortFilterProxyModel>
 #include <QTableView>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,6 +21,7 @@ TrafficPanel::TrafficPanel(TrafficModel *model, QWidget *parent)
     , m_model(model)
     , m_shown(new QSortFilterProxyModel(this))
     , m_view(new QTableView(this))
+    , m_scroll(new QTimer(this))
     , m_filter(new QLineEdit(this))
     , m_pause(new QPushButton(this))
     , m_copy(new QPushButton(this))
@@ -56,11 +58,13 @@ TrafficPanel::TrafficPanel(TrafficModel *model, QWidget *parent)
     connect(m_copy, &QPushButton::clicked, this,
             [this] { QApplication::clipboard()->setText(text()); });
     connect(m_clear, &QPushButton::clicked, model, &TrafficModel::clear);
+    m_scroll->setSingleShot(true);
+    connect(m_scroll, &QTimer::timeout, m_view, &QTableView::scrollToBottom);
     connect(m_shown, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
         // Who has scrolled back to a line wants to read it.
         const QScrollBar *bar = m_view->verticalScrollBar();
-        if (bar->value() == bar->maximum())
-            QMetaObject::invokeMethod(m_view, &QTableView::scrollToBottom, Qt::QueuedConnection);
+        if (isVisible() && bar->value() == bar->maximum())
+            m_scroll->start(0);
     });
     retranslate();
 }

@@ -9,6 +9,7 @@ class QLineEdit;
 class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
+class QTimer;
 QT_END_NAMESPACE
 
 /// Shows the lines of a TrafficModel as they pass, those that hold a text, and copies them.
@@ -33,6 +34,7 @@ private:
     TrafficModel *m_model;
     QSortFilterProxyModel *m_shown;
     QTableView *m_view;
+    QTimer *m_scroll; // once for many lines
     QLineEdit *m_filter;
     QPushButton *m_pause;
     QPushButton *m_copy;

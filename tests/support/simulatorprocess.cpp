@@ -59,6 +59,11 @@ bool SimulatorProcess::startOnInstrumentPort(const QStringList &options)
     return false;
 }
 
+bool SimulatorProcess::startOnGivenAddress(const QString &address)
+{
+    return launch({QStringLiteral("--listen"), address});
+}
+
 int SimulatorProcess::stop()
 {
     if (!isRunning())

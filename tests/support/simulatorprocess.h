@@ -21,6 +21,8 @@ public:
     bool start(const QStringList &options = {});
     /// The same on port 5001, which the console always uses, of a loopback address nobody else has.
     bool startOnInstrumentPort(const QStringList &options = {});
+    /// The same on an \a address where another one listened.
+    bool startOnGivenAddress(const QString &address);
     /// Ends it and returns its exit code, -1 when it had to be killed or did not run.
     int stop();
     bool isRunning() const;
