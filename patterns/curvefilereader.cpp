@@ -1,6 +1,5 @@
 #include "patterns/curvefilereader.h"
 
-#include "2d/data/curvetext.h"
 #include "patterns/formats/patternfile.h"
 
 #include <QFile>
@@ -53,7 +52,8 @@ CurveFileReader::Step CurveFileReader::readOne(const QString &file,
         m_failures.append(QStringLiteral("%1: %2").arg(shown, problem));
         return Step::Go;
     }
-    bytes = CurveText::asUtf8(bytes);
+    QString encoding;
+    bytes = CurveText::asUtf8(bytes, &encoding);
     const CurveText::Curve curve = CurveText::fromFile(bytes, [&](qint64 done, qint64 total) {
         const double share = total > 0 ? double(done) / double(total) : 1.0;
         return progress(readingShare + (1.0 - readingShare) * share);
@@ -72,7 +72,9 @@ CurveFileReader::Step CurveFileReader::readOne(const QString &file,
                      {},
                      {},
                      false});
-    remark(shown, checkCurveRows(bytes), curve.points.isEmpty());
+    if (!encoding.isEmpty())
+        m_remarks.append(tr("%1: The text is encoded as %2, not as UTF-8.").arg(shown, encoding));
+    remark(shown, curve);
     return Step::Go;
 }
 
@@ -140,17 +142,18 @@ void CurveFileReader::readPattern(const QString &file, const QString &shown,
         m_remarks.append(QStringLiteral("%1: %2").arg(shown, remark));
 }
 
-void CurveFileReader::remark(const QString &file, const CurveRowCheck &check, bool empty)
+void CurveFileReader::remark(const QString &file, const CurveText::Curve &curve)
 {
+    const CurveText::RowCounts &check = curve.rows;
     const auto tell = [&](qint64 rows, const QString &text) {
         if (rows > 0)
             m_remarks.append(QStringLiteral("%1: %2").arg(file, text.arg(rows)));
     };
-    if (empty)
+    if (curve.points.isEmpty())
         m_remarks.append(tr("%1: The file holds no point.").arg(file));
     tell(check.moreFields,
          tr("rows with more than two fields, of which the first two were read: %1. "
-            "Decimal commas are not understood, write decimal points."));
+            "Decimal commas need semicolons, tabs or blanks between the fields."));
     tell(check.noNumbers, tr("rows with a field that is no number and was read as 0: %1."));
     tell(check.notFinite, tr("rows left out because a value is not finite: %1."));
     tell(check.tooShort, tr("rows left out because they have fewer than two fields: %1."));

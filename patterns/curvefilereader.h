@@ -1,6 +1,6 @@
 #pragma once
 
-#include "patterns/curverowcheck.h"
+#include "2d/data/curvetext.h"
 #include "patterns/formats/cut.h"
 
 #include <QCoreApplication>
@@ -74,7 +74,7 @@ private:
     bool readBytes(const QString &file, const std::function<bool(double)> &progress,
                    QByteArray &bytes, QString &problem);
     void readPattern(const QString &file, const QString &shown, const QByteArray &bytes);
-    void remark(const QString &file, const CurveRowCheck &check, bool empty);
+    void remark(const QString &file, const CurveText::Curve &curve);
     void clear();
 
     Naming m_naming;

@@ -84,7 +84,7 @@ void EditActions::paste()
 {
     const CurveText::Curve curve = CurveText::fromClipboard(QApplication::clipboard()->text());
     if (curve.status != CurveText::Status::Complete) {
-        m_desk.tell(tr("There is no curve on the clipboard."));
+        m_desk.warn(tr("There is no curve on the clipboard."));
         return;
     }
     const CurveHistory::Step step(m_desk.history(), tr("Paste"));

@@ -16,6 +16,7 @@
 #include <QIcon>
 #include <QLoggingCategory>
 #include <QTextStream>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -88,14 +89,12 @@ int main(int argc, char **argv)
     if (!hasDisplay)
         return print({CommandLine::Wish::Refuse, Display::missingText(), {}, {}, false, {}});
 
-    // Closed, not only ended: a window stores its place when it is closed.
-    onStopSignals([] {
-        QApplication::closeAllWindows();
-        QApplication::quit();
-    });
     Workbench workbench;
+    onStopSignals([&workbench] { workbench.stop(); });
     if (!line.language.isEmpty())
         workbench.useLanguage(line.language);
-    workbench.openWindow()->opening().openFiles(line.files);
+    // From the event loop, which alone can be told to end while files are read.
+    PatternWindow *window = workbench.openWindow();
+    QTimer::singleShot(0, window, [&] { window->opening().openFiles(line.files); });
     return QApplication::exec();
 }

@@ -58,10 +58,18 @@ void OpenActions::openFiles(const QStringList &files)
         m_desk.tell(tr("Opening was cancelled; the charts are as they were."));
     else
         m_desk.tell(tr("Curves opened: %1.").arg(result.opened.size()));
-    if (!result.failures.isEmpty())
-        m_desk.warn(tr("These files could not be opened:"), result.failures + result.remarks);
-    else if (!result.remarks.isEmpty())
+    if (m_desk.context().isStopping())
+        return;
+    const QString failed = tr("These files could not be opened:");
+    if (result.remarks.isEmpty() && !result.failures.isEmpty())
+        m_desk.warn(failed, result.failures);
+    else if (result.failures.isEmpty() && !result.remarks.isEmpty())
         m_desk.warn(tr("The files were opened. Please look at these points:"), result.remarks);
+    else if (!result.failures.isEmpty())
+        m_desk.warn(failed + QLatin1Char('\n') + result.failures.join(QLatin1Char('\n')) +
+                        QStringLiteral("\n\n") +
+                        tr("Others were opened. Please look at these points:"),
+                    result.remarks);
 }
 
 void OpenActions::ask()

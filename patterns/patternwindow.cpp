@@ -1,6 +1,7 @@
 #include "patterns/patternwindow.h"
 #include "ui_patternwindow.h"
 
+#include "frame/manual.h"
 #include "patterns/curvehistory.h"
 #include "patterns/editactions.h"
 #include "patterns/lossactions.h"
@@ -14,6 +15,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 
 namespace {
@@ -28,7 +30,7 @@ PatternWindow::PatternWindow(WindowContext &context, QWidget *parent)
     , ui(std::make_unique<Ui::PatternWindow>())
 {
     ui->setupUi(this);
-    restoreGeometry(m_context.windowGeometry());
+    takeInitialSize();
     m_history = std::make_unique<CurveHistory>(form().curves());
     m_open = std::make_unique<OpenActions>(*ui, *this);
     m_save = std::make_unique<SaveActions>(*ui, *this);
@@ -41,6 +43,8 @@ PatternWindow::PatternWindow(WindowContext &context, QWidget *parent)
     connect(ui->actionClose, &QAction::triggered, this, &QWidget::close);
     connect(ui->actionQuit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
     connect(ui->actionAboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);
+    connect(ui->actionManual, &QAction::triggered, this, [this] { Manual::open(this); });
+    connect(ui->listChart, &ListChart::titleChanged, this, &PatternWindow::updateActions);
     connect(ui->listChart, &ListChart::message, this, &PatternWindow::tell);
     connect(&form().curves(), &CurveSet::changed, this, &PatternWindow::updateActions);
     connect(&form().curves(), &CurveSet::selectionChanged, this, &PatternWindow::updateActions);
@@ -65,6 +69,24 @@ void PatternWindow::updateActions()
     m_edit->update();
     m_view->update();
     m_loss->update();
+    const QString name = form().title();
+    const QString program = tr("Antenna Pattern Workbench");
+    // "[*]" would stand for the mark of a changed document.
+    setWindowTitle(
+        name.isEmpty()
+            ? program
+            : tr("%1 - %2").arg(
+                  QString(name).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")), program));
+}
+
+void PatternWindow::takeInitialSize()
+{
+    if (restoreGeometry(m_context.windowGeometry()))
+        return;
+    // Room for frame and title bar, on whatever screen there is.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    constexpr QSize usual(1280, 760);
+    resize(usual.boundedTo(screen.size() - QSize(16, 48)));
 }
 
 bool PatternWindow::save(const QString &file, const QByteArray &content)
@@ -122,12 +144,13 @@ void PatternWindow::changeEvent(QEvent *event)
         m_open->showRecentFiles();
         m_edit->retranslate();
         m_measure->retranslate();
+        updateActions();
     }
 }
 
 void PatternWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_save->mayClose()) {
+    if (!m_context.isStopping() && !m_save->mayClose()) {
         event->ignore();
         return;
     }

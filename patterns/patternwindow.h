@@ -49,6 +49,7 @@ private slots:
 
 private:
     void updateActions();
+    void takeInitialSize();
 
     WindowContext &m_context;
     std::unique_ptr<Ui::PatternWindow> ui;

@@ -1,7 +1,6 @@
 #include "patterns/reportpage.h"
 
 #include "2d/data/paratabletext.h"
-#include "2d/data/supplementtext.h"
 #include "2d/form/listchart.h"
 #include "patterns/chartpicture.h"
 #include "patterns/report.h"

@@ -30,6 +30,9 @@ public:
     /// Makes the folder of \a file the one in which the next file dialog starts.
     virtual void rememberFolder(const QString &file) = 0;
 
+    /// Whether the program was told to end, with nobody there to answer questions.
+    virtual bool isStopping() const = 0;
+
     virtual QByteArray windowGeometry() const = 0;
     virtual void rememberGeometry(const QByteArray &geometry) = 0;
 

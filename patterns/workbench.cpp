@@ -2,6 +2,7 @@
 
 #include "patterns/patternwindow.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -47,6 +48,14 @@ void Workbench::setNullProminence(double prominence)
     m_nullProminence = prominence;
     m_settings.setNullProminence(prominence);
     emit nullProminenceChanged(prominence);
+}
+
+void Workbench::stop()
+{
+    m_isStopping = true;
+    // Closed, not only ended: a window stores its place when it is closed.
+    QApplication::closeAllWindows();
+    QApplication::quit();
 }
 
 void Workbench::useLanguage(const QString &code)

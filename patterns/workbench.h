@@ -31,12 +31,16 @@ public:
     {
         m_settings.setWindowGeometry(geometry);
     }
+    bool isStopping() const override { return m_isStopping; }
     PolarView polarView() const override { return m_polarView; }
     void setPolarView(const PolarView &view) override;
     double nullProminence() const override { return m_nullProminence; }
     void setNullProminence(double prominence) override;
     QString language() const override { return m_language.code(); }
     void setLanguage(const QString &code) override;
+
+    /// Closes all windows and dialogs without questions and ends the program.
+    void stop();
 
     /// Shows all windows in "en" or "cn" as long as the program runs.
     void useLanguage(const QString &code);
@@ -49,4 +53,5 @@ private:
     PolarView m_polarView;
     double m_nullProminence;
     Language m_language;
+    bool m_isStopping = false;
 };

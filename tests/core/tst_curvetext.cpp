@@ -47,6 +47,7 @@ private slots:
     void readsFields();
     void readsFiles_data();
     void readsFiles();
+    void recognisesEncodings();
     void refusesFiles();
     void readsPastedText_data();
     void readsPastedText();
@@ -102,7 +103,7 @@ void TestCurveText::readsFields()
 {
     const QString fields =
         QStringLiteral("-1|+1| 1.5 |1.|-.5|1E-3|1e|1e5000|1e-5000|nan|-inf|abc||0x10|1_000|1 "
-                       "2|--1|-|1.2.3|5e-324|-0|00012|1d5|١|"
+                       "2 3|--1|-|1.2.3|5e-324|-0|00012|1d5|١|"
                        "123456789012345678901234567890|2.2250738585072011e-308|9007199254740993|0."
                        "500000000000000166533453693773481063544750213623046875");
     for (const QString &field : fields.split(QLatin1Char('|'))) {
@@ -126,6 +127,12 @@ void TestCurveText::readsFiles_data()
     QTest::newRow("short and empty lines") << fileWith("\n0,-3.5\n7\n\n90,12\n\n") << points;
     QTest::newRow("fields that are no numbers")
         << fileWith(",5\n5,\nAntenna,horn\n1,2,\n") << Points{{0, 5}, {5, 0}, {0, 0}, {1, 2}};
+    QTest::newRow("semicolons and decimal commas")
+        << QByteArray("T;\r\nF1;\r\nAngle;Power\r\n0;-3,5\r\n90;12;;\r\n;\r\n") << points;
+    QTest::newRow("tabs, blanks, quotes") << fileWith("0\t-3,5\n\"90,0\";\"12\"\n1,5   -2.5\n")
+                                          << Points{{0, -3.5}, {90, 12}, {1.5, -2.5}};
+    QTest::newRow("group separators are no numbers")
+        << fileWith("0;1.234,5\n90;12\n") << Points{{0, 0}, {90, 12}};
     QByteArray wide("\xFF\xFE", 2);
     for (const char c : plain)
         wide.append(c).append('\0');
@@ -139,6 +146,21 @@ void TestCurveText::readsFiles()
     QCOMPARE(curve.status, Status::Complete);
     QCOMPARE(curve.name, QStringLiteral("F1"));
     QTEST(curve.points, "points");
+}
+
+void TestCurveText::recognisesEncodings()
+{
+    const auto name = [](const QByteArray &bytes, const char *wanted) {
+        QString encoding;
+        const QByteArray utf8 = CurveText::asUtf8("T\n" + bytes + "\nAngle,Power\n", &encoding);
+        return encoding == QLatin1String(wanted) ? CurveText::fromFile(utf8).name : encoding;
+    };
+    QCOMPARE(name("\xc0\xae\xb0\xc8H\xc3\xe6 10 GHz", "GBK"), QStringLiteral("喇叭H面 10 GHz"));
+    QCOMPARE(name("Gr\xf6\xdf"
+                  "e 90\xb0",
+                  "Windows-1252"),
+             QStringLiteral("Größe 90°"));
+    QCOMPARE(name(QStringLiteral("喇叭 90°").toUtf8(), ""), QStringLiteral("喇叭 90°"));
 }
 
 void TestCurveText::refusesFiles()

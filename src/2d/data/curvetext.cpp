@@ -1,6 +1,6 @@
 #include "2d/data/curvetext.h"
 
-#include <QTextCodec>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -67,21 +67,6 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// What QString::toDouble makes of \a field: the plain cases by the fast road, blanks, signs, words
-/// and values out of range by Qt itself.
-double toNumber(std::string_view field)
-{
-    const std::size_t sign = !field.empty() && field.front() == '-' ? 1 : 0;
-    if (field.size() > sign && isDigit(field[sign])) {
-        double value = 0.0;
-        const char *end = field.data() + field.size();
-        const std::from_chars_result result = std::from_chars(field.data(), end, value);
-        if (result.ec == std::errc() && result.ptr == end)
-            return value;
-    }
-    return decoded(field).toDouble();
-}
-
 /// The first two fields of a line; nothing when it has fewer.
 std::optional<std::pair<std::string_view, std::string_view>> twoFields(std::string_view line,
                                                                        char separator)
@@ -93,43 +78,141 @@ std::optional<std::pair<std::string_view, std::string_view>> twoFields(std::stri
     return std::make_pair(line.substr(0, first), rest.substr(0, rest.find(separator)));
 }
 
-void appendFinite(QVector<QPointF> &points, double x, double y)
+/// The two numbers of a row as its text has them.
+struct Row
 {
-    if (std::isfinite(x) && std::isfinite(y))
-        points.append(QPointF(x, y));
+    double x = 0.0;
+    double y = 0.0;
+    bool isNumeric = false; ///< both fields are numbers
+    bool hasMore = false;   ///< there are further fields
+};
+
+QString unquoted(const QString &cell)
+{
+    QString text = cell.trimmed();
+    if (text.size() > 1 && text.startsWith(QLatin1Char('"')) && text.endsWith(QLatin1Char('"')))
+        text = text.mid(1, text.size() - 2);
+    return text;
 }
 
-/// A number of a spreadsheet's cell, whose decimal sign is that of the operator's country.
-double cellNumber(std::string_view cell, bool *ok = nullptr)
+/// A cell whose decimal sign is that of the user's country.
+double cellNumber(const QString &cell, bool &isNumber)
 {
-    return decoded(cell).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(ok);
+    return QString(cell).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
 }
 
-bool hasTab(std::string_view line)
+/// A row of cells parted by \a separator; a blank stands for any number of them.
+std::optional<Row> rowOfCells(std::string_view line, char separator)
 {
-    return line.find('\t') != std::string_view::npos;
-}
-
-/// Appends the point of a pasted line, if it holds one.
-void appendPasted(QVector<QPointF> &points, std::string_view line)
-{
-    if (const auto cells = twoFields(line, '\t'))
-        appendFinite(points, cellNumber(cells->first), cellNumber(cells->second));
-    else if (const auto fields = twoFields(line, ','))
-        appendFinite(points, toNumber(fields->first), toNumber(fields->second));
-}
-
-/// Whether both fields of a line are numbers.
-bool isNumericRow(std::string_view line, char separator)
-{
-    const auto fields = twoFields(line, separator);
-    if (!fields)
-        return false;
+    const QStringList cells = decoded(line).split(
+        QLatin1Char(separator), separator == ' ' ? Qt::SkipEmptyParts : Qt::KeepEmptyParts);
+    // Blanks part two numbers, and the words of a sentence too.
+    if (cells.size() < 2 || (separator == ' ' && cells.size() > 2))
+        return std::nullopt;
+    Row row;
     bool xOk = false;
     bool yOk = false;
-    cellNumber(fields->first, &xOk);
-    cellNumber(fields->second, &yOk);
-    return xOk && yOk;
+    row.x = cellNumber(unquoted(cells.at(0)), xOk);
+    row.y = cellNumber(unquoted(cells.at(1)), yOk);
+    row.isNumeric = xOk && yOk;
+    // Spreadsheets pad short rows with empty cells.
+    row.hasMore = std::any_of(cells.begin() + 2, cells.end(),
+                              [](const QString &cell) { return !cell.trimmed().isEmpty(); });
+    return row;
+}
+
+std::optional<Row> rowByCommas(std::string_view line)
+{
+    const auto fields = twoFields(line, ',');
+    if (!fields)
+        return std::nullopt;
+    Row row;
+    bool xOk = false;
+    bool yOk = false;
+    row.x = decoded(fields->first).toDouble(&xOk);
+    row.y = decoded(fields->second).toDouble(&yOk);
+    row.isNumeric = xOk && yOk;
+    row.hasMore = std::count(line.begin(), line.end(), ',') > 1;
+    return row;
+}
+
+/// Whether \a field is a plain number, which is read into \a value.
+bool plainNumber(std::string_view field, double &value)
+{
+    const std::size_t sign = !field.empty() && field.front() == '-' ? 1 : 0;
+    if (field.size() <= sign || !isDigit(field[sign]))
+        return false;
+    const char *end = field.data() + field.size();
+    const std::from_chars_result result = std::from_chars(field.data(), end, value);
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+/// The row in \a line; nothing when it has fewer than two fields. Plain numbers take the fast path:
+/// a million rows would feel any other.
+std::optional<Row> readRow(std::string_view line)
+{
+    if (const auto fields = twoFields(line, ',')) {
+        Row row;
+        if (plainNumber(fields->first, row.x) && plainNumber(fields->second, row.y)) {
+            row.isNumeric = true;
+            row.hasMore =
+                fields->second.data() + fields->second.size() != line.data() + line.size();
+            return row;
+        }
+    }
+    std::optional<Row> fallback = rowByCommas(line);
+    if (fallback && fallback->isNumeric && line.find(';') == std::string_view::npos)
+        return fallback;
+    bool byCells = false;
+    for (const char separator : {'\t', ';', ' '}) {
+        const std::optional<Row> row = rowOfCells(line, separator);
+        const bool parts = row && (row->isNumeric || separator != ' ');
+        if (parts && (row->isNumeric || !byCells))
+            fallback = row;
+        byCells = byCells || parts;
+        if (row && row->isNumeric)
+            break;
+    }
+    return fallback && line.find_first_not_of(" \t;,") != std::string_view::npos ? fallback
+                                                                                 : std::nullopt;
+}
+
+/// Appends the point of \a line, if it holds one, and counts what was odd about it.
+void appendRow(CurveText::Curve &curve, std::string_view line)
+{
+    if (line.find_first_not_of(" \t;,") == std::string_view::npos &&
+        line.find(',') == std::string_view::npos)
+        return; // an empty row
+    const std::optional<Row> row = readRow(line);
+    if (!row) {
+        ++curve.rows.tooShort;
+        return;
+    }
+    curve.rows.moreFields += row->hasMore;
+    if (!std::isfinite(row->x) || !std::isfinite(row->y)) {
+        ++curve.rows.notFinite;
+        return;
+    }
+    curve.rows.noNumbers += !row->isNumeric;
+    curve.points.append(QPointF(row->x, row->y));
+}
+
+/// Whether \a line is a row of two numbers that no comma parts.
+bool isRowOfCells(std::string_view line)
+{
+    for (const char separator : {'\t', ';', ' '}) {
+        const std::optional<Row> row = rowOfCells(line, separator);
+        if (row && row->isNumeric)
+            return true;
+    }
+    return false;
+}
+
+/// A heading line without the empty cells that spreadsheets put behind it.
+std::string_view withoutEmptyCells(std::string_view line)
+{
+    const std::size_t last = line.find_last_not_of("\t;");
+    return line.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
 char *copyText(char *out, std::string_view text)
@@ -294,14 +377,6 @@ QByteArray toFile(const QString &title, const QString &name, const QVector<QPoin
                       points);
 }
 
-QByteArray asUtf8(const QByteArray &bytes)
-{
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        return bytes.mid(3);
-    const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, nullptr);
-    return codec ? codec->toUnicode(bytes).toUtf8() : bytes;
-}
-
 Curve fromFile(const QByteArray &bytes, const Progress &progress)
 {
     const QByteArray text = asUtf8(bytes);
@@ -309,9 +384,9 @@ Curve fromFile(const QByteArray &bytes, const Progress &progress)
     std::string_view line;
     Curve curve;
     if (lines.next(line))
-        curve.title = decoded(line);
+        curve.title = decoded(withoutEmptyCells(line));
     if (lines.next(line))
-        curve.name = decoded(line);
+        curve.name = decoded(withoutEmptyCells(line));
     if (!lines.next(line) || !isHeader(line)) {
         curve.status = Status::WrongHeader;
         return curve;
@@ -319,8 +394,7 @@ Curve fromFile(const QByteArray &bytes, const Progress &progress)
     curve.points.reserve(lines.linesLeft());
     qint64 reported = 0;
     while (lines.next(line)) {
-        if (const auto fields = twoFields(line, ','))
-            appendFinite(curve.points, toNumber(fields->first), toNumber(fields->second));
+        appendRow(curve, line);
         if (!progress || lines.done() - reported < bytesBetweenReports)
             continue;
         reported = lines.done();
@@ -340,13 +414,16 @@ Curve fromClipboard(const QString &text)
     std::string_view line;
     Curve curve;
     lines.next(line);
-    bool headed = hasTab(line) && isHeader(line);
+    const auto isCellHeader = [](std::string_view head) {
+        return isHeader(head) && head.find_first_of("\t;") != std::string_view::npos;
+    };
+    bool headed = isCellHeader(line);
     bool isCurve = headed;
-    if (isNumericRow(line, '\t')) {
+    if (isRowOfCells(line)) {
         isCurve = true;
-        appendPasted(curve.points, line);
+        appendRow(curve, line);
     } else if (!headed) {
-        curve.name = decoded(line.substr(0, line.find('\t')));
+        curve.name = decoded(line.substr(0, line.find_first_of("\t;")));
     }
 
     curve.points.reserve(lines.linesLeft());
@@ -356,8 +433,10 @@ Curve fromClipboard(const QString &text)
             isCurve = true;
             continue;
         }
-        isCurve = isCurve || isNumericRow(line, '\t') || isNumericRow(line, ',');
-        appendPasted(curve.points, line);
+        const auto before = curve.points.size();
+        const qint64 oddBefore = curve.rows.noNumbers;
+        appendRow(curve, line);
+        isCurve = isCurve || (curve.points.size() > before && curve.rows.noNumbers == oddBefore);
     }
     if (!isCurve)
         curve.status = Status::NoCurve;

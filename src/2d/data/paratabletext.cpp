@@ -1,5 +1,9 @@
 #include "2d/data/paratabletext.h"
 
+#include "2d/data/patternsupplement.h"
+
+#include <QRegularExpression>
+
 #include <cmath>
 
 namespace {
@@ -9,7 +13,12 @@ constexpr double noCrossPolarData = 255.0;
 
 QString fixed(double value, int decimals)
 {
-    return QStringLiteral("%1").arg(value, 0, 'f', decimals);
+    QString text = QStringLiteral("%1").arg(value, 0, 'f', decimals);
+    // What rounds to nothing has no sign.
+    static const QRegularExpression negativeZero(QStringLiteral("^-0\\.?0*$"));
+    if (negativeZero.match(text).hasMatch())
+        text.remove(0, 1);
+    return text;
 }
 
 FloatingTableRow row(const QPair<double, double> &figure)
@@ -25,6 +34,11 @@ FloatingTableRow row(double level)
 double beforeAfterOfFloatingTable(const ParaInfo &info)
 {
     return naturalLogOfTen / std::log(info.gain.second / info.backLobe.second);
+}
+
+QString figureOrDash(const std::optional<double> &value)
+{
+    return value ? fixed(*value, 2) : QStringLiteral("\u2013");
 }
 
 QString crossPolarCell(double ratio)
@@ -71,4 +85,10 @@ QStringList frequencyTableCells(const ParaInfo &info, const QString &frequency)
 QString amplitudeCell(const ParaInfo &info)
 {
     return fixed(std::pow(10.0, info.gain.second / 20.0), 4);
+}
+
+QStringList supplementCells(const PatternSupplement &figures)
+{
+    return {figureOrDash(figures.halfPowerBeamWidth), figureOrDash(figures.firstNullBeamWidth),
+            figureOrDash(figures.sideLobeLevel), figureOrDash(figures.frontToBackRatio)};
 }

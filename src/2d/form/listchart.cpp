@@ -5,19 +5,26 @@
 #include "2d/data/patternscale.h"
 #include "2d/form/chartpresentation.h"
 #include "2d/form/curvetablemodel.h"
-#include "2d/form/filedrag.h"
 #include "2d/form/pointtablemodel.h"
 #include "2d/scene/generatecolors.h"
+#include "2d/scene/marktable.h"
 #include "2d/view/curvename.h"
 #include "2d/view/graphicsbase.h"
 #include "2d/view/managergraph.h"
+#include "2d/view/pathinfo.h"
 
 #include <QAction>
+#include <QChart>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QIcon>
+#include <QLabel>
+#include <QMimeData>
 #include <QSignalBlocker>
 #include <QTimer>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <QValueAxis>
 
 #include <algorithm>
 
@@ -40,6 +47,19 @@ QStringList headings(const QTableWidget &table)
     for (int column = 0; column < table.columnCount(); ++column)
         texts.append(table.horizontalHeaderItem(column)->text());
     return texts;
+}
+
+/// The local files that are dragged in from a file manager. They have to be told from a curve's
+/// text, since files too can be asked for as text: their addresses.
+QStringList draggedFiles(const QDropEvent &event)
+{
+    QStringList files;
+    const QList<QUrl> addresses = event.mimeData()->urls();
+    for (const QUrl &address : addresses) {
+        if (address.isLocalFile())
+            files.append(address.toLocalFile());
+    }
+    return files;
 }
 
 QString textLine(const QStringList &cells)
@@ -95,6 +115,15 @@ void ListChart::setUpCharts()
         field->setMinimum(-levelLimit);
         field->setMaximum(levelLimit);
     }
+    for (const GraphicsBase *view : {m_polar, m_cartesian}) {
+        const QList<QtCharts::QAbstractAxis *> axes = view->chart()->axes();
+        for (QtCharts::QAbstractAxis *axis : axes) {
+            connect(
+                qobject_cast<QtCharts::QValueAxis *>(axis), &QtCharts::QValueAxis::rangeChanged,
+                this, [this, view] { followLevels(*view); }, Qt::QueuedConnection);
+        }
+    }
+    setUpHint();
     retitleCharts();
 }
 
@@ -123,11 +152,14 @@ void ListChart::connectParts()
     connect(m_curves.get(), &CurveSet::changed, this, &ListChart::refresh);
     connect(m_curves.get(), &CurveSet::selectionChanged, this, &ListChart::showSelection);
     connect(m_curveModel, &CurveTableModel::refused, this, &ListChart::message);
+    const auto select = [this](const QModelIndex &current) {
+        if (current.isValid())
+            m_curves->select(m_curveModel->curveAt(current.row()));
+    };
     connect(ui->curveTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex &current) {
-                if (current.isValid())
-                    m_curves->select(m_curveModel->curveAt(current.row()));
-            });
+            select);
+    // A press on the row that is current already changes no row.
+    connect(ui->curveTable, &QTableView::pressed, this, select);
     connect(ui->fitButton, &QPushButton::clicked, this, &ListChart::fitToData);
     connect(ui->levelMin, &LineEdit::editingFinished, this, &ListChart::applyLevelFields);
     connect(ui->levelMax, &LineEdit::editingFinished, this, &ListChart::applyLevelFields);
@@ -140,6 +172,7 @@ void ListChart::connectParts()
         m_ownTitle = text.trimmed();
         ChartPresentation::setTitle(*m_polar, title());
         ChartPresentation::setTitle(*m_cartesian, title());
+        emit titleChanged();
     });
     connect(ui->titleEdit, &QLineEdit::editingFinished, this, &ListChart::showTitle);
 }
@@ -302,17 +335,24 @@ void ListChart::retitleCharts()
 {
     ChartPresentation::setAxisTitles(*m_polar, QString(), QString());
     ChartPresentation::setAxisTitles(*m_cartesian, tr("Angle [°]"), tr("Level [dB]"));
+    m_hint->setText(tr("Open a file (Ctrl+O), drop files here, paste two columns of numbers, or "
+                       "begin with File, Open Samples."));
 }
 
 void ListChart::refresh()
 {
     showTitle();
+    m_hint->setVisible(m_curves->ids().isEmpty());
     refreshPoints();
     refreshFigures();
     const QList<int> ids = m_curves->ids();
     const bool hasNew =
         std::any_of(ids.begin(), ids.end(), [this](int id) { return !m_shownIds.contains(id); });
     m_shownIds = ids;
+    for (const GraphicsBase *view : {m_polar, m_cartesian}) {
+        for (PathInfo *path : view->paths())
+            path->markTablePanel()->table()->setPattern(true);
+    }
     if (!hasNew)
         return;
     m_polar->finishUpdateChart();
@@ -360,11 +400,39 @@ void ListChart::showSelection(int id)
 {
     const QSignalBlocker blocker(ui->curveTable->selectionModel());
     const int row = m_curveModel->rowOf(id);
-    if (row < 0)
-        ui->curveTable->clearSelection();
-    else
-        ui->curveTable->selectRow(row);
+    QItemSelectionModel *selection = ui->curveTable->selectionModel();
+    if (row < 0) {
+        selection->clear();
+    } else {
+        const int column = qMax(0, ui->curveTable->currentIndex().column());
+        const QModelIndex current = m_curveModel->index(row, column);
+        selection->setCurrentIndex(current,
+                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        ui->curveTable->scrollTo(current);
+    }
     ui->curveTable->viewport()->update();
+}
+
+/// Shows in the fields what a zoom or a pan of \a view has made of the levels.
+void ListChart::followLevels(const GraphicsBase &view)
+{
+    const ViewRange shown = view.shownRange();
+    ui->levelMin->setValue(shown.yMin);
+    ui->levelMax->setValue(shown.yMax);
+    m_levels.min = ui->levelMin->value();
+    m_levels.max = ui->levelMax->value();
+}
+
+/// An empty window says how to begin.
+void ListChart::setUpHint()
+{
+    auto *layout = new QVBoxLayout(m_cartesian->viewport());
+    m_hint = new QLabel(m_cartesian->viewport());
+    m_hint->setObjectName(QStringLiteral("emptyHint"));
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+    m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    layout->addWidget(m_hint);
 }
 
 void ListChart::changeEvent(QEvent *event)
@@ -381,13 +449,13 @@ void ListChart::changeEvent(QEvent *event)
 
 void ListChart::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (FileDrag::holdsFiles(*event))
+    if (!draggedFiles(*event).isEmpty())
         event->acceptProposedAction();
 }
 
 void ListChart::dropEvent(QDropEvent *event)
 {
-    const QStringList files = FileDrag::files(*event);
+    const QStringList files = draggedFiles(*event);
     if (files.isEmpty())
         return;
     event->acceptProposedAction();
@@ -402,7 +470,7 @@ bool ListChart::eventFilter(QObject *watched, QEvent *event)
     if (!isDrag)
         return QWidget::eventFilter(watched, event);
     auto *drop = static_cast<QDropEvent *>(event);
-    if (!FileDrag::holdsFiles(*drop))
+    if (draggedFiles(*drop).isEmpty())
         return QWidget::eventFilter(watched, event);
     if (event->type() == QEvent::Drop)
         dropEvent(drop);

@@ -14,6 +14,7 @@ class CurveTableModel;
 class GraphicsBase;
 class PointTableModel;
 class QAction;
+class QLabel;
 
 namespace Ui {
 class ListChart;
@@ -73,6 +74,8 @@ public slots:
 signals:
     /// Files were dropped onto the form.
     void filesDropped(const QStringList &files);
+    /// The title() is another one now.
+    void titleChanged();
     /// The user chose what makes a minimum a null, dB.
     void nullProminenceChosen(double prominence);
     /// Something to tell the user that needs no answer.
@@ -94,6 +97,8 @@ private:
     void refreshPoints();
     void refreshFigures();
     void showSelection(int id);
+    void followLevels(const GraphicsBase &view);
+    void setUpHint();
     void fit();
     void showLevels(double min, double max);
     void applyLevelFields();
@@ -104,6 +109,7 @@ private:
     std::unique_ptr<CurveSet> m_curves;
     CurveTableModel *m_curveModel;
     PointTableModel *m_pointModel;
+    QLabel *m_hint = nullptr; ///< seen while there is no curve
     QVector<CurveFigures> m_figures;
     QList<int> m_shownIds; ///< the curves at the last refresh
     QString m_ownTitle;    ///< as the operator wrote it; empty: from the files

@@ -1,6 +1,6 @@
 #include "2d/form/supplementarytable.h"
 
-#include "2d/data/supplementtext.h"
+#include "2d/data/paratabletext.h"
 #include "2d/scene/generatecolors.h"
 
 #include <QEvent>

@@ -60,9 +60,16 @@ MarkTable::MarkTable(QWidget *parent)
 void MarkTable::writeHeaders()
 {
     setAccessibleName(tr("Markers"));
-    setHorizontalHeaderLabels(
-        {m_curveName.isEmpty() ? tr("Marker") : m_curveName, tr("X"), tr("Y")});
+    setHorizontalHeaderLabels({m_curveName.isEmpty() ? tr("Marker") : m_curveName,
+                               m_isPattern ? tr("Angle") : tr("X"),
+                               m_isPattern ? tr("Level") : tr("Y")});
     horizontalHeaderItem(NumberColumn)->setToolTip(m_curveName);
+}
+
+void MarkTable::setPattern(bool isPattern)
+{
+    m_isPattern = isPattern;
+    writeHeaders();
 }
 
 void MarkTable::setCurveName(const QString &name)

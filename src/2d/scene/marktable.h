@@ -18,6 +18,8 @@ public:
     /// Shows the markers of \a numbers that are in \a marks.
     void setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks);
     void setCurveName(const QString &name);
+    /// Calls the coordinates angle and level.
+    void setPattern(bool isPattern);
     bool hasData() const { return rowCount() > 0; }
     /// The size that shows all rows, as long as they are not too many.
     QSize fittingSize() const;
@@ -29,6 +31,7 @@ private:
     void writeHeaders();
 
     QString m_curveName;
+    bool m_isPattern = false;
 };
 
 /// The panel on the scene that hosts a MarkTable.

@@ -156,7 +156,7 @@ void CurveExchange::addFromText(const QString &text)
 {
     const CurveText::Curve curve = CurveText::fromClipboard(text);
     if (curve.status != CurveText::Status::Complete) {
-        qWarning().noquote() << tr("Incorrect file format");
+        tellFailure(tr("The text is not a curve"), QString());
         return;
     }
     const std::optional<QString> name =

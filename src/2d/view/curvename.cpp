@@ -17,9 +17,11 @@ std::optional<QString> askFreeCurveName(QWidget *parent, const QString &name,
                                         const std::function<bool(const QString &)> &taken)
 {
     QString wanted = name;
-    while (taken(wanted)) {
+    while (wanted.trimmed().isEmpty() || taken(wanted)) {
         MessageDialog dialog(CurveName::tr("Warning"),
-                             CurveName::tr("Existing frequency!\n Please modify the name"),
+                             wanted.trimmed().isEmpty()
+                                 ? CurveName::tr("A curve needs a name.")
+                                 : CurveName::tr("Existing frequency!\n Please modify the name"),
                              QString(), CurveName::tr("OK"), CurveName::tr("Cancel"), parent);
         dialog.setFrequencyRowVisible(true);
         dialog.setRawFrequency(wanted);

@@ -9,6 +9,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -42,6 +43,7 @@ ManagerGraph::ManagerGraph(QWidget *parent)
     setWindowTitle(tr("Manage Graph"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setUpTable();
+    connect(ui->pushButtonCancel, &QPushButton::clicked, this, &ManagerGraph::reject);
     connect(ui->tableWidget, &QTableWidget::cellChanged, this, &ManagerGraph::cellChanged);
 }
 
@@ -59,10 +61,23 @@ void ManagerGraph::setUpTable()
         header->setTextElideMode(Qt::ElideRight);
         header->setVisible(false);
     }
+    connect(table->horizontalScrollBar(), &QScrollBar::rangeChanged, this,
+            &ManagerGraph::alignLabels);
+    alignLabels();
     table->horizontalHeader()->setMinimumSectionSize(leastColumnWidth);
     table->setEditTriggers(QAbstractItemView::DoubleClicked);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setFocusPolicy(Qt::NoFocus);
+}
+
+/// The labels stand beside the rows also when a scroll bar takes its room below these.
+void ManagerGraph::alignLabels()
+{
+    const QScrollBar *bar = ui->tableWidget->horizontalScrollBar();
+    const int frame = ui->tableWidget->frameWidth();
+    const bool isNeeded = bar->maximum() > bar->minimum();
+    ui->labelLayout->setContentsMargins(0, frame, 0,
+                                        frame + (isNeeded ? bar->sizeHint().height() : 0));
 }
 
 void ManagerGraph::updatePathInfo(QMap<int, PathInfo *> map)
@@ -176,6 +191,13 @@ void ManagerGraph::on_pushButtonDefault_clicked()
             it->lineWidth); // a width that the list lacks comes back too
         colorSelected(it.key(), it->color);
     }
+}
+
+/// What was tried out is taken back.
+void ManagerGraph::reject()
+{
+    on_pushButtonDefault_clicked();
+    QDialog::reject();
 }
 
 void ManagerGraph::on_pushButtonOK_clicked()

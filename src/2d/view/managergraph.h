@@ -37,6 +37,8 @@ public slots:
     void isHide(int index, bool checked);
     void on_pushButtonDefault_clicked();
     void on_pushButtonOK_clicked();
+    /// Gives every curve back the look it had.
+    void reject() override;
     void cellChanged(int row, int column);
 
 private:
@@ -49,6 +51,7 @@ private:
     };
 
     void setUpTable();
+    void alignLabels();
     void addColumn(PathInfo *path);
     void addTexts(int column, const PathInfo &path);
     void addStateCell(int column, const PathInfo &path);

@@ -328,6 +328,10 @@
         <source>Pasted curve</source>
         <translation>粘贴的曲线</translation>
     </message>
+    <message>
+        <source>The text is not a curve</source>
+        <translation>文本不是曲线</translation>
+    </message>
 </context>
 <context>
     <name>CurveFileReader</name>
@@ -356,10 +360,6 @@
         <translation>%1：文件中没有数据点。</translation>
     </message>
     <message>
-        <source>rows with more than two fields, of which the first two were read: %1. Decimal commas are not understood, write decimal points.</source>
-        <translation>字段多于两个、只读取前两个字段的行：%1。不识别小数逗号，请使用小数点。</translation>
-    </message>
-    <message>
         <source>rows with a field that is no number and was read as 0: %1.</source>
         <translation>含非数字字段、按 0 读入的行：%1。</translation>
     </message>
@@ -382,6 +382,36 @@
     <message>
         <source>The third line is not &quot;Angle,Power&quot;, and it is no pattern file of MSI, NSMA or NEC2.</source>
         <translation>第三行不是 &quot;Angle,Power&quot;，也不是 MSI、NSMA 或 NEC2 方向图文件。</translation>
+    </message>
+    <message>
+        <source>%1: The text is encoded as %2, not as UTF-8.</source>
+        <translation>%1：文本编码为 %2，而不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>rows with more than two fields, of which the first two were read: %1. Decimal commas need semicolons, tabs or blanks between the fields.</source>
+        <translation>多于两个字段、只读取了前两个字段的行数：%1。使用小数逗号时，字段之间须用分号、制表符或空格分隔。</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>The names of %1 curves are taken:
+%2</source>
+        <translation>%1 条曲线的名称已被占用：
+%2</translation>
+    </message>
+    <message>
+        <source>&amp;Number All</source>
+        <translation>全部编号(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for Each</source>
+        <translation>逐一询问(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel All</source>
+        <translation>全部取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -426,6 +456,10 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>A curve needs a name.</source>
+        <translation>曲线需要名称。</translation>
     </message>
 </context>
 <context>
@@ -875,6 +909,10 @@ correction</source>
     <message>
         <source>A minimum is a null when the level rises by at least this much on both of its sides</source>
         <translation>两侧电平至少回升这么多的极小值才算零点</translation>
+    </message>
+    <message>
+        <source>Open a file (Ctrl+O), drop files here, paste two columns of numbers, or begin with File, Open Samples.</source>
+        <translation>打开文件（Ctrl+O）、将文件拖放到此处、粘贴两列数字，或从“文件”&gt;“打开示例”开始。</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1494,10 @@ correction</source>
         <source>Line color of %1</source>
         <translation>%1 的线条颜色</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1489,6 +1531,14 @@ correction</source>
     <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>电平</translation>
     </message>
 </context>
 <context>
@@ -1863,6 +1913,10 @@ correction</source>
     <message>
         <source>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</source>
         <translation>曲线和方向图 (*.csv *.msi *.pln *.adf *.out *.txt);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Others were opened. Please look at these points:</source>
+        <translation>其他文件已打开。请注意以下几点：</translation>
     </message>
 </context>
 <context>
@@ -2265,6 +2319,14 @@ correction</source>
     <message>
         <source>Labels &amp;0 ... 360</source>
         <translation>标签 0 ... 360(&amp;0)</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>手册(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
     </message>
 </context>
 <context>

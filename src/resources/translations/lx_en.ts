@@ -328,6 +328,10 @@
         <source>Pasted curve</source>
         <translation>Pasted curve</translation>
     </message>
+    <message>
+        <source>The text is not a curve</source>
+        <translation>The text is not a curve</translation>
+    </message>
 </context>
 <context>
     <name>CurveFileReader</name>
@@ -356,10 +360,6 @@
         <translation>%1: The file holds no point.</translation>
     </message>
     <message>
-        <source>rows with more than two fields, of which the first two were read: %1. Decimal commas are not understood, write decimal points.</source>
-        <translation>rows with more than two fields, of which the first two were read: %1. Decimal commas are not understood, write decimal points.</translation>
-    </message>
-    <message>
         <source>rows with a field that is no number and was read as 0: %1.</source>
         <translation>rows with a field that is no number and was read as 0: %1.</translation>
     </message>
@@ -382,6 +382,36 @@
     <message>
         <source>The third line is not &quot;Angle,Power&quot;, and it is no pattern file of MSI, NSMA or NEC2.</source>
         <translation>The third line is not &quot;Angle,Power&quot;, and it is no pattern file of MSI, NSMA or NEC2.</translation>
+    </message>
+    <message>
+        <source>%1: The text is encoded as %2, not as UTF-8.</source>
+        <translation>%1: The text is encoded as %2, not as UTF-8.</translation>
+    </message>
+    <message>
+        <source>rows with more than two fields, of which the first two were read: %1. Decimal commas need semicolons, tabs or blanks between the fields.</source>
+        <translation>rows with more than two fields, of which the first two were read: %1. Decimal commas need semicolons, tabs or blanks between the fields.</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Names</translation>
+    </message>
+    <message>
+        <source>The names of %1 curves are taken:
+%2</source>
+        <translation>The names of %1 curves are taken:
+%2</translation>
+    </message>
+    <message>
+        <source>&amp;Number All</source>
+        <translation>&amp;Number All</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for Each</source>
+        <translation>&amp;Ask for Each</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel All</source>
+        <translation>&amp;Cancel All</translation>
     </message>
 </context>
 <context>
@@ -426,6 +456,10 @@
     <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>A curve needs a name.</source>
+        <translation>A curve needs a name.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +909,10 @@ correction</translation>
     <message>
         <source>A minimum is a null when the level rises by at least this much on both of its sides</source>
         <translation>A minimum is a null when the level rises by at least this much on both of its sides</translation>
+    </message>
+    <message>
+        <source>Open a file (Ctrl+O), drop files here, paste two columns of numbers, or begin with File, Open Samples.</source>
+        <translation>Open a file (Ctrl+O), drop files here, paste two columns of numbers, or begin with File, Open Samples.</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1494,10 @@ correction</translation>
         <source>Line color of %1</source>
         <translation>Line color of %1</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1489,6 +1531,14 @@ correction</translation>
     <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
     </message>
 </context>
 <context>
@@ -1863,6 +1913,10 @@ correction</translation>
     <message>
         <source>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</source>
         <translation>Curves and patterns (*.csv *.msi *.pln *.adf *.out *.txt);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Others were opened. Please look at these points:</source>
+        <translation>Others were opened. Please look at these points:</translation>
     </message>
 </context>
 <context>
@@ -2265,6 +2319,14 @@ correction</translation>
     <message>
         <source>Labels &amp;0 ... 360</source>
         <translation>Labels &amp;0 ... 360</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
     </message>
 </context>
 <context>
