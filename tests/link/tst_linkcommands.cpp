@@ -42,381 +42,282 @@ class TestLinkCommands : public QObject
 
 private slots:
     void initTestCase_data() { addBothRoads(); }
-    void operations_data();
-    void operations();
-    void pieces_data();
-    void pieces();
-    void unfinishedReplyIsContinued();
-    void lateReplyIsLeftBehind();
 
-    void taskResults_data();
-    void taskResults();
-    void staleInputIsNoTaskResult_data();
-    void staleInputIsNoTaskResult();
-    void abandonedTaskDoesNotAnswerForTheNext();
-    void abandonedTaskLeavesNothingToTheNextLink();
-    void unsentTaskIsNotAwaited();
+    void operations_data()
+    {
+        using Link = SerialLogic;
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<QByteArray>("answers"); // behind "RETURN:"; "|" is the end of a line
+        QTest::addColumn<QByteArray>("wire");
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char *name, const Action &action, const char *answers,
+                            const char *wire, const char *told) {
+            QTest::newRow(name) << action << QByteArray(answers) << QByteArray(wire) << text(told);
+        };
 
-    void closeIsDeferred();
-    void openWhileOpenMovesToTheNewInstrument();
-    void lostLine_data();
-    void lostLine();
-    void lineLostUnnoticed_data();
-    void lineLostUnnoticed();
-    void logAndDisplay();
-};
+        row("identity", &Link::queryIDN, "IDN MZ6218,V1", "*IDN?", "identity 'MZ6218,V1'");
+        row("reading", &Link::readMesureData, "GET -20.00dBm,1.00µW", "GET?", "power -20 '1.00µW'");
 
-void TestLinkCommands::operations_data()
-{
-    using Link = SerialLogic;
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<QByteArray>("answers"); // behind "RETURN:"; "|" is the end of a line
-    QTest::addColumn<QByteArray>("wire");
-    QTest::addColumn<QString>("told");
-    const auto row = [](const char *name, const Action &action, const char *answers,
-                        const char *wire, const char *told) {
-        QTest::newRow(name) << action << QByteArray(answers) << QByteArray(wire) << text(told);
-    };
+        const Action averageOver16 = call(&Link::setAverageCount, 16);
+        row("set offset", call(&Link::setOffset, -1.5), "OK|OFFS -1.50dB", "OFFS -1.50|OFFS?",
+            "offset -1.5");
+        row("set unit", call(&Link::setPowerUnit, text("W")), "OK|UNIT:POW W",
+            "UNIT:POW W|UNIT:POW?", "unit 'W'");
+        row("set relative", call(&Link::setMeasureState, text("OFF")), "OK|REL OFF", "REL OFF|REL?",
+            "state 'OFF'");
+        row("set averaging", averageOver16, "OK, AS YOU WISH|AVER:COUN 16",
+            "AVER:COUN 16|AVER:COUN?", "count 16");
+        row("refused setting", averageOver16, "ERR", "AVER:COUN 16", "");
 
-    row("identity", &Link::queryIDN, "IDN MZ6218,V1", "*IDN?", "identity 'MZ6218,V1'");
-    row("power unit", &Link::queryPowerUnit, "UNIT:POW DBM\r", "UNIT:POW?", "unit 'DBM'");
-    row("reading", &Link::readMesureData, "GET -20.00dBm,1.00µW", "GET?", "power -20 '1.00µW'");
-    row("reading of one field", &Link::readMesureData, "GET -20.00dBm", "GET?", "power 100 ''");
+        const char *const refused = "ERR|OK|FREQ 2.45GHz";
+        const char *const told = "frequency 2.45 'GHz'";
+        const auto setNumber = qOverload<double>(&Link::setFrequency);
+        row("number", call(setNumber, 2.45), "OK|FREQ 2.45GHz", "FREQ 2.45|FREQ?", told);
+        row("refused GHz", setFrequency("2.45", "GHz"), refused, "FREQ 2.45GHz|FREQ 2.45|FREQ?",
+            told);
+        row("refused MHz", setFrequency("2450", "MHz"), refused, "FREQ 2450MHz|FREQ 2.45|FREQ?",
+            told);
+        row("refused twice", setFrequency("2450", "MHz"), "ERR|ERR", "FREQ 2450MHz|FREQ 2.45", "");
+        row("refused, no number for the unit", setFrequency("9", "Hz"), "ERR", "FREQ 9Hz", "");
 
-    const Action averageOver16 = call(&Link::setAverageCount, 16);
-    row("set offset", call(&Link::setOffset, -1.5), "OK|OFFS -1.50dB", "OFFS -1.50|OFFS?",
-        "offset -1.5");
-    row("set unit", call(&Link::setPowerUnit, text("W")), "OK|UNIT:POW W", "UNIT:POW W|UNIT:POW?",
-        "unit 'W'");
-    row("set relative", call(&Link::setMeasureState, text("OFF")), "OK|REL OFF", "REL OFF|REL?",
-        "state 'OFF'");
-    row("set averaging", averageOver16, "OK, AS YOU WISH|AVER:COUN 16", "AVER:COUN 16|AVER:COUN?",
-        "count 16");
-    row("refused setting", averageOver16, "ERR", "AVER:COUN 16", "");
+        row("no frequency came", &Link::queryFrequency, "", "FREQ?", "frequency 0 ''");
+        row("no reading came", &Link::readMesureData, "", "GET?", "power 100 ''");
+        row("no confirmation came", call(&Link::setOffset, 1), "", "OFFS 1.00", "");
+        row("neither form confirmed", setFrequency("50", "MHz"), "", "FREQ 50MHz|FREQ 0.05", "");
+    }
+    void operations()
+    {
+        QFETCH_GLOBAL(int, mode);
+        QFETCH(Action, action);
+        QFETCH(QByteArray, answers);
+        QFETCH(QByteArray, wire);
+        LinkBench bench(mode, answers.isEmpty() ? QList<Answer>() : script(answers));
+        QVERIFY(bench.open());
+        if (answers.isEmpty())
+            bench.shortenReading();
+        action(bench.link);
+        QTEST(bench.told(), "told");
+        QTRY_COMPARE(bench.instrument.lines().join(), wire.replace('|', '\n') + '\n');
+        QCOMPARE(bench.errors, QStringList());
+    }
 
-    const char *const refused = "ERR|OK|FREQ 2.45GHz";
-    const char *const told = "frequency 2.45 'GHz'";
-    const auto setNumber = qOverload<double>(&Link::setFrequency);
-    row("number", call(setNumber, 2.45), "OK|FREQ 2.45GHz", "FREQ 2.45|FREQ?", told);
-    row("text", setFrequency("2.45", "GHz"), "OK|FREQ 2.45GHz", "FREQ 2.45GHz|FREQ?", told);
-    row("refused GHz", setFrequency("2.45", "GHz"), refused, "FREQ 2.45GHz|FREQ 2.45|FREQ?", told);
-    row("refused MHz", setFrequency("2450", "MHz"), refused, "FREQ 2450MHz|FREQ 2.45|FREQ?", told);
-    row("refused KHz", setFrequency("2450000", "KHz"), refused, "FREQ 2450000KHz|FREQ 2.45|FREQ?",
-        told);
-    row("refused twice", setFrequency("2450", "MHz"), "ERR|ERR", "FREQ 2450MHz|FREQ 2.45", "");
-    row("refused, no number for the unit", setFrequency("9", "Hz"), "ERR", "FREQ 9Hz", "");
+    void replyInPieces()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode, {Answer{{"RETURN:UNIT:POW W", "\n"}}, says("RETURN:REL ON")});
+        QVERIFY(bench.open());
+        bench.letPiecesFollow();
+        bench.link.queryPowerUnit();
+        bench.link.queryMeasureState();
+        QCOMPARE(bench.told(), text("unit 'W', state 'ON'"));
+    }
 
-    row("no identity came", &Link::queryIDN, "", "*IDN?", "identity ''");
-    row("no frequency came", &Link::queryFrequency, "", "FREQ?", "frequency 0 ''");
-    row("no averaging came", &Link::queryAverageCount, "", "AVER:COUN?", "count 0");
-    row("no reading came", &Link::readMesureData, "", "GET?", "power 100 ''");
-    row("no confirmation came", call(&Link::setOffset, 1), "", "OFFS 1.00", "");
-    row("neither form confirmed", setFrequency("50", "MHz"), "", "FREQ 50MHz|FREQ 0.05", "");
-}
+    void unfinishedReplyIsContinued()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode, {Answer{{"RETURN:OFFS 1"}}, says(".5dB")});
+        QVERIFY(bench.open());
+        const LinkWaits patient = bench.waits;
+        // The first piece is waited for in full, the second never comes.
+        const auto shortened = connect(bench.device(), &QIODevice::readyRead, &bench.link,
+                                       [&] { bench.shortenReading(); });
+        bench.link.queryOffset();
+        disconnect(shortened);
+        bench.link.setWaits(patient);
+        bench.link.queryOffset();
+        QCOMPARE(bench.told(), text("offset 0, offset 1.5"));
+    }
 
-void TestLinkCommands::operations()
-{
-    QFETCH_GLOBAL(int, mode);
-    QFETCH(Action, action);
-    QFETCH(QByteArray, answers);
-    QFETCH(QByteArray, wire);
-    LinkBench bench(mode, answers.isEmpty() ? QList<Answer>() : script(answers));
-    QVERIFY(bench.open());
-    if (answers.isEmpty())
+    void lateReplyIsLeftBehind()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode, {{}, says("RETURN:UNIT:POW dBm"), says("RETURN:UNIT:POW W")});
+        QVERIFY(bench.open());
+        const LinkWaits patient = bench.waits;
         bench.shortenReading();
-    action(bench.link);
-    QTEST(bench.told(), "told");
-    QTRY_COMPARE(bench.instrument.lines().join(), wire.replace('|', '\n') + '\n');
-    QCOMPARE(bench.errors, QStringList());
-}
+        bench.link.queryMeasureState();
+        bench.link.setWaits(patient);
+        bench.instrument.say("RETURN:REL ON\n");
+        QTRY_VERIFY(bench.device()->bytesAvailable() > 0);
 
-void TestLinkCommands::pieces_data()
-{
-    QTest::addColumn<Pieces>("pieces");
-    QTest::addColumn<QString>("unit");
-    Pieces dribble;
-    for (const char byte : QByteArray("RETURN:UNIT:POW \xC2\xB5W\n"))
-        dribble.append(QByteArray(1, byte));
-    QTest::newRow("newline late") << Pieces{"RETURN:UNIT:POW W", "\n"} << text("W");
-    QTest::newRow("byte by byte") << dribble << text("µW");
-    QTest::newRow("NUL") << Pieces{QByteArray("RETURN:UNIT:\0\xFF\n", 15), "POW W\n"} << text("W");
-    QTest::newRow("second line lost") << Pieces{"RETURN:UNIT:POW W\nRETURN:REL ?\n"} << text("W");
-}
+        // It spoils one answer, and no more than one.
+        bench.link.queryPowerUnit();
+        bench.link.queryPowerUnit();
+        QCOMPARE(bench.told(), text("state '', unit 'RETURN:REL ON', unit 'W'"));
+    }
 
-void TestLinkCommands::pieces()
-{
-    QFETCH_GLOBAL(int, mode);
-    QFETCH(Pieces, pieces);
-    QFETCH(QString, unit);
-    LinkBench bench(mode, {Answer{pieces}, says("RETURN:REL ON")});
-    QVERIFY(bench.open());
-    bench.letPiecesFollow();
-    bench.link.queryPowerUnit();
-    bench.link.queryMeasureState();
-    QCOMPARE(bench.told(), text("unit '%1', state 'ON'").arg(unit));
-}
+    void taskResults_data()
+    {
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<Pieces>("answer");
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char *name, const Action &action, const Pieces &answer,
+                            const char *told) {
+            QTest::newRow(name) << action << answer << text(told);
+        };
+        const Action zero = &SerialLogic::setZero;
+        const Action calibrate = &SerialLogic::calibrate;
+        row("not calibrated", calibrate, {"RETURN:CAL:FAIL\r\n"}, "not calibrated");
+        row("result in pieces", zero, {"RETURN:CAL", ":ZERO:", "OK", "\n"}, "zeroed");
+        row("result repeated", zero, {"RETURN:CAL:ZERO:OK\n", "RETURN:CAL:ZERO:OK\n"}, "zeroed");
+        row("another line ends the wait", calibrate, {"RETURN:ERR\n", "RETURN:CAL:OK\n"}, "");
+    }
+    void taskResults()
+    {
+        QFETCH_GLOBAL(int, mode);
+        QFETCH(Action, action);
+        QFETCH(Pieces, answer);
+        LinkBench bench(mode, {Answer{answer}});
+        QVERIFY(bench.open());
+        bench.letPiecesFollow();
+        action(bench.link);
+        QVERIFY(bench.link.awaitsResult());
+        QTRY_VERIFY(!bench.link.awaitsResult());
 
-void TestLinkCommands::unfinishedReplyIsContinued()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode, {Answer{{"RETURN:OFFS 1"}}, says(".5dB")});
-    QVERIFY(bench.open());
-    const LinkWaits patient = bench.waits;
-    // The first piece is waited for in full, the second never comes.
-    const auto shortened = connect(bench.device(), &QIODevice::readyRead, &bench.link,
-                                   [&] { bench.shortenReading(); });
-    bench.link.queryOffset();
-    disconnect(shortened);
-    bench.link.setWaits(patient);
-    bench.link.queryOffset();
-    QCOMPARE(bench.told(), text("offset 0, offset 1.5"));
-}
-
-void TestLinkCommands::lateReplyIsLeftBehind()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode, {{}, says("RETURN:UNIT:POW dBm"), says("RETURN:UNIT:POW W")});
-    QVERIFY(bench.open());
-    const LinkWaits patient = bench.waits;
-    bench.shortenReading();
-    bench.link.queryMeasureState();
-    bench.link.setWaits(patient);
-    bench.instrument.say("RETURN:REL ON\n");
-    QTRY_VERIFY(bench.device()->bytesAvailable() > 0);
-
-    // It spoils one answer, and no more than one.
-    bench.link.queryPowerUnit();
-    bench.link.queryPowerUnit();
-    QCOMPARE(bench.told(), text("state '', unit 'RETURN:REL ON', unit 'W'"));
-}
-
-void TestLinkCommands::taskResults_data()
-{
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<Pieces>("answer");
-    QTest::addColumn<QString>("told");
-    const auto row = [](const char *name, const Action &action, const Pieces &answer,
-                        const char *told) {
-        QTest::newRow(name) << action << answer << text(told);
-    };
-    const Action zero = &SerialLogic::setZero;
-    const Action calibrate = &SerialLogic::calibrate;
-    row("not zeroed", zero, {"RETURN:CAL:ZERO:FAIL\n"}, "not zeroed");
-    row("calibrated", calibrate, {"#1 RETURN:CAL:OK done\n"}, "calibrated");
-    row("not calibrated", calibrate, {"RETURN:CAL:FAIL\r\n"}, "not calibrated");
-    row("result in pieces", zero, {"RETURN:CAL", ":ZERO:", "OK", "\n"}, "zeroed");
-    row("result twice in one piece", zero, {"RETURN:CAL:ZERO:OK\nRETURN:CAL:ZERO:OK\n"}, "zeroed");
-    row("result repeated", zero, {"RETURN:CAL:ZERO:OK\n", "RETURN:CAL:ZERO:OK\n"}, "zeroed");
-    row("another line ends the wait", calibrate, {"RETURN:ERR\n", "RETURN:CAL:OK\n"}, "");
-}
-
-void TestLinkCommands::taskResults()
-{
-    QFETCH_GLOBAL(int, mode);
-    QFETCH(Action, action);
-    QFETCH(Pieces, answer);
-    LinkBench bench(mode, {Answer{answer}});
-    QVERIFY(bench.open());
-    bench.letPiecesFollow();
-    action(bench.link);
-    QVERIFY(bench.link.awaitsResult());
-    QTRY_VERIFY(!bench.link.awaitsResult());
-
-    // The next query comes after everything that the instrument has sent so far.
-    bench.instrument.say("end\n");
-    QTRY_VERIFY(bench.device()->peek(100).endsWith("end\n"));
-    QTEST(bench.told(), "told");
-}
-
-void TestLinkCommands::staleInputIsNoTaskResult_data()
-{
-    QTest::addColumn<bool>("readAlready");
-    QTest::addColumn<QByteArray>("stale");
-    QTest::newRow("late reading, not read yet") << false << QByteArray("RETURN:GET 0dBm,1mW\n");
-    QTest::newRow("result of an earlier task") << true << QByteArray("RETURN:CAL:FAIL\n");
-}
-
-void TestLinkCommands::staleInputIsNoTaskResult()
-{
-    QFETCH_GLOBAL(int, mode);
-    QFETCH(bool, readAlready);
-    QFETCH(QByteArray, stale);
-    LinkBench bench(mode, {says("RETURN:CAL:ZERO:OK")});
-    QVERIFY(bench.open());
-    bench.instrument.say(stale);
-    if (readAlready)
+        // The next query comes after everything that the instrument has sent so far.
+        bench.instrument.say("end\n");
+        QTRY_VERIFY(bench.device()->peek(100).endsWith("end\n"));
+        QTEST(bench.told(), "told");
+    }
+    void staleInputIsNoTaskResult()
+    {
+        QFETCH_GLOBAL(int, mode);
+        const QByteArray stale("RETURN:CAL:FAIL\n");
+        LinkBench bench(mode, {says("RETURN:CAL:ZERO:OK")});
+        QVERIFY(bench.open());
+        bench.instrument.say(stale);
         QTRY_COMPARE(bench.device()->bytesAvailable(), qint64(stale.size()));
-    bench.link.setZero();
-    QTRY_COMPARE(bench.told(), text("zeroed"));
-    QCOMPARE(bench.instrument.lines().join(), QByteArray("CAL:ZERO\n"));
-}
+        bench.link.setZero();
+        QTRY_COMPARE(bench.told(), text("zeroed"));
+        QCOMPARE(bench.instrument.lines().join(), QByteArray("CAL:ZERO\n"));
+    }
 
-void TestLinkCommands::abandonedTaskDoesNotAnswerForTheNext()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode, {Answer{{"RETURN:CAL:FAIL"}}, says("RETURN:CAL:ZERO:OK")});
-    QVERIFY(bench.open());
-    QSignalSpy arrived(bench.device(), &QIODevice::readyRead);
-    bench.link.calibrate();
-    QTRY_VERIFY(!arrived.isEmpty());
-    bench.link.setZero();
-    QTRY_COMPARE(bench.told(), text("zeroed"));
-    QCOMPARE(bench.instrument.lines().join(), QByteArray("CAL\nCAL:ZERO\n"));
-}
+    void abandonedTaskLeavesNothingToTheNextLink()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode, {Answer{{"RETURN:CA"}}, says("RETURN:REL ON")});
+        QVERIFY(bench.open());
+        QSignalSpy arrived(bench.device(), &QIODevice::readyRead);
+        bench.link.setZero();
+        QTRY_VERIFY(!arrived.isEmpty());
+        QVERIFY(bench.link.awaitsResult());
 
-void TestLinkCommands::abandonedTaskLeavesNothingToTheNextLink()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode, {Answer{{"RETURN:CA"}}, says("RETURN:REL ON")});
-    QVERIFY(bench.open());
-    QSignalSpy arrived(bench.device(), &QIODevice::readyRead);
-    bench.link.setZero();
-    QTRY_VERIFY(!arrived.isEmpty());
-    QVERIFY(bench.link.awaitsResult());
+        bench.link.closePort();
+        QVERIFY(bench.open());
+        QVERIFY(!bench.link.awaitsResult());
+        bench.link.queryMeasureState();
+        QCOMPARE(bench.told(), text("state 'ON'"));
+    }
 
-    bench.link.closePort();
-    QVERIFY(bench.open());
-    QVERIFY(!bench.link.awaitsResult());
-    bench.link.queryMeasureState();
-    QCOMPARE(bench.told(), text("state 'ON'"));
-}
+    void closeIsDeferred()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode, {says("RETURN:REL ON")});
+        QVERIFY(bench.open());
+        bench.link.closePort();
+        QCOMPARE(bench.displayed.last(), text("Close serial port"));
+        bench.link.queryMeasureState();
+        QCOMPARE(bench.told(), text("state 'ON'"));
+        QVERIFY(bench.isUp());
+        QTRY_VERIFY(!bench.isUp());
 
-void TestLinkCommands::unsentTaskIsNotAwaited()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode);
-    SerialLogic &link = bench.link;
-    QVERIFY(bench.open());
-    link.setZero();
-    QVERIFY(link.awaitsResult());
-    link.delayClose();
-    // Who is told of it must not see the task as under way.
-    connect(&link, &SerialLogic::errors, &link, [&link] { QVERIFY(!link.awaitsResult()); });
-    link.calibrate();
-    QCOMPARE(bench.errors, QStringList{bench.notOpen});
-    QVERIFY(!link.awaitsResult());
-}
+        QVERIFY(!bench.link.sendCmd("GET?\n"));
+        QCOMPARE(bench.errors, QStringList{bench.notOpen});
+    }
 
-void TestLinkCommands::closeIsDeferred()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode, {says("RETURN:REL ON")});
-    QVERIFY(bench.open());
-    bench.link.closePort();
-    QCOMPARE(bench.displayed.last(), text("Close serial port"));
-    bench.link.queryMeasureState();
-    QCOMPARE(bench.told(), text("state 'ON'"));
-    QVERIFY(bench.isUp());
-    QTRY_VERIFY(!bench.isUp());
+    void openWhileOpenMovesToTheNewInstrument()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode);
+        QVERIFY(bench.open());
+        // What the old instrument still says does not reach the new link.
+        bench.instrument.say("RETURN:REL OFF\n");
+        QTRY_VERIFY(bench.device()->bytesAvailable() > 0);
 
-    QVERIFY(!bench.link.sendCmd("GET?\n"));
-    QCOMPARE(bench.errors, QStringList{bench.notOpen});
-}
+        FakeInstrument other(mode, {says("RETURN:REL ON")});
+        QVERIFY(bench.link.openPort(other.name(), other.value()));
+        bench.link.queryMeasureState();
+        QCOMPARE(bench.told(), text("state 'ON'"));
+        QCOMPARE(other.lines().join(), QByteArray("REL?\n"));
+        QCOMPARE(bench.instrument.lines(), QList<QByteArray>());
+    }
 
-void TestLinkCommands::openWhileOpenMovesToTheNewInstrument()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode);
-    QVERIFY(bench.open());
-    // What the old instrument still says does not reach the new link.
-    bench.instrument.say("RETURN:REL OFF\n");
-    QTRY_VERIFY(bench.device()->bytesAvailable() > 0);
+    void lostLine_data()
+    {
+        using Link = SerialLogic;
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<Pieces>("answer");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<int>("errors");
+        const auto row = [](const char *name, const Action &action, const Pieces &answer,
+                            const char *told, int errors) {
+            QTest::newRow(name) << action << answer << text(told) << errors;
+        };
+        row("inside a reply", &Link::queryMeasureState, {"RETURN:REL O"}, "state ''", 0);
+        row("before the numeric form of the frequency", setFrequency("50", "MHz"), {}, "", 1);
+        row("during a task", &Link::setZero, {}, "", 0);
+    }
+    void lostLine()
+    {
+        QFETCH_GLOBAL(int, mode);
+        QFETCH(Action, action);
+        QFETCH(Pieces, answer);
+        QFETCH(int, errors);
+        LinkBench bench(mode, {Answer{answer, true}});
+        QVERIFY(bench.open());
+        action(bench.link);
+        QTEST(bench.told(), "told");
+        QCOMPARE(bench.errors.size(), errors);
 
-    FakeInstrument other(mode, {says("RETURN:REL ON")});
-    QVERIFY(bench.link.openPort(other.name(), other.value()));
-    bench.link.queryMeasureState();
-    QCOMPARE(bench.told(), text("state 'ON'"));
-    QCOMPARE(other.lines().join(), QByteArray("REL?\n"));
-    QCOMPARE(bench.instrument.lines(), QList<QByteArray>());
-}
+        QTRY_VERIFY(!bench.isUp());
+        bench.link.queryOffset();
+        QCOMPARE(bench.errors.size(), errors + 1);
+        QCOMPARE(bench.errors.last(), bench.notOpen);
 
-void TestLinkCommands::lostLine_data()
-{
-    using Link = SerialLogic;
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<Pieces>("answer");
-    QTest::addColumn<QString>("told");
-    QTest::addColumn<int>("errors");
-    const auto row = [](const char *name, const Action &action, const Pieces &answer,
-                        const char *told, int errors) {
-        QTest::newRow(name) << action << answer << text(told) << errors;
-    };
-    row("inside a reply", &Link::queryMeasureState, {"RETURN:REL O"}, "state ''", 0);
-    row("instead of a reading", &Link::readMesureData, {}, "power 100 ''", 0);
-    row("instead of a confirmation", call(&Link::setOffset, 1), {}, "", 0);
-    row("before the numeric form of the frequency", setFrequency("50", "MHz"), {}, "", 1);
-    row("during a task", &Link::setZero, {}, "", 0);
-}
+        FakeInstrument repaired(mode, {says("RETURN:OFFS 0.00dB")});
+        QVERIFY(bench.link.openPort(repaired.name(), repaired.value()));
+        bench.link.queryOffset();
+        QVERIFY(bench.told().endsWith(text("offset 0")));
+        QCOMPARE(bench.errors.size(), errors + 1);
+    }
+    void lineLostUnnoticed()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode);
+        QVERIFY(bench.open());
+        // The event loop does not run in between, so the command itself has to find out.
+        bench.instrument.hangUp();
+        bench.link.setZero();
+        QCOMPARE(bench.told(), QString());
+        QCOMPARE(bench.errors.size(), 1);
+        QVERIFY(!bench.link.awaitsResult());
+        QVERIFY(!bench.isUp());
+    }
 
-void TestLinkCommands::lostLine()
-{
-    QFETCH_GLOBAL(int, mode);
-    QFETCH(Action, action);
-    QFETCH(Pieces, answer);
-    QFETCH(int, errors);
-    LinkBench bench(mode, {Answer{answer, true}});
-    QVERIFY(bench.open());
-    action(bench.link);
-    QTEST(bench.told(), "told");
-    QCOMPARE(bench.errors.size(), errors);
+    void logAndDisplay()
+    {
+        QFETCH_GLOBAL(int, mode);
+        LinkBench bench(mode, {Answer{{"RETURN:FREQ ", "2.45GHz\n"}}, {}, says("RETURN:CAL:OK")});
+        logged.clear();
+        const auto restore =
+            qScopeGuard([former = qInstallMessageHandler(log)] { qInstallMessageHandler(former); });
+        QVERIFY(bench.open());
+        bench.letPiecesFollow();
+        bench.link.queryFrequency();
+        connect(&bench.link, &SerialLogic::displayLog, &bench.link,
+                [&] { bench.shortenReading(); });
+        bench.link.setOffset(1);
+        bench.link.calibrate();
+        QTRY_VERIFY(!bench.link.awaitsResult());
+        bench.link.delayClose();
+        bench.link.sendCmd(QByteArray("A\xB5\0B", 4));
 
-    QTRY_VERIFY(!bench.isUp());
-    bench.link.queryOffset();
-    QCOMPARE(bench.errors.size(), errors + 1);
-    QCOMPARE(bench.errors.last(), bench.notOpen);
-
-    FakeInstrument repaired(mode, {says("RETURN:OFFS 0.00dB")});
-    QVERIFY(bench.link.openPort(repaired.name(), repaired.value()));
-    bench.link.queryOffset();
-    QVERIFY(bench.told().endsWith(text("offset 0")));
-    QCOMPARE(bench.errors.size(), errors + 1);
-}
-
-void TestLinkCommands::lineLostUnnoticed_data()
-{
-    QTest::addColumn<Action>("action");
-    QTest::newRow("before a query") << Action(&SerialLogic::queryOffset);
-    QTest::newRow("before a task") << Action(&SerialLogic::setZero);
-}
-
-void TestLinkCommands::lineLostUnnoticed()
-{
-    QFETCH_GLOBAL(int, mode);
-    QFETCH(Action, action);
-    LinkBench bench(mode);
-    QVERIFY(bench.open());
-    // The event loop does not run in between, so the command itself has to find out.
-    bench.instrument.hangUp();
-    action(bench.link);
-    QCOMPARE(bench.told(), QString());
-    QCOMPARE(bench.errors.size(), 1);
-    QVERIFY(!bench.link.awaitsResult());
-    QVERIFY(!bench.isUp());
-}
-
-void TestLinkCommands::logAndDisplay()
-{
-    QFETCH_GLOBAL(int, mode);
-    LinkBench bench(mode, {Answer{{"RETURN:FREQ ", "2.45GHz\n"}}, {}, says("RETURN:CAL:OK")});
-    logged.clear();
-    const auto restore =
-        qScopeGuard([former = qInstallMessageHandler(log)] { qInstallMessageHandler(former); });
-    QVERIFY(bench.open());
-    bench.letPiecesFollow();
-    bench.link.queryFrequency();
-    connect(&bench.link, &SerialLogic::displayLog, &bench.link, [&] { bench.shortenReading(); });
-    bench.link.setOffset(1);
-    bench.link.calibrate();
-    QTRY_VERIFY(!bench.link.awaitsResult());
-    bench.link.delayClose();
-    bench.link.sendCmd(QByteArray("A\xB5\0B", 4));
-
-    const QString name = bench.instrument.name();
-    const QString opened =
-        mode == serial
-            ? text("info|Open port: %1, baud rate: 115200").arg(name)
-            : text("debug|connectToHost:  \"%1\" %2").arg(name).arg(bench.instrument.value());
-    const QStringList expected = text(R"(%1
+        const QString name = bench.instrument.name();
+        const QString opened =
+            mode == serial
+                ? text("info|Open port: %1, baud rate: 115200").arg(name)
+                : text("debug|connectToHost:  \"%1\" %2").arg(name).arg(bench.instrument.value());
+        const QStringList expected = text(R"(%1
 debug|send cmd: "FREQ?\n" 6
 debug|read data: "RETURN:FREQ "
 debug|read data: "RETURN:FREQ 2.45GHz\n"
@@ -426,15 +327,16 @@ debug|Read time out
 debug|send cmd: "CAL\n" 4
 debug|read data async: "RETURN:CAL:OK\n"
 debug|send cmd: "A\xB5\x00""B" 4)")
-                                     .arg(opened)
-                                     .split(QLatin1Char('\n'));
-    QCOMPARE(logged, expected);
+                                         .arg(opened)
+                                         .split(QLatin1Char('\n'));
+        QCOMPARE(logged, expected);
 
-    QStringList displayed{text("FREQ?\n"), text("OFFS 1.00\n"), text("CAL\n"), text("Aµ")};
-    if (mode == serial)
-        displayed.prepend(text("Open serial port"));
-    QCOMPARE(bench.displayed, displayed);
-}
+        QStringList displayed{text("FREQ?\n"), text("OFFS 1.00\n"), text("CAL\n"), text("Aµ")};
+        if (mode == serial)
+            displayed.prepend(text("Open serial port"));
+        QCOMPARE(bench.displayed, displayed);
+    }
+};
 
 MZ_TEST_GUILESS_MAIN(TestLinkCommands)
 
