@@ -23,6 +23,11 @@ foreach(layout system portable)
 endforeach()
 install(FILES packaging/README.txt DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
 install(FILES LICENSE docs/licences.md DESTINATION licences COMPONENT portable EXCLUDE_FROM_ALL)
+# Its code is in a program of ours, where no library tells of it.
+set(cli11_notice /usr/share/doc/libcli11-dev/copyright)
+if(EXISTS "${cli11_notice}")
+    install(FILES "${cli11_notice}" DESTINATION licences RENAME libcli11.txt COMPONENT portable EXCLUDE_FROM_ALL)
+endif()
 
 # What Windows shows of a program: icon, name and version. Written on other systems too, where
 # scripts/check-windows.py looks at it.

@@ -22,6 +22,19 @@ if(linguist AND NOT Qt5LinguistTools_DIR)
     set(Qt5LinguistTools_DIR "${linguist}" CACHE PATH "The linguist tools of the building machine")
 endif()
 
+# A library of headers alone is the building machine's, taken out from among its other headers.
+find_path(CLI11_HEADERS CLI/CLI.hpp PATHS /usr/include /usr/local/include NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+if(CLI11_HEADERS AND NOT CLI11_DIR)
+    set(CLI11_DIR "${CMAKE_BINARY_DIR}/CLI11" CACHE PATH "The headers of CLI11 alone")
+    file(COPY "${CLI11_HEADERS}/CLI" DESTINATION "${CLI11_DIR}/include")
+    file(WRITE "${CLI11_DIR}/CLI11Config.cmake" [[
+        if(NOT TARGET CLI11::CLI11)
+            add_library(CLI11::CLI11 INTERFACE IMPORTED)
+            target_include_directories(CLI11::CLI11 INTERFACE "${CMAKE_CURRENT_LIST_DIR}/include")
+        endif()
+]])
+endif()
+
 # Tests run where they are built as far as Wine is there.
 find_program(wine NAMES wine64 wine)
 if(wine)
