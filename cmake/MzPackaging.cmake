@@ -2,9 +2,6 @@
 #   DEB  component "system":   programs under lib/mz6218, launchers on the path, desktop entries, icons
 #   TGZ  component "portable": one folder with everything beside the programs, Qt's libraries included
 set(programs mz6218 mz6218-cli mz6218-sim mz6218-patterns)
-if(TARGET mz6218-cli)
-    list(APPEND programs mz6218-cli)
-endif()
 set(samples "${CMAKE_SOURCE_DIR}/patterns/samples")
 set(CPACK_PACKAGE_CONTACT "MZ6218 developers <mz6218@localhost>")
 
@@ -43,9 +40,6 @@ mz_describe_for_windows(mz6218 pt.ico "MZ6218 Power Meter")
 mz_describe_for_windows(mz6218-cli pt.ico "MZ6218 Command Line")
 mz_describe_for_windows(mz6218-sim pt.ico "MZ6218 Simulated Instrument")
 mz_describe_for_windows(mz6218-patterns patterns.ico "MZ6218 Antenna Patterns")
-if(TARGET mz6218-cli)
-    mz_describe_for_windows(mz6218-cli pt.ico "MZ6218 Command Line")
-endif()
 set_target_properties(mz6218 mz6218-patterns PROPERTIES WIN32_EXECUTABLE ON)
 
 if(UNIX)
