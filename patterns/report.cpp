@@ -82,6 +82,20 @@ QString figures(const QVector<ReportCurve> &curves, const QStringList &columns,
     return table(rows);
 }
 
+QString verdicts(const Report &report)
+{
+    QString rows = headings({Text::tr("Curve"), Text::tr("Mask"), Text::tr("Result"),
+                             Text::tr("Worst margin (dB)"), Text::tr("At (°)")});
+    for (const ReportVerdict &verdict : report.verdicts) {
+        rows += QStringLiteral("<tr>%1</tr>\n")
+                    .arg(cells({verdict.curve, verdict.mask,
+                                verdict.passes ? Text::tr("pass") : Text::tr("fail"),
+                                QString::number(verdict.margin, 'f', 2),
+                                QString::number(verdict.angle, 'f', 2)}));
+    }
+    return table(rows);
+}
+
 QString section(const QString &heading, const QString &content)
 {
     return QStringLiteral("<h3>%1</h3>\n%2").arg(heading.toHtmlEscaped(), content);
@@ -109,5 +123,7 @@ QString reportHtml(const Report &report)
     html +=
         section(Text::tr("Supplementary (textbook definitions)"),
                 figures(report.curves, report.supplementaryHeadings, &ReportCurve::supplementary));
+    if (!report.verdicts.isEmpty())
+        html += section(Text::tr("Mask limits"), verdicts(report));
     return html + QStringLiteral("</body></html>\n");
 }

@@ -23,6 +23,16 @@ struct ReportCurve
     QStringList supplementary; ///< cells under Report::supplementaryHeadings
 };
 
+/// How a curve stands to a mask.
+struct ReportVerdict
+{
+    QString curve;
+    QString mask;
+    bool passes = false;
+    double margin = 0.0; ///< the least distance below the limit, dB; negative above it
+    double angle = 0.0;  ///< there, degrees
+};
+
 /// A page about the curves of one window.
 struct Report
 {
@@ -33,6 +43,7 @@ struct Report
     QStringList figureHeadings;
     QStringList supplementaryHeadings;
     QVector<ReportCurve> curves;
+    QVector<ReportVerdict> verdicts;
 };
 
 /// The report as one HTML page that browsers and QTextDocument both show.

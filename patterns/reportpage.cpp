@@ -46,6 +46,25 @@ ReportCurve reportCurve(const ListChart &form, int id)
     return curve;
 }
 
+/// Every shown curve against every shown mask, where they meet.
+QVector<ReportVerdict> verdicts(const ListChart &form)
+{
+    const CurveSet &curves = form.curves();
+    QVector<ReportVerdict> verdicts;
+    for (const int mask : curves.ids()) {
+        if (!curves.record(mask).isMask || curves.isHidden(mask))
+            continue;
+        for (const CurveFigures &one : form.figures()) {
+            const auto verdict = CurveAlgebra::maskVerdict(one.points, curves.points(mask));
+            if (verdict) {
+                verdicts.append({curves.name(one.id), curves.name(mask), verdict->passes(),
+                                 verdict->margin, verdict->angle});
+            }
+        }
+    }
+    return verdicts;
+}
+
 Report report(const ListChart &form, const QSize &pictureSize, int width)
 {
     Report report;
@@ -58,9 +77,10 @@ Report report(const ListChart &form, const QSize &pictureSize, int width)
     for (const CurveFigures &one : figures) {
         ReportCurve curve = reportCurve(form, one.id);
         curve.figures = frequencyTableCells(one.parameters, QString()).mid(1);
-        curve.supplementary = supplementCells(one.supplement);
+        curve.supplementary = supplementCells(one, form.supplementColumns());
         report.curves.append(curve);
     }
+    report.verdicts = verdicts(form);
     return report;
 }
 

@@ -6,11 +6,13 @@
 #include "patterns/windowcontext.h"
 
 #include <QActionGroup>
+#include <QInputDialog>
 
 ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent)
     : QObject(parent)
     , m_ui(ui)
     , m_desk(desk)
+    , m_beamLevels(QStringLiteral("-3, -6, -10"))
 {
     ListChart *form = &m_desk.form();
     connect(m_ui.actionFit, &QAction::triggered, form, &ListChart::fitToData);
@@ -18,6 +20,7 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
     connect(m_ui.actionUndoSymmetry, &QAction::triggered, form,
             [form] { form->setSymmetry(false); });
     connect(m_ui.actionParameterLines, &QAction::toggled, form, &ListChart::setParameterLines);
+    connect(m_ui.actionBeamWidths, &QAction::triggered, this, &ViewActions::askBeamLevels);
     connect(m_ui.actionManageCurves, &QAction::triggered, form, [this, form] {
         const CurveHistory::Step step(m_desk.history(), tr("Manage Curves"));
         form->manageCurves();
@@ -28,6 +31,24 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
     form->setNullProminence(context->nullProminence());
     setUpPolarView();
     setUpLanguages();
+}
+
+void ViewActions::askBeamLevels()
+{
+    bool accepted = false;
+    const QString levels = QInputDialog::getText(
+        m_desk.dialogParent(), tr("Beam Widths"),
+        tr("Levels below the peak in dB, for instance -3, -6, -10; none hides them:"),
+        QLineEdit::Normal, m_beamLevels, &accepted);
+    if (!accepted)
+        return;
+    const std::optional<QVector<double>> drops = readDrops(levels);
+    if (!drops) {
+        m_desk.warn(tr("These are no levels: %1").arg(levels));
+        return;
+    }
+    m_beamLevels = levels;
+    m_desk.form().setBeamLevels(*drops);
 }
 
 void ViewActions::setUpPolarView()

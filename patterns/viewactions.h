@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 class CurveDesk;
 
@@ -22,9 +23,11 @@ public:
 
 private:
     void setUpLanguages();
+    void askBeamLevels();
     void setUpPolarView();
     void showPolarView();
 
     Ui::PatternWindow &m_ui;
     CurveDesk &m_desk;
+    QString m_beamLevels; ///< as the user wrote them last
 };

@@ -1,4 +1,5 @@
 #include "2d/data/patternanalysis.h"
+#include "2d/data/patternsupplement.h"
 #include "2d/form/parainfotable.h"
 #include "2d/scene/mycustomproxy.h"
 #include "2d/scene/myparainfotable.h"
@@ -325,9 +326,9 @@ void TestChartTables::linesAreShownAndHidden()
     const auto pathOf = [&items](int index) {
         return qgraphicsitem_cast<QGraphicsPathItem *>(items[index])->path();
     };
-    QCOMPARE(visible(), text("------"));
+    QCOMPARE(visible(), text("-------"));
     lines.update(values, onCircle, axes, true);
-    QCOMPARE(visible(), text("vvvvv-"));
+    QCOMPARE(visible(), text("vvvvv--"));
     // From the centre out to the peak; and the level of the half power is an arc.
     QCOMPARE(QPointF(pathOf(0).elementAt(0)), QPointF(0, 0));
     QCOMPARE(pathOf(0).currentPosition(), QPointF(0, -40));
@@ -338,7 +339,14 @@ void TestChartTables::linesAreShownAndHidden()
         QVERIFY(std::abs(std::hypot(point.x(), point.y()) - 37.0) < 1e-9);
     }
     lines.update(values, onCircle, axes, false);
-    QCOMPARE(visible(), text("------"));
+    QCOMPARE(visible(), text("-------"));
+    // A beam across the seam is drawn at both ends of the angle axis, none between them.
+    lines.updateBeams(
+        {{3.0, -3.0, 170.0, 190.0}}, [](const QPointF &value) { return value; }, axes);
+    QCOMPARE(visible(), text("------v"));
+    QCOMPARE(pathOf(6).boundingRect(), QRectF(-180, -40, 360, 37));
+    for (int i = 0; i < pathOf(6).elementCount(); ++i)
+        QVERIFY(std::abs(pathOf(6).elementAt(i).x) >= 170.0);
     qDeleteAll(items);
 }
 

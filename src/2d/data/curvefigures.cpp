@@ -5,7 +5,7 @@
 #include <algorithm>
 
 CurveFigures curveFigures(int id, const QVector<QPointF> &points,
-                          const QVector<CurveFigures> &known, double nullProminence)
+                          const QVector<CurveFigures> &known, const FigureOptions &options)
 {
     const auto same = std::find_if(known.begin(), known.end(), [&](const CurveFigures &figures) {
         return figures.id == id && figures.points.constData() == points.constData();
@@ -13,7 +13,7 @@ CurveFigures curveFigures(int id, const QVector<QPointF> &points,
     CurveFigures figures;
     if (same != known.end()) {
         figures = *same;
-        if (qFuzzyCompare(figures.nullProminence, nullProminence))
+        if (figures.options == options)
             return figures;
     } else {
         figures.id = id;
@@ -21,7 +21,8 @@ CurveFigures curveFigures(int id, const QVector<QPointF> &points,
         if (const auto analysis = analysePattern(points))
             figures.parameters = analysis->figures;
     }
-    figures.nullProminence = nullProminence;
-    figures.supplement = supplementaryFigures(points, nullProminence);
+    figures.options = options;
+    figures.supplement = supplementaryFigures(points, options.nullProminence);
+    figures.beams = beamWidths(points, options.drops);
     return figures;
 }

@@ -1,7 +1,5 @@
 #include "2d/data/paratabletext.h"
 
-#include "2d/data/patternsupplement.h"
-
 #include <QRegularExpression>
 
 #include <cmath>
@@ -34,11 +32,6 @@ FloatingTableRow row(double level)
 double beforeAfterOfFloatingTable(const ParaInfo &info)
 {
     return naturalLogOfTen / std::log(info.gain.second / info.backLobe.second);
-}
-
-QString figureOrDash(const std::optional<double> &value)
-{
-    return value ? fixed(*value, 2) : QStringLiteral("\u2013");
 }
 
 QString crossPolarCell(double ratio)
@@ -85,10 +78,4 @@ QStringList frequencyTableCells(const ParaInfo &info, const QString &frequency)
 QString amplitudeCell(const ParaInfo &info)
 {
     return fixed(std::pow(10.0, info.gain.second / 20.0), 4);
-}
-
-QStringList supplementCells(const PatternSupplement &figures)
-{
-    return {figureOrDash(figures.halfPowerBeamWidth), figureOrDash(figures.firstNullBeamWidth),
-            figureOrDash(figures.sideLobeLevel), figureOrDash(figures.frontToBackRatio)};
 }

@@ -7,8 +7,6 @@
 
 #include <array>
 
-struct PatternSupplement;
-
 /// The two figures of one row of the table that floats on the chart.
 struct FloatingTableRow
 {
@@ -35,10 +33,3 @@ QStringList frequencyTableCells(const ParaInfo &info, const QString &frequency);
 /// The cell of the column "Amplitude": the peak's field strength against that of 0 dB,
 /// 10^(gain / 20), four decimals.
 QString amplitudeCell(const ParaInfo &info);
-
-constexpr int supplementColumns = 4;
-
-/// The cells of one row of the supplementary table: half-power beam width and first-null beam width
-/// in degrees, side-lobe level and front-to-back ratio in dB, two decimals; a dash for what is
-/// missing.
-QStringList supplementCells(const PatternSupplement &figures);

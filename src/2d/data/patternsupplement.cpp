@@ -4,6 +4,7 @@
 #include "2d/data/leastsquares.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -14,19 +15,17 @@ constexpr double halfPowerDrop = 3.0;
 /// Below so many dB of noise the samples themselves are nearer to the truth than any fit.
 constexpr double noticeableNoise = 0.03;
 
-/// The main lobe: its peak and the angles where it has fallen by 3 dB.
-struct MainLobe
+bool isNoisy(const AngularPattern &pattern)
 {
-    int peak = 0;
-    double level = 0.0;
-    std::optional<double> left;
-    std::optional<double> right;
+    return pattern.noise() > noticeableNoise;
+}
 
-    std::optional<double> width() const
-    {
-        return left && right ? std::optional(*right - *left) : std::nullopt;
-    }
-};
+/// \a angle within -180 to 180 degrees.
+double direction(double angle)
+{
+    const double rest = std::remainder(angle, 2.0 * halfCircle);
+    return rest <= -halfCircle ? halfCircle : rest + 0.0;
+}
 
 /// The first point at or below \a level, going from \a from in the direction of \a step.
 std::optional<int> firstBelow(const AngularPattern &pattern, int from, int step, double level)
@@ -39,19 +38,6 @@ std::optional<int> firstBelow(const AngularPattern &pattern, int from, int step,
             return i;
     }
     return std::nullopt;
-}
-
-MainLobe mainLobe(const AngularPattern &pattern)
-{
-    MainLobe lobe;
-    lobe.peak = pattern.peak();
-    lobe.level = pattern.level(lobe.peak);
-    const double wanted = lobe.level - halfPowerDrop;
-    if (const auto i = firstBelow(pattern, lobe.peak, -1, wanted))
-        lobe.left = pattern.crossing(*i + 1, *i, wanted);
-    if (const auto i = firstBelow(pattern, lobe.peak, 1, wanted))
-        lobe.right = pattern.crossing(*i - 1, *i, wanted);
-    return lobe;
 }
 
 /// The indices between which a lobe with its top at \a top lies no more than \a drop dB below it.
@@ -92,6 +78,7 @@ public:
 
     bool isUsable() const { return m_isUsable; }
     double topLevel() const { return level(m_top); }
+    double topAngle() const { return angle(m_top); }
 
     /// The angle where the lobe has fallen to \a wanted on the side that \a step leads to.
     std::optional<double> angleOf(double wanted, int step) const
@@ -117,6 +104,48 @@ private:
     Polynomial<4> m_shape;
     int m_top = 0;
     bool m_isUsable = false;
+};
+
+/// The main lobe: its top, and where it has fallen from there.
+struct MainLobe
+{
+    /// \a isNoisy: its top is that of a fit.
+    MainLobe(const AngularPattern &pattern, bool isNoisy)
+        : peak(pattern.peak())
+        , level(pattern.level(peak))
+        , angle(pattern.angle(peak))
+    {
+        if (!isNoisy)
+            return;
+        const FittedLobe fitted(pattern, peak);
+        if (!fitted.isUsable())
+            return;
+        fit = fitted;
+        level = fitted.topLevel();
+        angle = fitted.topAngle();
+    }
+
+    /// The angle where the lobe has fallen by \a drop on the side that \a step leads to.
+    std::optional<double> edge(const AngularPattern &pattern, double drop, int step) const
+    {
+        const double wanted = level - drop;
+        const std::optional<double> fitted = fit ? fit->angleOf(wanted, step) : std::nullopt;
+        if (fitted)
+            return fitted;
+        const std::optional<int> below = firstBelow(pattern, peak, step, wanted);
+        return below ? std::optional(pattern.crossing(*below - step, *below, wanted))
+                     : std::nullopt;
+    }
+
+    BeamWidth width(const AngularPattern &pattern, double drop) const
+    {
+        return {drop, level - drop, edge(pattern, drop, -1), edge(pattern, drop, 1)};
+    }
+
+    int peak;
+    double level;
+    double angle; ///< degrees
+    std::optional<FittedLobe> fit;
 };
 
 /// The index where the main lobe ends in the direction of \a step: the lowest point before the
@@ -190,7 +219,11 @@ PatternSupplement figuresOf(const AngularPattern &pattern, const MainLobe &lobe,
     PatternSupplement figures;
     const std::optional<int> left = nullIndex(pattern, lobe.peak, -1, prominence);
     const std::optional<int> right = nullIndex(pattern, lobe.peak, 1, prominence);
-    figures.halfPowerBeamWidth = lobe.width();
+    const BeamWidth half = lobe.width(pattern, halfPowerDrop);
+    figures.halfPowerBeamWidth = half.width();
+    figures.peakAngle = direction(lobe.angle);
+    if (half.left && half.right)
+        figures.squint = direction((*half.left + *half.right) / 2.0);
     if (left && right)
         figures.firstNullBeamWidth = pattern.angle(*right) - pattern.angle(*left);
     if (const auto level = greatestLevel(pattern, outside(pattern, left, right), noise))
@@ -200,24 +233,8 @@ PatternSupplement figuresOf(const AngularPattern &pattern, const MainLobe &lobe,
     return figures;
 }
 
-/// The figures of levels with noise on them.
-PatternSupplement noisyFigures(AngularPattern pattern, double prominence)
-{
-    // Denser samples say more when they are averaged.
-    constexpr double finest = 0.1; // degrees
-    pattern = pattern.thinned(finest);
-    const double noise = pattern.noise();
-    // Rises that noise alone does not make in a thousand samples.
-    constexpr double certain = 8.0;
-    MainLobe lobe = mainLobe(pattern);
-    const FittedLobe fitted(pattern, lobe.peak);
-    if (fitted.isUsable()) {
-        lobe.level = fitted.topLevel();
-        lobe.left = fitted.angleOf(lobe.level - halfPowerDrop, -1);
-        lobe.right = fitted.angleOf(lobe.level - halfPowerDrop, 1);
-    }
-    return figuresOf(pattern, lobe, std::max(prominence, certain * noise), noise);
-}
+/// Denser samples say more when they are averaged.
+constexpr double finest = 0.1; // degrees
 
 } // namespace
 
@@ -225,8 +242,28 @@ PatternSupplement supplementaryFigures(const QVector<QPointF> &points, double nu
 {
     if (points.isEmpty())
         return {};
-    const AngularPattern pattern(points);
-    if (pattern.noise() > noticeableNoise)
-        return noisyFigures(pattern, nullProminence);
-    return figuresOf(pattern, mainLobe(pattern), nullProminence, 0.0);
+    AngularPattern pattern(points);
+    if (!isNoisy(pattern))
+        return figuresOf(pattern, MainLobe(pattern, false), nullProminence, 0.0);
+    pattern = pattern.thinned(finest);
+    const double noise = pattern.noise();
+    // Rises that noise alone does not make in a thousand samples.
+    constexpr double certain = 8.0;
+    return figuresOf(pattern, MainLobe(pattern, true), std::max(nullProminence, certain * noise),
+                     noise);
+}
+
+QVector<BeamWidth> beamWidths(const QVector<QPointF> &points, const QVector<double> &drops)
+{
+    QVector<BeamWidth> widths;
+    if (points.isEmpty() || drops.isEmpty())
+        return widths;
+    AngularPattern pattern(points);
+    const bool noisy = isNoisy(pattern);
+    if (noisy)
+        pattern = pattern.thinned(finest);
+    const MainLobe lobe(pattern, noisy);
+    for (const double drop : drops)
+        widths.append(lobe.width(pattern, drop));
+    return widths;
 }

@@ -165,7 +165,7 @@ void ListChart::connectParts()
     connect(ui->levelMax, &LineEdit::editingFinished, this, &ListChart::applyLevelFields);
     connect(ui->nullProminence, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this](double prominence) {
-                if (!qFuzzyCompare(prominence, m_nullProminence))
+                if (!qFuzzyCompare(prominence, m_options.nullProminence))
                     emit nullProminenceChosen(prominence);
             });
     connect(ui->titleEdit, &QLineEdit::textEdited, this, [this](const QString &text) {
@@ -295,8 +295,15 @@ void ListChart::setPolarView(const PolarView &view)
 
 void ListChart::setNullProminence(double prominence)
 {
-    m_nullProminence = prominence;
+    m_options.nullProminence = prominence;
     ui->nullProminence->setValue(prominence);
+    refreshFigures();
+}
+
+void ListChart::setBeamLevels(const QVector<double> &drops)
+{
+    m_options.drops = drops;
+    m_columns.drops = drops;
     refreshFigures();
 }
 
@@ -375,10 +382,20 @@ void ListChart::refreshFigures()
     const QList<int> ids = m_curves->ids();
     for (const int id : ids) {
         const QVector<QPointF> points = m_curves->points(id);
-        if (!m_curves->isHidden(id) && !points.isEmpty())
-            figures.append(curveFigures(id, points, m_figures, m_nullProminence));
+        const bool isMask = m_curves->record(id).isMask;
+        for (GraphicsBase *view : {m_polar, m_cartesian})
+            view->setBeamLevels(id, isMask ? QVector<double>() : m_options.drops);
+        if (m_curves->isHidden(id) || points.isEmpty() || isMask)
+            continue;
+        figures.append(curveFigures(id, points, m_figures, m_options));
+    }
+    m_columns.differences = false;
+    for (CurveFigures &one : figures) {
+        one.difference = m_curves->record(one.id).difference;
+        m_columns.differences = m_columns.differences || one.difference.has_value();
     }
     m_figures = figures;
+    ui->supplementaryTable->setColumns(m_columns);
     ui->paraTable->setRowCount(m_figures.size());
     ui->supplementaryTable->setRowCount(m_figures.size());
     // Its scroll bar would hide a row; the area around it scrolls instead.
@@ -392,7 +409,7 @@ void ListChart::refreshFigures()
                                       frequency.isEmpty() ? QStringLiteral("\u2013") : frequency);
         ui->paraTable->item(row, 0)->setIcon(curveSwatch(color));
         ui->paraTable->item(row, 0)->setToolTip(name);
-        ui->supplementaryTable->updateFigures(one.supplement, row + 1, name, color);
+        ui->supplementaryTable->updateFigures(one, row + 1, name, color);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "2d/data/curvefigures.h"
 #include "2d/data/patternscale.h"
 #include "2d/data/polarorientation.h"
+#include "2d/data/supplementtext.h"
 #include "2d/form/curveset.h"
 
 #include <QStringList>
@@ -48,6 +49,7 @@ public:
     /// The headings of the pattern parameters behind the frequency.
     QStringList parameterHeadings() const;
     QStringList supplementaryHeadings() const;
+    const SupplementColumns &supplementColumns() const { return m_columns; }
     /// Both tables of figures as text: columns parted by tabs, lines by line feeds.
     QString parameterText() const;
 
@@ -64,6 +66,9 @@ public slots:
     void setPolarView(const PolarView &view);
     /// Computes the supplementary figures with nulls of at least so many dB of prominence.
     void setNullProminence(double prominence);
+    /// Tells the main lobe's width, and shows its edges in both charts, at so many dB below the
+    /// peak.
+    void setBeamLevels(const QVector<double> &drops);
     /// Mirrors the drawing of all curves, or draws them as they are again.
     void setSymmetry(bool on);
     /// Shows or hides the marker lines of the pattern parameters.
@@ -114,6 +119,7 @@ private:
     QList<int> m_shownIds; ///< the curves at the last refresh
     QString m_ownTitle;    ///< as the operator wrote it; empty: from the files
     AxisScale m_levels;    ///< the level axis of both charts, dB
-    double m_nullProminence = usualNullProminence;
+    FigureOptions m_options;
+    SupplementColumns m_columns;
     bool m_ownLevels = false; ///< the operator chose the levels
 };

@@ -1,6 +1,7 @@
 #include "2d/form/supplementarytable.h"
 
-#include "2d/data/paratabletext.h"
+#include "2d/data/curvefigures.h"
+#include "2d/data/curvetext.h"
 #include "2d/scene/generatecolors.h"
 
 #include <QEvent>
@@ -9,15 +10,17 @@
 namespace {
 
 constexpr int nameWidth = 104; // pixels
+constexpr int leastWidth = 78;
 
 } // namespace
 
 SupplementaryTable::SupplementaryTable(QWidget *parent)
     : QTableWidget(parent)
 {
-    setColumnCount(1 + supplementColumns);
+    setColumnCount(1 + m_columns.count());
     verticalHeader()->hide();
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setMinimumSectionSize(leastWidth);
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
     horizontalHeader()->resizeSection(0, nameWidth);
     horizontalHeader()->setHighlightSections(false);
@@ -26,11 +29,20 @@ SupplementaryTable::SupplementaryTable(QWidget *parent)
     retranslate();
 }
 
-void SupplementaryTable::updateFigures(const PatternSupplement &figures, int count,
-                                       const QString &name, const QColor &color)
+void SupplementaryTable::setColumns(const SupplementColumns &columns)
+{
+    if (columns.drops == m_columns.drops && columns.differences == m_columns.differences)
+        return;
+    m_columns = columns;
+    setColumnCount(1 + m_columns.count());
+    retranslate();
+}
+
+void SupplementaryTable::updateFigures(const CurveFigures &figures, int count, const QString &name,
+                                       const QColor &color)
 {
     setRowCount(count);
-    const QStringList cells = QStringList(name) + supplementCells(figures);
+    const QStringList cells = QStringList(name) + supplementCells(figures, m_columns);
     for (int column = 0; column < cells.size(); ++column) {
         auto *item = new QTableWidgetItem(cells.at(column));
         item->setToolTip(cells.at(column));
@@ -56,12 +68,28 @@ void SupplementaryTable::changeEvent(QEvent *event)
 
 void SupplementaryTable::retranslate()
 {
-    setHorizontalHeaderLabels(
-        {tr("Curve"), tr("HPBW [°]"), tr("FNBW [°]"), tr("SLL [dB]"), tr("F/B [dB]")});
-    const QStringList meanings{
-        tr("The curve"), tr("Half-power beam width, also across the ±180° seam"),
-        tr("First-null beam width"), tr("Highest side lobe relative to the peak"),
-        tr("Front-to-back ratio: peak level minus the level in the opposite direction")};
+    QStringList names{tr("Curve"),    tr("HPBW [°]"), tr("FNBW [°]"),  tr("SLL [dB]"),
+                      tr("F/B [dB]"), tr("Peak [°]"), tr("Squint [°]")};
+    QStringList meanings{
+        tr("The curve"),
+        tr("Half-power beam width, also across the ±180° seam"),
+        tr("First-null beam width"),
+        tr("Highest side lobe relative to the peak"),
+        tr("Front-to-back ratio: peak level minus the level in the opposite direction"),
+        tr("Direction of the peak"),
+        tr("Direction of the middle between the half-power points")};
+    for (const double drop : qAsConst(m_columns.drops)) {
+        const QString level = CurveText::number(-drop);
+        names.append(tr("BW %1 dB [°]").arg(level));
+        meanings.append(tr("Beam width at %1 dB from the peak, also across a seam").arg(level));
+    }
+    if (m_columns.differences) {
+        names += {tr("Mean [dB]"), tr("Greatest [dB]"), tr("RMS [dB]")};
+        const QString region = tr("of a difference, within 20 dB below the first curve's peak");
+        meanings += {tr("Mean %1").arg(region), tr("Greatest magnitude %1").arg(region),
+                     tr("Root mean square %1").arg(region)};
+    }
+    setHorizontalHeaderLabels(names);
     for (int column = 0; column < columnCount(); ++column)
         horizontalHeaderItem(column)->setToolTip(meanings.at(column));
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QTableWidget>
+#include "2d/data/supplementtext.h"
 
-struct PatternSupplement;
+#include <QTableWidget>
 
 /// The textbook figures of the curves, one row a curve: a table apart from the ParaInfoTable, since
 /// both know a "width" and mean different things by it.
@@ -14,8 +14,11 @@ public:
     explicit SupplementaryTable(QWidget *parent = nullptr);
 
     /// Writes row \a count - 1 of \a count, with \a name and its colour in front of the figures.
-    void updateFigures(const PatternSupplement &figures, int count, const QString &name,
+    void updateFigures(const CurveFigures &figures, int count, const QString &name,
                        const QColor &color);
+
+    /// Shows the usual columns and \a columns.
+    void setColumns(const SupplementColumns &columns);
 
     /// The headings, the one above the names excepted.
     QStringList figureHeadings() const;
@@ -25,4 +28,6 @@ protected:
 
 private:
     void retranslate();
+
+    SupplementColumns m_columns;
 };

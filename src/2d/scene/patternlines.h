@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QVector>
 
 #include <array>
 #include <functional>
@@ -9,6 +10,7 @@ class QColor;
 class QGraphicsItem;
 class QGraphicsPathItem;
 class QPointF;
+struct BeamWidth;
 struct PatternLineValues;
 struct ViewRange;
 
@@ -24,7 +26,8 @@ public:
 
     PatternLines();
 
-    /// The six lines: peak, 3 dB left, 3 dB right, 3 dB level, side lobe left, side lobe right.
+    /// The six lines, peak, 3 dB left, 3 dB right, 3 dB level, side lobe left, side lobe right, and
+    /// the edges of the beam at the user's levels as one item.
     QList<QGraphicsItem *> items() const;
 
     void setColor(const QColor &color);
@@ -33,8 +36,13 @@ public:
     void update(const PatternLineValues &values, const Mapping &toScene, const ViewRange &axes,
                 bool shown);
 
+    /// Places the edges of the main lobe at \a beams: each level from edge to edge, and lines up to
+    /// its ends. On a cartesian chart a lobe across the seam is drawn at both ends.
+    void updateBeams(const QVector<BeamWidth> &beams, const Mapping &toScene,
+                     const ViewRange &axes);
+
     void hide();
 
 private:
-    std::array<QGraphicsPathItem *, 6> m_lines{};
+    std::array<QGraphicsPathItem *, 7> m_lines{};
 };

@@ -92,7 +92,7 @@ void CurveList::followLook(PathInfo &path)
     // Hidden curves stay in the legend, so that a click can bring them back.
     m_stage.setLegendEntry(path.curve(), path.color(), path.isHidden());
     m_marks.recolor(path);
-    if (m_parameterLinesVisible)
+    if (m_parameterLinesVisible || !path.beamLevels().isEmpty())
         recompute(path);
     emit lookChanged();
 }
@@ -145,6 +145,15 @@ void CurveList::setParameterLinesVisible(bool visible)
     m_parameterLinesVisible = visible;
     for (PathInfo *path : qAsConst(m_paths))
         recompute(*path);
+}
+
+void CurveList::setBeamLevels(int pathId, const QVector<double> &drops)
+{
+    PathInfo *path = m_paths.value(pathId);
+    if (!path || path->beamLevels() == drops)
+        return;
+    path->setBeamLevels(drops);
+    recompute(*path);
 }
 
 void CurveList::setMarkTablesShown(bool shown)

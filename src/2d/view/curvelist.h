@@ -51,6 +51,8 @@ public:
     void setComplete(bool complete) { m_complete = complete; }
     bool parameterLinesVisible() const { return m_parameterLinesVisible; }
     void setParameterLinesVisible(bool visible);
+    /// Shows the edges of the main lobe of \a pathId at so many dB below its peak.
+    void setBeamLevels(int pathId, const QVector<double> &drops);
     bool markTablesShown() const { return m_markTablesShown; }
     void setMarkTablesShown(bool shown);
     /// Refills the marker table of \a path.

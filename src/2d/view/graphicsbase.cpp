@@ -393,6 +393,11 @@ bool GraphicsBase::parameterLinesVisible() const
     return m_curves->parameterLinesVisible();
 }
 
+void GraphicsBase::setBeamLevels(int pathId, const QVector<double> &drops)
+{
+    m_curves->setBeamLevels(pathId, drops);
+}
+
 void GraphicsBase::setParameterLinesVisible(bool visible)
 {
     m_curves->setParameterLinesVisible(visible);

@@ -67,6 +67,8 @@ public:
     /// Whether the marker lines of the patterns may be shown.
     bool parameterLinesVisible() const;
     void setParameterLinesVisible(bool visible);
+    /// Shows the edges of the main lobe of a curve at so many dB below its peak; none: nothing.
+    void setBeamLevels(int pathId, const QVector<double> &drops);
 
     /// Connects every marker of the legend to handleMarkerClicked(), once.
     void reconnectLegendMarkers();

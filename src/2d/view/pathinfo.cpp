@@ -186,8 +186,15 @@ const PatternAnalysis *PathInfo::analysis()
         m_analysis.reset();
         if (const std::optional<PatternAnalysis> result = analysePattern(values))
             m_analysis = std::make_unique<PatternAnalysis>(*result);
+        m_beams = beamWidths(values, m_beamDrops);
     }
     return m_analysis.get();
+}
+
+void PathInfo::setBeamLevels(const QVector<double> &drops)
+{
+    m_beamDrops = drops;
+    m_beams = beamWidths(m_analysedValues, drops);
 }
 
 void PathInfo::updateLines(const ChartStage &stage, bool shown)
@@ -197,9 +204,9 @@ void PathInfo::updateLines(const ChartStage &stage, bool shown)
         m_lines.hide();
         return;
     }
-    m_lines.update(
-        figures->lines, [&stage](const QPointF &value) { return stage.toScene(value); },
-        stage.axisRange(), shown && m_linesVisible);
+    const auto toScene = [&stage](const QPointF &value) { return stage.toScene(value); };
+    m_lines.update(figures->lines, toScene, stage.axisRange(), shown && m_linesVisible);
+    m_lines.updateBeams(m_beams, toScene, stage.axisRange());
 }
 
 void PathInfo::setMarkTableShown(bool shown)

@@ -2,6 +2,7 @@
 
 #include "2d/data/chartmapping.h"
 #include "2d/data/parainfo.h"
+#include "2d/data/patternsupplement.h"
 #include "2d/scene/curveseries.h"
 #include "2d/scene/patternlines.h"
 #include "2d/view/curvelook.h"
@@ -88,6 +89,9 @@ public:
     const PatternAnalysis *analysis();
     /// Places the marker lines of the pattern, and shows them if \a shown.
     void updateLines(const ChartStage &stage, bool shown);
+    /// Shows the edges of the main lobe at so many dB below the peak at the next updateLines().
+    void setBeamLevels(const QVector<double> &drops);
+    const QVector<double> &beamLevels() const { return m_beamDrops; }
 
     void setMarkTableShown(bool shown);
     /// Put the tables to their places, as CurvePanels says.
@@ -138,4 +142,6 @@ private:
     ChartMapping m_drawnMapping;    ///< and how it was mapped
     QVector<QPointF> m_analysedValues;
     std::unique_ptr<PatternAnalysis> m_analysis;
+    QVector<double> m_beamDrops;
+    QVector<BeamWidth> m_beams; ///< of the analysed values
 };

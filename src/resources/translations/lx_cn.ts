@@ -2328,6 +2328,14 @@ correction</source>
         <source>%1 - %2</source>
         <translation>%1 - %2</translation>
     </message>
+    <message>
+        <source>&amp;Beam Widths...</source>
+        <translation>波束宽度(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Tells the beam widths at levels of your choice, with lines in both charts</source>
+        <translation>给出所选电平处的波束宽度，并在两个图中画线</translation>
+    </message>
 </context>
 <context>
     <name>PlanText</name>
@@ -2690,6 +2698,34 @@ correction</source>
     <message>
         <source>Notes</source>
         <translation>备注</translation>
+    </message>
+    <message>
+        <source>Mask</source>
+        <translation>掩模</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Worst margin (dB)</source>
+        <translation>最差余量 (dB)</translation>
+    </message>
+    <message>
+        <source>At (°)</source>
+        <translation>角度 (°)</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>Mask limits</source>
+        <translation>限值掩模</translation>
     </message>
 </context>
 <context>
@@ -3071,6 +3107,58 @@ Replace it?</source>
         <source>Front-to-back ratio: peak level minus the level in the opposite direction</source>
         <translation>前后比：峰值电平减去反方向电平</translation>
     </message>
+    <message>
+        <source>Peak [°]</source>
+        <translation>峰值 [°]</translation>
+    </message>
+    <message>
+        <source>Squint [°]</source>
+        <translation>斜视角 [°]</translation>
+    </message>
+    <message>
+        <source>Direction of the peak</source>
+        <translation>峰值方向</translation>
+    </message>
+    <message>
+        <source>Direction of the middle between the half-power points</source>
+        <translation>半功率点中间的方向</translation>
+    </message>
+    <message>
+        <source>BW %1 dB [°]</source>
+        <translation>%1 dB 宽度 [°]</translation>
+    </message>
+    <message>
+        <source>Beam width at %1 dB from the peak, also across a seam</source>
+        <translation>相对峰值 %1 dB 处的波束宽度，跨越接缝亦可</translation>
+    </message>
+    <message>
+        <source>Mean [dB]</source>
+        <translation>平均 [dB]</translation>
+    </message>
+    <message>
+        <source>Greatest [dB]</source>
+        <translation>最大 [dB]</translation>
+    </message>
+    <message>
+        <source>RMS [dB]</source>
+        <translation>均方根 [dB]</translation>
+    </message>
+    <message>
+        <source>of a difference, within 20 dB below the first curve&apos;s peak</source>
+        <translation>（差值，第一条曲线峰值以下 20 dB 内）</translation>
+    </message>
+    <message>
+        <source>Mean %1</source>
+        <translation>平均值%1</translation>
+    </message>
+    <message>
+        <source>Greatest magnitude %1</source>
+        <translation>最大绝对值%1</translation>
+    </message>
+    <message>
+        <source>Root mean square %1</source>
+        <translation>均方根%1</translation>
+    </message>
 </context>
 <context>
     <name>SweepDevices</name>
@@ -3205,6 +3293,18 @@ Replace it?</source>
     <message>
         <source>Manage Curves</source>
         <translation>管理曲线</translation>
+    </message>
+    <message>
+        <source>Beam Widths</source>
+        <translation>波束宽度</translation>
+    </message>
+    <message>
+        <source>Levels below the peak in dB, for instance -3, -6, -10; none hides them:</source>
+        <translation>低于峰值的电平 (dB)，例如 -3, -6, -10；留空则隐藏：</translation>
+    </message>
+    <message>
+        <source>These are no levels: %1</source>
+        <translation>这些不是电平：%1</translation>
     </message>
 </context>
 <context>

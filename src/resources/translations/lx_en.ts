@@ -2328,6 +2328,14 @@ correction</translation>
         <source>%1 - %2</source>
         <translation>%1 - %2</translation>
     </message>
+    <message>
+        <source>&amp;Beam Widths...</source>
+        <translation>&amp;Beam Widths...</translation>
+    </message>
+    <message>
+        <source>Tells the beam widths at levels of your choice, with lines in both charts</source>
+        <translation>Tells the beam widths at levels of your choice, with lines in both charts</translation>
+    </message>
 </context>
 <context>
     <name>PlanText</name>
@@ -2690,6 +2698,34 @@ correction</translation>
     <message>
         <source>Notes</source>
         <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Mask</source>
+        <translation>Mask</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>Worst margin (dB)</source>
+        <translation>Worst margin (dB)</translation>
+    </message>
+    <message>
+        <source>At (°)</source>
+        <translation>At (°)</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>pass</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>fail</translation>
+    </message>
+    <message>
+        <source>Mask limits</source>
+        <translation>Mask limits</translation>
     </message>
 </context>
 <context>
@@ -3071,6 +3107,58 @@ Replace it?</translation>
         <source>Front-to-back ratio: peak level minus the level in the opposite direction</source>
         <translation>Front-to-back ratio: peak level minus the level in the opposite direction</translation>
     </message>
+    <message>
+        <source>Peak [°]</source>
+        <translation>Peak [°]</translation>
+    </message>
+    <message>
+        <source>Squint [°]</source>
+        <translation>Squint [°]</translation>
+    </message>
+    <message>
+        <source>Direction of the peak</source>
+        <translation>Direction of the peak</translation>
+    </message>
+    <message>
+        <source>Direction of the middle between the half-power points</source>
+        <translation>Direction of the middle between the half-power points</translation>
+    </message>
+    <message>
+        <source>BW %1 dB [°]</source>
+        <translation>BW %1 dB [°]</translation>
+    </message>
+    <message>
+        <source>Beam width at %1 dB from the peak, also across a seam</source>
+        <translation>Beam width at %1 dB from the peak, also across a seam</translation>
+    </message>
+    <message>
+        <source>Mean [dB]</source>
+        <translation>Mean [dB]</translation>
+    </message>
+    <message>
+        <source>Greatest [dB]</source>
+        <translation>Greatest [dB]</translation>
+    </message>
+    <message>
+        <source>RMS [dB]</source>
+        <translation>RMS [dB]</translation>
+    </message>
+    <message>
+        <source>of a difference, within 20 dB below the first curve&apos;s peak</source>
+        <translation>of a difference, within 20 dB below the first curve&apos;s peak</translation>
+    </message>
+    <message>
+        <source>Mean %1</source>
+        <translation>Mean %1</translation>
+    </message>
+    <message>
+        <source>Greatest magnitude %1</source>
+        <translation>Greatest magnitude %1</translation>
+    </message>
+    <message>
+        <source>Root mean square %1</source>
+        <translation>Root mean square %1</translation>
+    </message>
 </context>
 <context>
     <name>SweepDevices</name>
@@ -3205,6 +3293,18 @@ Replace it?</translation>
     <message>
         <source>Manage Curves</source>
         <translation>Manage Curves</translation>
+    </message>
+    <message>
+        <source>Beam Widths</source>
+        <translation>Beam Widths</translation>
+    </message>
+    <message>
+        <source>Levels below the peak in dB, for instance -3, -6, -10; none hides them:</source>
+        <translation>Levels below the peak in dB, for instance -3, -6, -10; none hides them:</translation>
+    </message>
+    <message>
+        <source>These are no levels: %1</source>
+        <translation>These are no levels: %1</translation>
     </message>
 </context>
 <context>
