@@ -6,6 +6,7 @@
 #include "cli/readcommand.h"
 #include "cli/recordcommand.h"
 #include "cli/setcommand.h"
+#include "cli/sweepcommand.h"
 #include "cli/taskcommand.h"
 
 #include <algorithm>
@@ -74,8 +75,8 @@ Result read(const QStringList &arguments)
     app.require_subcommand(1);
     app.fallthrough();
     const std::vector<SubCommand> commands{
-        identifySubCommand(app), readSubCommand(app),      setSubCommand(app),
-        zeroSubCommand(app),     calibrateSubCommand(app), recordSubCommand(app),
+        identifySubCommand(app),  readSubCommand(app),   setSubCommand(app),   zeroSubCommand(app),
+        calibrateSubCommand(app), recordSubCommand(app), sweepSubCommand(app),
     };
 
     std::vector<std::string> words; // the last one first

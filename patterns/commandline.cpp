@@ -116,6 +116,14 @@ CommandLine readCommandLine(const QStringList &arguments)
                                       QStringLiteral("Language of the program: en or cn."),
                                       QStringLiteral("en|cn"));
     parser.addOption(language);
+    const QCommandLineOption measure(
+        QStringLiteral("measure"),
+        QStringLiteral("Open the dialog that measures a pattern, with the meter's address."),
+        QStringLiteral("HOST[:PORT]"));
+    const QCommandLineOption rotator(QStringLiteral("rotator"),
+                                     QStringLiteral("The rotator's address for --measure."),
+                                     QStringLiteral("HOST[:PORT]"));
+    parser.addOptions({measure, rotator});
     const BatchOptions options;
     parser.addOptions(options.all());
     parser.addPositionalArgument(QStringLiteral("files"),
@@ -126,6 +134,8 @@ CommandLine readCommandLine(const QStringList &arguments)
     const bool understood = parser.parse(arguments);
     line.language = parser.value(language);
     line.files = parser.positionalArguments();
+    line.meter = parser.value(measure);
+    line.rotator = parser.value(rotator);
     line.task = taskOf(parser, options);
     line.isBatch = asksForWork(arguments.mid(1), options);
     line.wish = line.isBatch ? CommandLine::Wish::Batch : CommandLine::Wish::Run;

@@ -36,6 +36,8 @@ struct CommandLine
     QStringList files;    ///< curve files to open
     bool isBatch = false; ///< work without a window is asked for, rightly or wrongly
     BatchTask task;
+    QString meter;   ///< address in the dialog that measures a pattern; empty: it is not opened
+    QString rotator; ///< likewise; empty: as last time
 };
 
 /// Reads \a arguments, the program's own name first.

@@ -47,6 +47,9 @@ public:
     /// Shows \a strip below the charts for as long as it lives; the window owns it.
     virtual void addStrip(QWidget *strip) = 0;
 
+    /// Opens the file of a measurement: its curve, or the question whether it goes on.
+    virtual void openRun(const QString &file) = 0;
+
     CurveSet &curves() const;
 
     /// Adds \a curves beside the others as one step of the history, called \a step in the menu

@@ -5,6 +5,7 @@
 #include "patterns/batch.h"
 #include "patterns/batchreport.h"
 #include "patterns/commandline.h"
+#include "patterns/measuremenu.h"
 #include "patterns/openactions.h"
 #include "patterns/patternwindow.h"
 #include "patterns/workbench.h"
@@ -87,7 +88,8 @@ int main(int argc, char **argv)
     if (line.wish != CommandLine::Wish::Run)
         return print(line);
     if (!hasDisplay)
-        return print({CommandLine::Wish::Refuse, Display::missingText(), {}, {}, false, {}});
+        return print(
+            {CommandLine::Wish::Refuse, Display::missingText(), {}, {}, false, {}, {}, {}});
 
     Workbench workbench;
     onStopSignals([&workbench] { workbench.stop(); });
@@ -95,6 +97,10 @@ int main(int argc, char **argv)
         workbench.useLanguage(line.language);
     // From the event loop, which alone can be told to end while files are read.
     PatternWindow *window = workbench.openWindow();
-    QTimer::singleShot(0, window, [&] { window->opening().openFiles(line.files); });
+    QTimer::singleShot(0, window, [&] {
+        window->opening().openFiles(line.files);
+        if (!line.meter.isEmpty())
+            window->measuring().measurePattern(line.meter, line.rotator);
+    });
     return QApplication::exec();
 }

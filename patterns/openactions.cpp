@@ -6,6 +6,7 @@
 #include "patterns/curveimport.h"
 #include "patterns/filenames.h"
 #include "patterns/windowcontext.h"
+#include "sweep/runfile.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -45,8 +46,15 @@ void OpenActions::showRecentFiles()
     m_ui.menuRecent->setEnabled(!files.isEmpty());
 }
 
-void OpenActions::openFiles(const QStringList &files)
+void OpenActions::openFiles(const QStringList &wanted)
 {
+    QStringList files;
+    for (const QString &file : wanted) {
+        if (RunText::isRunFileAt(file))
+            m_desk.openRun(file);
+        else
+            files.append(file);
+    }
     if (files.isEmpty())
         return;
     m_desk.context().rememberFolder(files.first());

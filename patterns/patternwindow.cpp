@@ -125,6 +125,11 @@ void PatternWindow::addStrip(QWidget *strip)
     ui->centralLayout->addWidget(strip);
 }
 
+void PatternWindow::openRun(const QString &file)
+{
+    m_measure->openRun(file);
+}
+
 void PatternWindow::on_actionAbout_triggered()
 {
     QMessageBox::about(

@@ -30,6 +30,7 @@ public:
     OpenActions &opening() const { return *m_open; }
     SaveActions &saving() const { return *m_save; }
     LossActions &losses() const { return *m_loss; }
+    MeasureMenu &measuring() const { return *m_measure; }
 
     QWidget *dialogParent() override { return this; }
     ListChart &form() const override;
@@ -39,6 +40,7 @@ public:
     void warn(const QString &text, const QStringList &details = {}) override;
     bool save(const QString &file, const QByteArray &content) override;
     void addStrip(QWidget *strip) override;
+    void openRun(const QString &file) override;
 
 protected:
     void changeEvent(QEvent *event) override;

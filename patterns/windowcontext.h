@@ -3,6 +3,7 @@
 #include "2d/data/polarorientation.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -44,6 +45,10 @@ public:
     virtual double nullProminence() const = 0;
     /// Computes the supplementary figures of all windows anew, also at the next start.
     virtual void setNullProminence(double prominence) = 0;
+
+    /// What was entered for the last measurement.
+    virtual QJsonObject measuring() const = 0;
+    virtual void rememberMeasuring(const QJsonObject &inputs) = 0;
 
     /// "en" or "cn".
     virtual QString language() const = 0;

@@ -36,6 +36,8 @@ public:
     void setPolarView(const PolarView &view) override;
     double nullProminence() const override { return m_nullProminence; }
     void setNullProminence(double prominence) override;
+    QJsonObject measuring() const override { return m_settings.measuring(); }
+    void rememberMeasuring(const QJsonObject &inputs) override { m_settings.setMeasuring(inputs); }
     QString language() const override { return m_language.code(); }
     void setLanguage(const QString &code) override;
 

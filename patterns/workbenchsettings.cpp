@@ -130,6 +130,16 @@ void WorkbenchSettings::setNullProminence(double prominence)
     store(m_file, QStringLiteral("nullProminence"), prominence);
 }
 
+QJsonObject WorkbenchSettings::measuring() const
+{
+    return stored(m_file, QStringLiteral("measuring")).toObject();
+}
+
+void WorkbenchSettings::setMeasuring(const QJsonObject &inputs)
+{
+    store(m_file, QStringLiteral("measuring"), inputs);
+}
+
 QByteArray WorkbenchSettings::windowGeometry() const
 {
     const QString geometry = stored(m_file, QStringLiteral("windowGeometry")).toString();

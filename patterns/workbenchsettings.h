@@ -3,6 +3,7 @@
 #include "2d/data/polarorientation.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -34,6 +35,10 @@ public:
     /// dB; the usual one when nothing, or nothing sensible, was stored.
     double nullProminence() const;
     void setNullProminence(double prominence);
+
+    /// What was entered for the last measurement, as it was stored.
+    QJsonObject measuring() const;
+    void setMeasuring(const QJsonObject &inputs);
 
     QByteArray windowGeometry() const;
     void setWindowGeometry(const QByteArray &geometry);

@@ -95,6 +95,8 @@ QByteArray drift(const std::optional<double> &drift);
 /// file or its plan cannot be read.
 std::optional<RunFile> read(const QByteArray &bytes);
 bool isRunFile(const QByteArray &bytes);
+/// Whether the file at \a path is one, as far as its beginning tells.
+bool isRunFileAt(const QString &path);
 
 /// The run file beside the curve file \a curve: NAME.run.csv beside NAME.csv.
 QString pathBeside(const QString &curve);

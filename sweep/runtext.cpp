@@ -2,6 +2,7 @@
 
 #include "2d/data/curvetext.h"
 
+#include <QFile>
 #include <QMap>
 
 #include <array>
@@ -236,6 +237,13 @@ std::optional<RunFile> read(const QByteArray &bytes)
 bool isRunFile(const QByteArray &bytes)
 {
     return bytes.startsWith("# version:") && bytes.contains('\n' + columns);
+}
+
+bool isRunFileAt(const QString &path)
+{
+    constexpr qint64 longestHeader = 1 << 16;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && isRunFile(file.read(longestHeader));
 }
 
 QString pathBeside(const QString &curve)

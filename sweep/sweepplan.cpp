@@ -70,7 +70,7 @@ PlanLayout layOut(const SweepPlan &plan, const std::optional<TableLimits> &limit
         return layout;
 
     const auto add = [&](double theta) {
-        layout.points.append({tidied(plan.zero + plan.sense * theta), wrappedAngle(theta)});
+        layout.points.append({tidied(plan.zero + plan.sense * theta), wrappedTheta(theta)});
     };
     const double direction = plan.to < plan.from ? -1.0 : 1.0;
     const double span = std::abs(plan.to - plan.from);
@@ -88,14 +88,14 @@ PlanLayout layOut(const SweepPlan &plan, const std::optional<TableLimits> &limit
     return layout;
 }
 
-double wrappedAngle(double angle)
+double wrappedTheta(double angle)
 {
     return std::abs(angle) <= turn / 2.0 ? angle : tidied(std::remainder(angle, turn));
 }
 
 double thetaAt(const SweepPlan &plan, double table)
 {
-    return wrappedAngle(tidied(plan.sense * (table - plan.zero)));
+    return wrappedTheta(tidied(plan.sense * (table - plan.zero)));
 }
 
 double angleBetween(double a, double b)

@@ -55,7 +55,7 @@ struct PlanLayout
 PlanLayout layOut(const SweepPlan &plan, const std::optional<TableLimits> &limits);
 
 /// \a angle turned into -180 to 180; both ends stay what they are.
-double wrappedAngle(double angle);
+double wrappedTheta(double angle);
 
 /// θ, wrapped, at the table's angle \a table.
 double thetaAt(const SweepPlan &plan, double table);

@@ -14,7 +14,7 @@ RunRow measured(double wanted, double mean, RunFlags flags = {})
     RunRow row;
     row.time = QStringLiteral("2026-11-21T20:03:02.117+01:00");
     row.wanted = row.read = wanted;
-    row.theta = wrappedAngle(wanted);
+    row.theta = wrappedTheta(wanted);
     if (!flags.testFlag(RunFlag::Missing))
         row.mean = mean;
     row.count = 3;

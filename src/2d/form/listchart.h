@@ -59,6 +59,8 @@ public:
 public slots:
     /// Chooses the ranges of both charts from the curves that are shown, now and as curves come.
     void fitToData();
+    /// The same, but levels that the user chose stay.
+    void fit();
     /// Shows levels from \a min to \a max dB in both charts, whatever curves come. Does nothing
     /// when that is no range.
     void setLevels(double min, double max);
@@ -104,7 +106,6 @@ private:
     void showSelection(int id);
     void followLevels(const GraphicsBase &view);
     void setUpHint();
-    void fit();
     void showLevels(double min, double max);
     void applyLevelFields();
 

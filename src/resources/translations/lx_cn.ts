@@ -1557,6 +1557,416 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>MeasureDialog</name>
+    <message>
+        <source>Resume Measuring a Pattern</source>
+        <translation>继续测量方向图</translation>
+    </message>
+    <message>
+        <source>Measure Pattern</source>
+        <translation>测量方向图</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Angles</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>读数</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>Check first: nothing moves before both devices have answered.</source>
+        <translation>请先检查：两台设备都应答之前，转台不会转动。</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>设备的应答</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k</source>
+        <translation>检查(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>继续(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>开始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Meter &amp;by:</source>
+        <translation>功率计连接(&amp;B)：</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>局域网</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>&amp;Meter:</source>
+        <translation>功率计(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>HOST or HOST:PORT; with a serial port PORT or PORT:BAUD</source>
+        <translation>HOST 或 HOST:PORT；串口时为 PORT 或 PORT:BAUD</translation>
+    </message>
+    <message>
+        <source>R&amp;otator:</source>
+        <translation>转台(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>HOST or HOST:PORT of rotctld, port 4533 unless given</source>
+        <translation>rotctld 的 HOST 或 HOST:PORT，默认端口 4533</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>起始(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>终止(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Ste&amp;p:</source>
+        <translation>步长(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Zero at:</source>
+        <translation>零点(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>The table&apos;s angle at which the antenna&apos;s front looks at the source</source>
+        <translation>天线正面对准信号源时转台的角度</translation>
+    </message>
+    <message>
+        <source>S&amp;ense:</source>
+        <translation>方向(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Whether the curve&apos;s angle grows as the table&apos;s does</source>
+        <translation>曲线角度是否与转台角度同向增大</translation>
+    </message>
+    <message>
+        <source>As the table</source>
+        <translation>与转台相同</translation>
+    </message>
+    <message>
+        <source>Opposite</source>
+        <translation>与转台相反</translation>
+    </message>
+    <message>
+        <source>Tolera&amp;nce:</source>
+        <translation>容差(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Turn &amp;back at the end</source>
+        <translation>结束后转回(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Sett&amp;ling:</source>
+        <translation>稳定时间(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>From the table&apos;s arrival to the first reading</source>
+        <translation>从转台到位到第一次读数的时间</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dings a point:</source>
+        <translation>每点读数(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>Their mean is taken in milliwatts; one more is thrown away first</source>
+        <translation>按毫瓦取平均；此前先丢弃一个读数</translation>
+    </message>
+    <message>
+        <source>Fl&amp;oor:</source>
+        <translation>底噪(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Level with the source off</source>
+        <translation>关闭信号源时的电平</translation>
+    </message>
+    <message>
+        <source>Level with the source off; points within 10 dB of it are marked</source>
+        <translation>关闭信号源时的电平；与其相差 10 dB 以内的点会被标记</translation>
+    </message>
+    <message>
+        <source>T&amp;itle:</source>
+        <translation>标题(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>名称(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>The name of the curve</source>
+        <translation>曲线的名称</translation>
+    </message>
+    <message>
+        <source>Curve file</source>
+        <translation>曲线文件</translation>
+    </message>
+    <message>
+        <source>Every point is kept at once in NAME.run.csv beside it</source>
+        <translation>每个点会立即保存在旁边的 NAME.run.csv 中</translation>
+    </message>
+    <message>
+        <source>Br&amp;owse...</source>
+        <translation>浏览(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Fi&amp;le:</source>
+        <translation>文件(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Antenna si&amp;ze:</source>
+        <translation>天线尺寸(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>Its largest dimension, for the hint on the distance</source>
+        <translation>天线的最大尺寸，用于提示距离</translation>
+    </message>
+    <message>
+        <source>The address of the meter or of the rotator is none.</source>
+        <translation>功率计或转台的地址无效。</translation>
+    </message>
+    <message>
+        <source>Asking both devices...</source>
+        <translation>正在询问两台设备...</translation>
+    </message>
+    <message>
+        <source>The meter does not answer: %1</source>
+        <translation>功率计没有应答：%1</translation>
+    </message>
+    <message>
+        <source>The rotator does not answer: %1</source>
+        <translation>转台没有应答：%1</translation>
+    </message>
+    <message>
+        <source>no reading</source>
+        <translation>无读数</translation>
+    </message>
+    <message>
+        <source>Meter: %1, %2, now %3</source>
+        <translation>功率计：%1，%2，当前 %3</translation>
+    </message>
+    <message>
+        <source>Rotator: %1, turns from %2° to %3°, stands at %4°</source>
+        <translation>转台：%1，转动范围 %2° 至 %3°，当前 %4°</translation>
+    </message>
+    <message>
+        <source>Rotator: %1, limits not told, stands at %2°</source>
+        <translation>转台：%1，未报告转动范围，当前 %2°</translation>
+    </message>
+    <message>
+        <source>The meter measures relative to a reference; turn that off first.</source>
+        <translation>功率计正在进行相对测量；请先将其关闭。</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 个点</translation>
+    </message>
+    <message>
+        <source>Far field from 2D²/λ = %1 m on, at %2.</source>
+        <translation>远场从 2D²/λ = %1 m 开始（频率 %2）。</translation>
+    </message>
+    <message>
+        <source>With the antenna&apos;s size, Check tells the far-field distance 2D²/λ.</source>
+        <translation>填写天线尺寸后，“检查”会给出远场距离 2D²/λ。</translation>
+    </message>
+    <message>
+        <source>A run into this file was begun before. Go on with it, or begin anew?</source>
+        <translation>此文件已有一次未完成的测量。继续，还是重新开始？</translation>
+    </message>
+    <message>
+        <source>The file exists already. Replace it at the end?</source>
+        <translation>文件已存在。结束时替换它吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Go On</source>
+        <translation>继续(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Begin Anew</source>
+        <translation>重新开始(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>This run is complete; open its curve instead.</source>
+        <translation>该次测量已完成；请直接打开其曲线。</translation>
+    </message>
+    <message>
+        <source>Curve File</source>
+        <translation>曲线文件</translation>
+    </message>
+    <message>
+        <source>Curve files (*.csv)</source>
+        <translation>曲线文件 (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureMenu</name>
+    <message>
+        <source>Measure &amp;Pattern...</source>
+        <translation>测量方向图(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Measures a pattern with the power meter and a turntable</source>
+        <translation>用功率计和转台测量方向图</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>pattern</translation>
+    </message>
+    <message>
+        <source>This is no run file that can be resumed: %1</source>
+        <translation>该文件不是可以继续的测量记录：%1</translation>
+    </message>
+    <message>
+        <source>A pattern is being measured in this window already.</source>
+        <translation>此窗口中已在测量方向图。</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureStrip</name>
+    <message>
+        <source>Pa&amp;use</source>
+        <translation>暂停(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Resu&amp;me</source>
+        <translation>继续(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>停止(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>电平</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>离散</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <translation>剩余时间</translation>
+    </message>
+    <message>
+        <source>State of the measurement</source>
+        <translation>测量状态</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>%v of %m points</source>
+        <translation>%v / %m 点</translation>
+    </message>
+    <message>
+        <source>Angle %1°</source>
+        <translation>角度 %1°</translation>
+    </message>
+    <message>
+        <source>The table reads %1°</source>
+        <translation>转台读数 %1°</translation>
+    </message>
+    <message>
+        <source>Level %1</source>
+        <translation>电平 %1</translation>
+    </message>
+    <message>
+        <source>Spread %1</source>
+        <translation>离散 %1</translation>
+    </message>
+    <message>
+        <source>Remaining %1</source>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>The table turns back</source>
+        <translation>转台正在转回</translation>
+    </message>
+</context>
+<context>
+    <name>Measurement</name>
+    <message>
+        <source>Measured %1 with %2, rotator %3</source>
+        <translation>测量于 %1，仪器 %2，转台 %3</translation>
+    </message>
+    <message>
+        <source>Marked: the level drifted by %1 dB</source>
+        <translation>已标记：电平漂移 %1 dB</translation>
+    </message>
+    <message>
+        <source>Drift %1 dB</source>
+        <translation>漂移 %1 dB</translation>
+    </message>
+    <message>
+        <source>No reading at %1</source>
+        <translation>无读数：%1</translation>
+    </message>
+    <message>
+        <source>The table did not stay at %1</source>
+        <translation>转台未能停留：%1</translation>
+    </message>
+    <message>
+        <source>Unsteady readings at %1</source>
+        <translation>读数不稳定：%1</translation>
+    </message>
+    <message>
+        <source>Near the floor at %1</source>
+        <translation>接近底噪：%1</translation>
+    </message>
+    <message>
+        <source>The curve could not be written: %1
+%2</source>
+        <translation>曲线无法写入：%1
+%2</translation>
+    </message>
+    <message>
+        <source>The measurement has ended early. %1</source>
+        <translation>测量提前结束。%1</translation>
+    </message>
+    <message>
+        <source>The level drifted by %1 dB while the pattern was measured.</source>
+        <translation>测量方向图期间电平漂移了 %1 dB。</translation>
+    </message>
+    <message>
+        <source>Measured: %1</source>
+        <translation>已测量：%1</translation>
+    </message>
+</context>
+<context>
     <name>MessageDialog</name>
     <message>
         <source>Dialog</source>

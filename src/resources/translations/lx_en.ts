@@ -1557,6 +1557,416 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>MeasureDialog</name>
+    <message>
+        <source>Resume Measuring a Pattern</source>
+        <translation>Resume Measuring a Pattern</translation>
+    </message>
+    <message>
+        <source>Measure Pattern</source>
+        <translation>Measure Pattern</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>Angles</source>
+        <translation>Angles</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Readings</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Curve</translation>
+    </message>
+    <message>
+        <source>Check first: nothing moves before both devices have answered.</source>
+        <translation>Check first: nothing moves before both devices have answered.</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>What the devices told</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k</source>
+        <translation>Chec&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>&amp;Resume</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Start</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Meter &amp;by:</source>
+        <translation>Meter &amp;by:</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Serial port</translation>
+    </message>
+    <message>
+        <source>&amp;Meter:</source>
+        <translation>&amp;Meter:</translation>
+    </message>
+    <message>
+        <source>HOST or HOST:PORT; with a serial port PORT or PORT:BAUD</source>
+        <translation>HOST or HOST:PORT; with a serial port PORT or PORT:BAUD</translation>
+    </message>
+    <message>
+        <source>R&amp;otator:</source>
+        <translation>R&amp;otator:</translation>
+    </message>
+    <message>
+        <source>HOST or HOST:PORT of rotctld, port 4533 unless given</source>
+        <translation>HOST or HOST:PORT of rotctld, port 4533 unless given</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>&amp;From:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;To:</translation>
+    </message>
+    <message>
+        <source>Ste&amp;p:</source>
+        <translation>Ste&amp;p:</translation>
+    </message>
+    <message>
+        <source>&amp;Zero at:</source>
+        <translation>&amp;Zero at:</translation>
+    </message>
+    <message>
+        <source>The table&apos;s angle at which the antenna&apos;s front looks at the source</source>
+        <translation>The table&apos;s angle at which the antenna&apos;s front looks at the source</translation>
+    </message>
+    <message>
+        <source>S&amp;ense:</source>
+        <translation>S&amp;ense:</translation>
+    </message>
+    <message>
+        <source>Whether the curve&apos;s angle grows as the table&apos;s does</source>
+        <translation>Whether the curve&apos;s angle grows as the table&apos;s does</translation>
+    </message>
+    <message>
+        <source>As the table</source>
+        <translation>As the table</translation>
+    </message>
+    <message>
+        <source>Opposite</source>
+        <translation>Opposite</translation>
+    </message>
+    <message>
+        <source>Tolera&amp;nce:</source>
+        <translation>Tolera&amp;nce:</translation>
+    </message>
+    <message>
+        <source>Turn &amp;back at the end</source>
+        <translation>Turn &amp;back at the end</translation>
+    </message>
+    <message>
+        <source>Sett&amp;ling:</source>
+        <translation>Sett&amp;ling:</translation>
+    </message>
+    <message>
+        <source>From the table&apos;s arrival to the first reading</source>
+        <translation>From the table&apos;s arrival to the first reading</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dings a point:</source>
+        <translation>Rea&amp;dings a point:</translation>
+    </message>
+    <message>
+        <source>Their mean is taken in milliwatts; one more is thrown away first</source>
+        <translation>Their mean is taken in milliwatts; one more is thrown away first</translation>
+    </message>
+    <message>
+        <source>Fl&amp;oor:</source>
+        <translation>Fl&amp;oor:</translation>
+    </message>
+    <message>
+        <source>Level with the source off</source>
+        <translation>Level with the source off</translation>
+    </message>
+    <message>
+        <source>Level with the source off; points within 10 dB of it are marked</source>
+        <translation>Level with the source off; points within 10 dB of it are marked</translation>
+    </message>
+    <message>
+        <source>T&amp;itle:</source>
+        <translation>T&amp;itle:</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>N&amp;ame:</translation>
+    </message>
+    <message>
+        <source>The name of the curve</source>
+        <translation>The name of the curve</translation>
+    </message>
+    <message>
+        <source>Curve file</source>
+        <translation>Curve file</translation>
+    </message>
+    <message>
+        <source>Every point is kept at once in NAME.run.csv beside it</source>
+        <translation>Every point is kept at once in NAME.run.csv beside it</translation>
+    </message>
+    <message>
+        <source>Br&amp;owse...</source>
+        <translation>Br&amp;owse...</translation>
+    </message>
+    <message>
+        <source>Fi&amp;le:</source>
+        <translation>Fi&amp;le:</translation>
+    </message>
+    <message>
+        <source>Antenna si&amp;ze:</source>
+        <translation>Antenna si&amp;ze:</translation>
+    </message>
+    <message>
+        <source>Its largest dimension, for the hint on the distance</source>
+        <translation>Its largest dimension, for the hint on the distance</translation>
+    </message>
+    <message>
+        <source>The address of the meter or of the rotator is none.</source>
+        <translation>The address of the meter or of the rotator is none.</translation>
+    </message>
+    <message>
+        <source>Asking both devices...</source>
+        <translation>Asking both devices...</translation>
+    </message>
+    <message>
+        <source>The meter does not answer: %1</source>
+        <translation>The meter does not answer: %1</translation>
+    </message>
+    <message>
+        <source>The rotator does not answer: %1</source>
+        <translation>The rotator does not answer: %1</translation>
+    </message>
+    <message>
+        <source>no reading</source>
+        <translation>no reading</translation>
+    </message>
+    <message>
+        <source>Meter: %1, %2, now %3</source>
+        <translation>Meter: %1, %2, now %3</translation>
+    </message>
+    <message>
+        <source>Rotator: %1, turns from %2° to %3°, stands at %4°</source>
+        <translation>Rotator: %1, turns from %2° to %3°, stands at %4°</translation>
+    </message>
+    <message>
+        <source>Rotator: %1, limits not told, stands at %2°</source>
+        <translation>Rotator: %1, limits not told, stands at %2°</translation>
+    </message>
+    <message>
+        <source>The meter measures relative to a reference; turn that off first.</source>
+        <translation>The meter measures relative to a reference; turn that off first.</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 points</translation>
+    </message>
+    <message>
+        <source>Far field from 2D²/λ = %1 m on, at %2.</source>
+        <translation>Far field from 2D²/λ = %1 m on, at %2.</translation>
+    </message>
+    <message>
+        <source>With the antenna&apos;s size, Check tells the far-field distance 2D²/λ.</source>
+        <translation>With the antenna&apos;s size, Check tells the far-field distance 2D²/λ.</translation>
+    </message>
+    <message>
+        <source>A run into this file was begun before. Go on with it, or begin anew?</source>
+        <translation>A run into this file was begun before. Go on with it, or begin anew?</translation>
+    </message>
+    <message>
+        <source>The file exists already. Replace it at the end?</source>
+        <translation>The file exists already. Replace it at the end?</translation>
+    </message>
+    <message>
+        <source>&amp;Go On</source>
+        <translation>&amp;Go On</translation>
+    </message>
+    <message>
+        <source>&amp;Begin Anew</source>
+        <translation>&amp;Begin Anew</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>This run is complete; open its curve instead.</source>
+        <translation>This run is complete; open its curve instead.</translation>
+    </message>
+    <message>
+        <source>Curve File</source>
+        <translation>Curve File</translation>
+    </message>
+    <message>
+        <source>Curve files (*.csv)</source>
+        <translation>Curve files (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureMenu</name>
+    <message>
+        <source>Measure &amp;Pattern...</source>
+        <translation>Measure &amp;Pattern...</translation>
+    </message>
+    <message>
+        <source>Measures a pattern with the power meter and a turntable</source>
+        <translation>Measures a pattern with the power meter and a turntable</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>pattern</translation>
+    </message>
+    <message>
+        <source>This is no run file that can be resumed: %1</source>
+        <translation>This is no run file that can be resumed: %1</translation>
+    </message>
+    <message>
+        <source>A pattern is being measured in this window already.</source>
+        <translation>A pattern is being measured in this window already.</translation>
+    </message>
+</context>
+<context>
+    <name>MeasureStrip</name>
+    <message>
+        <source>Pa&amp;use</source>
+        <translation>Pa&amp;use</translation>
+    </message>
+    <message>
+        <source>Resu&amp;me</source>
+        <translation>Resu&amp;me</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;p</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Spread</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <translation>Remaining time</translation>
+    </message>
+    <message>
+        <source>State of the measurement</source>
+        <translation>State of the measurement</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>%v of %m points</source>
+        <translation>%v of %m points</translation>
+    </message>
+    <message>
+        <source>Angle %1°</source>
+        <translation>Angle %1°</translation>
+    </message>
+    <message>
+        <source>The table reads %1°</source>
+        <translation>The table reads %1°</translation>
+    </message>
+    <message>
+        <source>Level %1</source>
+        <translation>Level %1</translation>
+    </message>
+    <message>
+        <source>Spread %1</source>
+        <translation>Spread %1</translation>
+    </message>
+    <message>
+        <source>Remaining %1</source>
+        <translation>Remaining %1</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Paused</translation>
+    </message>
+    <message>
+        <source>The table turns back</source>
+        <translation>The table turns back</translation>
+    </message>
+</context>
+<context>
+    <name>Measurement</name>
+    <message>
+        <source>Measured %1 with %2, rotator %3</source>
+        <translation>Measured %1 with %2, rotator %3</translation>
+    </message>
+    <message>
+        <source>Marked: the level drifted by %1 dB</source>
+        <translation>Marked: the level drifted by %1 dB</translation>
+    </message>
+    <message>
+        <source>Drift %1 dB</source>
+        <translation>Drift %1 dB</translation>
+    </message>
+    <message>
+        <source>No reading at %1</source>
+        <translation>No reading at %1</translation>
+    </message>
+    <message>
+        <source>The table did not stay at %1</source>
+        <translation>The table did not stay at %1</translation>
+    </message>
+    <message>
+        <source>Unsteady readings at %1</source>
+        <translation>Unsteady readings at %1</translation>
+    </message>
+    <message>
+        <source>Near the floor at %1</source>
+        <translation>Near the floor at %1</translation>
+    </message>
+    <message>
+        <source>The curve could not be written: %1
+%2</source>
+        <translation>The curve could not be written: %1
+%2</translation>
+    </message>
+    <message>
+        <source>The measurement has ended early. %1</source>
+        <translation>The measurement has ended early. %1</translation>
+    </message>
+    <message>
+        <source>The level drifted by %1 dB while the pattern was measured.</source>
+        <translation>The level drifted by %1 dB while the pattern was measured.</translation>
+    </message>
+    <message>
+        <source>Measured: %1</source>
+        <translation>Measured: %1</translation>
+    </message>
+</context>
+<context>
     <name>MessageDialog</name>
     <message>
         <source>Dialog</source>
