@@ -176,6 +176,13 @@ mode_t modeFrom(int flags, va_list arguments)
     static auto *const real = realOne<decltype(function)>(#function); \
     return intercept(isInStage(target), Call::call, #function, [&] { return real(__VA_ARGS__); })
 
+// The whole of a function that is passed on so.
+#define MZ_REPLACE(call, function, target, parameters, ...) \
+    int function parameters noexcept                        \
+    {                                                       \
+        MZ_PASS(target, call, function, __VA_ARGS__);       \
+    }
+
 extern "C" {
 
 int open(const char *path, int flags, ...)
@@ -228,35 +235,23 @@ int fdatasync(int file)
     MZ_PASS(file, Sync, fdatasync, file);
 }
 
-int ftruncate(int file, off_t size) noexcept
-{
-    MZ_PASS(file, Truncate, ftruncate, file, size);
-}
-
-int ftruncate64(int file, off64_t size) noexcept
-{
-    MZ_PASS(file, Truncate, ftruncate64, file, size);
-}
-
-int fchmod(int file, mode_t mode) noexcept
-{
-    MZ_PASS(file, Mode, fchmod, file, mode);
-}
-
-int fstat64(int file, struct stat64 *result) noexcept
-{
-    MZ_PASS(file, Size, fstat64, file, result);
-}
-
-int stat64(const char *path, struct stat64 *result) noexcept
-{
-    MZ_PASS(path, Status, stat64, path, result);
-}
-
-int lstat64(const char *path, struct stat64 *result) noexcept
-{
-    MZ_PASS(path, Status, lstat64, path, result);
-}
+MZ_REPLACE(Truncate, ftruncate, file, (int file, off_t size), file, size)
+MZ_REPLACE(Truncate, ftruncate64, file, (int file, off64_t size), file, size)
+MZ_REPLACE(Mode, fchmod, file, (int file, mode_t mode), file, mode)
+MZ_REPLACE(Size, fstat64, file, (int file, struct stat64 *result), file, result)
+MZ_REPLACE(Status, stat64, path, (const char *path, struct stat64 *result), path, result)
+MZ_REPLACE(Status, lstat64, path, (const char *path, struct stat64 *result), path, result)
+MZ_REPLACE(Access, access, path, (const char *path, int right), path, right)
+MZ_REPLACE(Mode, chmod, path, (const char *path, mode_t mode), path, mode)
+MZ_REPLACE(MakeFolder, mkdir, path, (const char *path, mode_t mode), path, mode)
+MZ_REPLACE(Unlink, unlink, path, (const char *path), path)
+MZ_REPLACE(Link, link, path, (const char *from, const char *path), from, path)
+MZ_REPLACE(Link, linkat, path, (int at, const char *from, int to, const char *path, int flags), at,
+           from, to, path, flags)
+MZ_REPLACE(Rename, rename, path, (const char *from, const char *path), from, path)
+MZ_REPLACE(Rename, renameat2, path,
+           (int at, const char *from, int to, const char *path, unsigned flags), at, from, to, path,
+           flags)
 
 int statx(int folder, const char *path, int flags, unsigned mask, struct statx *result) noexcept
 {
@@ -265,47 +260,6 @@ int statx(int folder, const char *path, int flags, unsigned mask, struct statx *
     return intercept(isOfFile ? isInStage(folder) : isInStage(path),
                      isOfFile ? Call::Size : Call::Status, "statx",
                      [&] { return real(folder, path, flags, mask, result); });
-}
-
-int access(const char *path, int right) noexcept
-{
-    MZ_PASS(path, Access, access, path, right);
-}
-
-int chmod(const char *path, mode_t mode) noexcept
-{
-    MZ_PASS(path, Mode, chmod, path, mode);
-}
-
-int mkdir(const char *path, mode_t mode) noexcept
-{
-    MZ_PASS(path, MakeFolder, mkdir, path, mode);
-}
-
-int unlink(const char *path) noexcept
-{
-    MZ_PASS(path, Unlink, unlink, path);
-}
-
-int link(const char *from, const char *path) noexcept
-{
-    MZ_PASS(path, Link, link, from, path);
-}
-
-int linkat(int fromFolder, const char *from, int folder, const char *path, int flags) noexcept
-{
-    MZ_PASS(path, Link, linkat, fromFolder, from, folder, path, flags);
-}
-
-int rename(const char *from, const char *path) noexcept
-{
-    MZ_PASS(path, Rename, rename, from, path);
-}
-
-int renameat2(int fromFolder, const char *from, int folder, const char *path,
-              unsigned flags) noexcept
-{
-    MZ_PASS(path, Rename, renameat2, fromFolder, from, folder, path, flags);
 }
 
 /// Where Qt looks for the program, beside which settings, records and log lie.
@@ -334,6 +288,7 @@ int gettimeofday(timeval *time, void *zone) noexcept
 
 } // extern "C"
 
+#undef MZ_REPLACE
 #undef MZ_PASS
 
 // --- The campaign's own

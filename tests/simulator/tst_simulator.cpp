@@ -7,10 +7,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#endif
-
 namespace {
 
 constexpr int patience = 10000; // ms, for what is bound to happen
@@ -280,7 +276,7 @@ Debug: read data: "RETU"()");
             {taken, "^Cannot listen on 127.0.0.1:\\d+: "},
             {"--rotator" + taken.mid(6) + " --port 0", "^Cannot listen on 127.0.0.1:\\d+: "},
             {"--pattern /nowhere/x.csv", "^Cannot read /nowhere/x.csv: "},
-            {"--port=x --noise=y", "^[^\n]*--port[^\n]*\n(.*\n)*Usage: "}};
+        };
         const auto run = [](QProcess &process, const QByteArray &arguments) {
             process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), words(arguments));
             return process.waitForFinished(patience) &&
@@ -303,21 +299,6 @@ Debug: read data: "RETU"()");
     }
 
 #ifdef Q_OS_UNIX
-    void stopSignals()
-    {
-        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-            QProcess process;
-            process.start(QStringLiteral(MZ_BIN_DIR "/mz6218-sim"), words("--port 0 --serial"));
-            QByteArray out;
-            while (!out.contains("Listening") && process.waitForReadyRead(patience))
-                out += process.readAllStandardOutput();
-            QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
-            QVERIFY(process.waitForFinished(patience));
-            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-            QCOMPARE(process.exitCode(), 0);
-        }
-    }
-
     void serialPort()
     {
         QVERIFY(start("--serial --calibration-time 0.1 --fault late:200,only=AVER:COUN?"));
