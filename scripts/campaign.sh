@@ -7,7 +7,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 
 usage() {
     cat <<'TEXT'
-usage: scripts/campaign.sh faults|files|week [OPTION...]
+usage: scripts/campaign.sh faults|files|watch|week [OPTION...]
 
   --slice         a few jobs only, as among the tests
   --only TEXT     only the jobs whose names hold this text
@@ -15,7 +15,7 @@ usage: scripts/campaign.sh faults|files|week [OPTION...]
   --jobs N        how many at a time (two a core)
   --scenarios N   random combinations beside the systematic ones (200; faults)
   --seed S        the same seed gives the same combinations or the same week (1)
-  --days N        length of the run (7; week)
+  --days N        length of the run (7; watch, week)
   --keep          keeps records and logs beside the program (week)
   --built FOLDER  takes the programs in this build folder, and builds nothing
 TEXT
@@ -25,6 +25,7 @@ campaign=${1-}
 case $campaign in
 faults) program=mz_faultcampaign ;;
 files) program=mz_filecampaign ;;
+watch) program=mz_watchrun ;;
 week) program=mz_longrun ;;
 -h | --help)
     usage
@@ -67,7 +68,7 @@ export QT_QPA_PLATFORM=offscreen slice program
 case $campaign in
 faults) names=$("$program" list ${slice:-"$scenarios" "$seed"}) ;;
 files) names=$("$program" list) ;;
-week) names="week" ;;
+watch | week) names=$campaign ;;
 esac
 names=$(grep -F -- "$only" <<<"$names") || { echo "There is no such job." >&2 && exit 2; }
 if [[ -n $list ]]; then
@@ -121,7 +122,7 @@ report() {
         }'
 }
 
-if [[ $campaign == week ]]; then
+if [[ $campaign == w* ]]; then
     code=0
     "$program" ${slice:-"$days" "$seed"} $keep >"$folder/out" || code=$?
     report <"$folder/out" || code=1
