@@ -77,6 +77,7 @@ MainWindow::MainWindow(QWidget *parent)
 {
     resize(smallestWindow());
     setMinimumSize(smallestWindow());
+    m_ui->centralWidget->installEventFilter(this);
     connectLink();
     connectSession();
     connect(m_settings, &SettingBoxes::wantedAgain, this, &MainWindow::send);
@@ -339,6 +340,8 @@ void MainWindow::on_actionCommunication_by_LAN_triggered(bool checked)
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_ui->centralWidget && event->type() == QEvent::Resize) // a panel came or went
+        QTimer::singleShot(0, this, [this] { m_panel.fit(); });
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Escape && m_settings->putBack(watched))

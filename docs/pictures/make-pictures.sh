@@ -11,6 +11,7 @@ readonly programs pictures=$PWD/docs/pictures
 readonly instrument=127.0.0.77
 # Long enough for a chart that shows something.
 readonly measuring_seconds=100
+readonly watching_seconds=40
 
 # The console shows its folder: one with a name that looks well.
 readonly work=/tmp/mz6218
@@ -108,6 +109,51 @@ console() {
     kill "$simulator"
 }
 
+# A record of two hours at ten seconds, with a quarter of an hour in which no reading came.
+record_rows() {
+    echo "time,start,n_valid,n_invalid,mean_dbm,min_dbm,max_dbm,sigma_db,last_dbm,frequency_hz,offset_db,relative,averaging,valid,reason"
+    awk 'function clock(s) { return sprintf("2026-11-21T%02d:%02d:%02d.000+01:00", 8 + s / 3600, s / 60 % 60, s % 60) }
+        BEGIN {
+            srand(7)
+            for (s = 0; s < 7200; s += 10) {
+                printf "%s,%s,", clock(s + 10), clock(s)
+                if (s >= 4000 && s < 4900) { print "0,20,,,,,,2450000000,0,0,16,0,timeout"; continue }
+                level = -20 + 2 * sin(s / 900) + 0.3 * rand()
+                printf "20,0,%.4f,%.2f,%.2f,0.0400,%.2f,2450000000,0,0,16,1,ok\n", level, level - 0.1, level + 0.1, level
+            }
+        }'
+}
+
+# watch LANGUAGE SUFFIX: the console with its panels for long watches, and a record opened again.
+watch() {
+    local folder=$work/watch-$1
+    mkdir -p "$folder/DataRecord"
+    cp "$programs/mz6218" "$folder/"
+    printf 'language:%s\nIP:\nPath:%s\nInterval:1\nPeriod:2\n' "$1" "$folder/DataRecord" >"$folder/config.ini"
+    echo '{"limits": {"high": -19.5, "low": -21, "watchHigh": true, "watchLow": true}}' >"$folder/console.json"
+    record_rows >"$folder/bench-2026-11-21.csv"
+    "$programs/mz6218-sim" --listen "$instrument" --level -20 --noise 0.4 --seed 7 >"$work/simulator" &
+    local simulator=$!
+    children+=("$simulator")
+    until grep -qs '^Listening' "$work/simulator"; do sleep 0.1; done
+    start_screen 1366x768
+    start "$folder" ./mz6218 --lan "$instrument"
+    xdotool windowmove "$(top_window)" 0 0 windowsize "$(top_window)" 1366 768
+    press alt+v Down Return
+    press alt+v Down Down Return
+    press alt+v Down Down Down Return
+    sleep "$watching_seconds"
+    take "watch$2"
+    press ctrl+shift+o
+    xdotool type "$folder/bench-2026-11-21.csv"
+    press Return
+    sleep 2
+    press a ctrl+shift+Left b ctrl+shift+Right ctrl+shift+Right
+    take_window "record$2"
+    stop
+    kill "$simulator"
+}
+
 # select_curve ROW: in the list of curves.
 select_curve() {
     xdotool mousemove 100 $((160 + 30 * $1)) click 1
@@ -177,6 +223,7 @@ for language in en cn; do
     suffix=
     [[ $language == en ]] || suffix=-$language
     console "$language" "$suffix"
+    watch "$language" "$suffix"
     patterns "$language" "$suffix"
     markers "$language" "$suffix"
 done

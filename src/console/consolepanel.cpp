@@ -132,7 +132,8 @@ void ConsolePanel::fit()
         width += area->verticalScrollBar()->sizeHint().width() + scrollBarGap;
     area->setFixedWidth(width);
     constexpr int margins = 120; // around and between the labels
-    m_power.fit(m_window->size() - QSize(width + margins, 0));
+    const int room = std::min(m_window->width(), m_ui->centralWidget->width());
+    m_power.fit({room - width - margins, m_window->height()});
 }
 
 int ConsolePanel::recordInterval() const

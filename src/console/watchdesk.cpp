@@ -194,9 +194,9 @@ void WatchDesk::connectReconnector()
 
 void WatchDesk::retranslate()
 {
-    m_viewMenu->setTitle(tr("View"));
-    m_openRecord->setText(tr("Open Record…"));
-    m_reconnect->setText(tr("Reconnect by itself"));
+    m_viewMenu->setTitle(tr("&View"));
+    m_openRecord->setText(tr("Open &Record…"));
+    m_reconnect->setText(tr("&Reconnect by itself"));
     m_statisticsDock->setWindowTitle(tr("Statistics"));
     m_limitsDock->setWindowTitle(tr("Limits"));
     m_trafficDock->setWindowTitle(tr("Traffic"));

@@ -202,13 +202,11 @@ void RecordChart::zoomOut()
     zoomTime(0.5 * (m_shown.xMin + m_shown.xMax), zoomStep);
 }
 
-void RecordChart::pan(double times, double levels)
+void RecordChart::pan(double widths, double heights)
 {
-    const double time = times * (m_shown.xMax - m_shown.xMin);
-    const double level = levels * (m_shown.yMax - m_shown.yMin);
-    if (level < 0.0 || level > 0.0)
+    if (heights < 0.0 || heights > 0.0)
         setFitsLevel(false);
-    show(m_shown.movedBy(time, level));
+    show(m_shown.movedBy(widths, heights));
 }
 
 void RecordChart::wheelEvent(QWheelEvent *event)
@@ -249,17 +247,15 @@ void RecordChart::placeCursor(Cursor cursor, double time)
         setCursorPoint(cursor, m_data->nearest(time));
 }
 
-/// Moves the cursor chosen last, and the view with it.
+/// Moves the cursor chosen last, and the view with it where it leaves it.
 void RecordChart::stepCursor(int points)
 {
     if (!hasData() || m_cursors[m_active] == noPoint)
         return;
     setCursorPoint(m_active, m_cursors[m_active] + points);
     const double time = m_data->time(m_cursors[m_active]);
-    if (time < m_shown.xMin)
-        show(m_shown.movedBy(time - m_shown.xMin, 0.0));
-    else if (time > m_shown.xMax)
-        show(m_shown.movedBy(time - m_shown.xMax, 0.0));
+    const double edge = std::clamp(time, m_shown.xMin, m_shown.xMax);
+    show(m_shown.movedBy((time - edge) / (m_shown.xMax - m_shown.xMin), 0.0));
 }
 
 /// The cursor at \a position, -1 for none.
@@ -301,9 +297,8 @@ void RecordChart::mouseMoveEvent(QMouseEvent *event)
         m_drag = Drag::Pan;
         viewport()->setCursor(Qt::ClosedHandCursor);
         const QRectF area = m_stage.plotArea();
-        const ViewRange &from = m_pressedRange;
-        show(from.movedBy(-way.x() / area.width() * (from.xMax - from.xMin),
-                          m_fitsLevel ? 0.0 : way.y() / area.height() * (from.yMax - from.yMin)));
+        show(m_pressedRange.movedBy(-way.x() / area.width(),
+                                    m_fitsLevel ? 0.0 : way.y() / area.height()));
     }
 }
 

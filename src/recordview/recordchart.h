@@ -65,7 +65,7 @@ private:
     void applyAxes();
     void zoomTime(double centre, double factor);
     void zoomLevel(double centre, double factor);
-    void pan(double times, double levels);
+    void pan(double widths, double heights);
     void stepCursor(int points);
     void placeCursor(Cursor cursor, double time);
     int cursorAt(const QPointF &position) const;

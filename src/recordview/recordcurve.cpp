@@ -19,7 +19,6 @@ constexpr double dotWidth = 4.0;
 void RecordCurve::show(const RecordData *data, double from, double to, int width)
 {
     m_data = data;
-    m_width = width;
     m_columns.clear();
     if (data && !data->isEmpty())
         m_columns = data->columns(from, to, width);
@@ -44,8 +43,10 @@ void RecordCurve::draw(QPainter &painter, const ChartMapping &mapping, double or
         return;
     painter.save();
     painter.setClipRect(mapping.plotArea);
-    // With a point or more to every other pixel, lines would only be drawn over each other.
-    if (static_cast<int>(m_columns.size()) > m_width / 2)
+    // With several points to a pixel, lines would only be drawn over each other.
+    constexpr int denseColumn = 2;
+    const int points = m_columns.back().last - m_columns.front().first;
+    if (points > denseColumn * static_cast<int>(m_columns.size()))
         drawBars(painter, mapping, origin);
     else
         drawLines(painter, mapping, origin);

@@ -25,5 +25,4 @@ private:
 
     const RecordData *m_data = nullptr;
     std::vector<RecordData::Column> m_columns;
-    int m_width = 1;
 };

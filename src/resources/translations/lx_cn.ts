@@ -3736,18 +3736,6 @@ Replace it?</source>
         <translation>无连接</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>视图</translation>
-    </message>
-    <message>
-        <source>Open Record…</source>
-        <translation>打开记录…</translation>
-    </message>
-    <message>
-        <source>Reconnect by itself</source>
-        <translation>自动重新连接</translation>
-    </message>
-    <message>
         <source>Statistics</source>
         <translation>统计</translation>
     </message>
@@ -3758,6 +3746,18 @@ Replace it?</source>
     <message>
         <source>Traffic</source>
         <translation>通信</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Record…</source>
+        <translation>打开记录(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect by itself</source>
+        <translation>自动重新连接(&amp;R)</translation>
     </message>
 </context>
 <context>

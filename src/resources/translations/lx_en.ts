@@ -3736,18 +3736,6 @@ Replace it?</translation>
         <translation>no link</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>View</translation>
-    </message>
-    <message>
-        <source>Open Record…</source>
-        <translation>Open Record…</translation>
-    </message>
-    <message>
-        <source>Reconnect by itself</source>
-        <translation>Reconnect by itself</translation>
-    </message>
-    <message>
         <source>Statistics</source>
         <translation>Statistics</translation>
     </message>
@@ -3758,6 +3746,18 @@ Replace it?</translation>
     <message>
         <source>Traffic</source>
         <translation>Traffic</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>Open &amp;Record…</source>
+        <translation>Open &amp;Record…</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect by itself</source>
+        <translation>&amp;Reconnect by itself</translation>
     </message>
 </context>
 <context>
