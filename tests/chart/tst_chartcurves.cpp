@@ -395,7 +395,7 @@ void TestChartCurves::hitsTheCurve()
     const QPointF place = bench.view.toScene(value) + offset;
     const MyPathItem *item = bench.path->pathItem();
     QCOMPARE(item->hits(place), hit);
-    QCOMPARE(item->shape().contains(place) && hit, hit && points.size() > 1);
+    QVERIFY(item->shape().contains(place) || !hit);
     click(bench.view, place);
     QCOMPARE(bench.view.selectedPath() != nullptr, hit);
 }

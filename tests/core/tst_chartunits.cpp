@@ -4,47 +4,8 @@
 #include "testmain.h"
 
 #include <cmath>
-#include <random>
 
 using Points = QVector<QPointF>;
-
-namespace {
-
-Points noisyLine(int count, double width)
-{
-    std::mt19937 random(7);
-    std::uniform_real_distribution<double> level(0.0, 400.0);
-    Points points;
-    for (int i = 0; i < count; ++i)
-        points.append({width * i / count, level(random)});
-    return points;
-}
-
-/// A spiral of several turns around (200, 200): runs to and fro in x.
-Points spiral(int count)
-{
-    Points points;
-    for (int i = 0; i < count; ++i) {
-        const double angle = 0.001 * i;
-        const double radius = 20.0 + 150.0 * i / count + 10.0 * std::sin(i * 1.3);
-        points.append({200.0 + radius * std::cos(angle), 200.0 + radius * std::sin(angle)});
-    }
-    return points;
-}
-
-/// The lowest and the highest level in each of \a count pixel columns.
-QVector<QPair<double, double>> extremes(const Points &points, int count)
-{
-    QVector<QPair<double, double>> columns(count, {1e9, -1e9});
-    for (const QPointF &point : points) {
-        auto &[low, high] = columns[int(point.x())];
-        low = std::min(low, point.y());
-        high = std::max(high, point.y());
-    }
-    return columns;
-}
-
-} // namespace
 
 class TestChartUnits : public QObject
 {
@@ -52,9 +13,6 @@ class TestChartUnits : public QObject
 
 private slots:
     void interpolates();
-    void keepsExtremesOfEveryColumn();
-    void thinsWithoutMovingPoints();
-    void fillsOnlyColumnsThatTouch();
     void cutsSegments();
     void piecesJoin();
     void enablesMenuEntries();
@@ -72,62 +30,6 @@ void TestChartUnits::interpolates()
     // Of a vertical segment the second point counts, of two segments the first.
     QCOMPARE(interpolateAt({{5, 1}, {5, 9}}, 5), Found(9.0));
     QCOMPARE(interpolateAt({{0, 0}, {10, 10}, {0, 50}}, 4), Found(4.0));
-}
-
-void TestChartUnits::keepsExtremesOfEveryColumn()
-{
-    const Points points = noisyLine(50000, 300);
-    const ThinnedLine line = thinnedLine(points, {false, QRectF(0, 0, 300, 400), 1.0});
-    QVERIFY(line.points.size() <= 4 * 301);
-    QCOMPARE(line.points.first(), points.first());
-    QCOMPARE(line.points.last(), points.last());
-    QCOMPARE(extremes(line.points, 300), extremes(points, 300));
-}
-
-void TestChartUnits::thinsWithoutMovingPoints()
-{
-    const Points few{{0, 1}, {50, 7}, {399, 2}};
-    const Points beside{{-50, 1}, {-40, 9}, {-30, -4}, {-20, 3}, {-10, 2}, {10, 5}};
-    const QRectF area(0, 0, 400, 400);
-    const auto thins = [&area](const Points &points, bool polar, double pixelsPerUnit) {
-        const ThinnedLine line = thinnedLine(points, {polar, area, pixelsPerUnit});
-        // What is kept are points of the curve, in the curve's order.
-        int from = -1;
-        for (const QPointF &kept : line.points) {
-            from = points.indexOf(kept, from + 1);
-            if (from < 0)
-                qFatal("a point was moved");
-        }
-        return line.points.size() < points.size();
-    };
-    QVERIFY(!thins(few, false, 1));
-    QVERIFY(!thins(few, true, 1));
-    QVERIFY(!thins({{5, 5}}, false, 1));
-    QVERIFY(thins(noisyLine(20000, 400), false, 2));
-    QVERIFY(thins(spiral(60000), true, 1));
-    QVERIFY(thins(beside, false, 1));
-    thins({{200, 200}, {200, 200}, {210, 200}}, true, 1); // the very centre of a polar chart
-}
-
-void TestChartUnits::fillsOnlyColumnsThatTouch()
-{
-    const QRectF area(0, 0, 400, 400);
-    const ThinnedLine noise = thinnedLine(noisyLine(40000, 400), {false, area, 1.0});
-    const QVector<ColumnStretch> all = solidStretches(noise, 1.0);
-    QCOMPARE(all.size(), 1);
-    QVERIFY(all.first().to - all.first().from >= 398);
-
-    Points smooth;
-    for (int i = 0; i < 40000; ++i)
-        smooth.append({i * 0.01, 200 + 150 * std::sin(i * 0.001)});
-    QVERIFY(solidStretches(thinnedLine(smooth, {false, area, 1.0}), 1.0).isEmpty());
-
-    // Two noisy parts on opposite sides: what lies between them belongs to neither.
-    Points apart = noisyLine(4000, 40);
-    for (const QPointF &point : noisyLine(4000, 40))
-        apart.append(point + QPointF(300, 0));
-    const QVector<ColumnStretch> two = solidStretches(thinnedLine(apart, {false, area, 1.0}), 1.0);
-    QCOMPARE(two.size(), 2);
 }
 
 void TestChartUnits::cutsSegments()

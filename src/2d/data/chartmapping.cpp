@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -74,10 +73,9 @@ private:
 };
 
 template<typename Rule>
-QVector<QPointF> mapped(const QVector<QPointF> &values, const Rule &rule,
-                        QVector<QPointF> positions)
+QVector<QPointF> mapped(const QVector<QPointF> &values, const Rule &rule)
 {
-    positions.resize(values.size());
+    QVector<QPointF> positions(values.size());
     std::transform(values.cbegin(), values.cend(), positions.begin(), rule);
     return positions;
 }
@@ -103,11 +101,28 @@ QPointF ChartMapping::polarValue(const QPointF &position) const
     return {angleOfDirection(orientation, direction), axes.yMin + part * (axes.yMax - axes.yMin)};
 }
 
-QVector<QPointF> ChartMapping::toScene(const QVector<QPointF> &values,
-                                       QVector<QPointF> recycled) const
+double ChartMapping::turns(double angle) const
 {
-    return kind == Kind::Polar ? mapped(values, PolarRule(*this), std::move(recycled))
-                               : mapped(values, CartesianRule(*this), std::move(recycled));
+    return orientation == PolarOrientation::DownClockwise
+               ? (angle - axes.xMin) / (axes.xMax - axes.xMin)
+               : screenDirection(orientation, angle) / fullCircle;
+}
+
+double ChartMapping::distance(double level) const
+{
+    return 0.5 * plotArea.height() * std::max(0.0, (level - axes.yMin) / (axes.yMax - axes.yMin));
+}
+
+QPointF ChartMapping::fromCentre(double turns, double distance) const
+{
+    const double radians = 2.0 * M_PI * turns;
+    return plotArea.center() + QPointF(std::sin(radians) * distance, -std::cos(radians) * distance);
+}
+
+QVector<QPointF> ChartMapping::toScene(const QVector<QPointF> &values) const
+{
+    return kind == Kind::Polar ? mapped(values, PolarRule(*this))
+                               : mapped(values, CartesianRule(*this));
 }
 
 bool operator==(const ChartMapping &a, const ChartMapping &b)

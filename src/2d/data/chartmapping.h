@@ -27,9 +27,12 @@ struct ChartMapping
     QPointF toScene(const QPointF &value) const;
     /// The value at a scene position of a polar chart, its angle in -180 to 180 degrees.
     QPointF polarValue(const QPointF &position) const;
-    /// Maps all \a values; the result uses the memory of \a recycled.
-    QVector<QPointF> toScene(const QVector<QPointF> &values,
-                             QVector<QPointF> recycled = QVector<QPointF>()) const;
+    /// The same in two steps on a polar chart: the turns of an angle from the top, clockwise, and
+    /// the distance of a level from the centre.
+    double turns(double angle) const;
+    double distance(double level) const;
+    QPointF fromCentre(double turns, double distance) const;
+    QVector<QPointF> toScene(const QVector<QPointF> &values) const;
 };
 
 bool operator==(const ChartMapping &a, const ChartMapping &b);

@@ -1,201 +1,361 @@
 #include "2d/data/polylinedecimation.h"
 
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
 
-/// A column of pixels, one pixel wide; everything beside the area is one column.
-class VerticalColumn
-{
-public:
-    explicit VerticalColumn(const PixelGrid &grid)
-        : m_left(grid.area.left())
-        , m_right(grid.area.right())
-        , m_width(1.0 / grid.pixelsPerUnit)
-    {}
-
-    void start(const QPointF &point)
-    {
-        constexpr double infinity = std::numeric_limits<double>::infinity();
-        if (point.x() < m_left) {
-            m_from = -infinity;
-            m_to = m_left;
-        } else if (point.x() > m_right) {
-            m_from = m_right;
-            m_to = infinity;
-        } else {
-            m_from = m_left + std::floor((point.x() - m_left) / m_width) * m_width;
-            m_to = m_from + m_width;
-        }
-    }
-    bool holds(const QPointF &point) const { return point.x() >= m_from && point.x() < m_to; }
-    double height(const QPointF &point) const { return -point.y(); }
-
-private:
-    double m_left;
-    double m_right;
-    double m_width;
-    double m_from = 0.0;
-    double m_to = 0.0;
-};
-
-/// A ray from the centre, one pixel wide.
-class Ray
-{
-public:
-    explicit Ray(const PixelGrid &grid)
-        : m_centre(grid.area.center())
-        , m_halfWidth(0.5 / grid.pixelsPerUnit)
-    {}
-
-    void start(const QPointF &point)
-    {
-        const QPointF offset = point - m_centre;
-        const double distance = std::hypot(offset.x(), offset.y());
-        // Around the centre there is no direction: there a run ends with the first point outside.
-        m_direction = distance > m_halfWidth ? offset / distance : QPointF();
-    }
-    bool holds(const QPointF &point) const
-    {
-        const QPointF offset = point - m_centre;
-        if (m_direction.isNull())
-            return QPointF::dotProduct(offset, offset) <= m_halfWidth * m_halfWidth;
-        const double across = m_direction.x() * offset.y() - m_direction.y() * offset.x();
-        return std::abs(across) <= m_halfWidth && height(point) >= 0.0;
-    }
-    double height(const QPointF &point) const
-    {
-        return QPointF::dotProduct(m_direction, point - m_centre);
-    }
-
-private:
-    QPointF m_centre;
-    double m_halfWidth;
-    QPointF m_direction;
-};
-
-template<typename Grid>
-ThinnedLine thinned(const QVector<QPointF> &points, Grid column)
-{
-    ThinnedLine line;
-    const QPointF *data = points.constData();
-    int i = 0;
-    while (i < points.size()) {
-        column.start(data[i]);
-        int low = i;
-        int high = i;
-        double lowest = column.height(data[i]);
-        double highest = lowest;
-        int next = i + 1;
-        for (; next < points.size() && column.holds(data[next]); ++next) {
-            const double height = column.height(data[next]);
-            if (height < lowest) {
-                lowest = height;
-                low = next;
-            } else if (height > highest) {
-                highest = height;
-                high = next;
-            }
-        }
-        int previous = -1;
-        const auto keep = [&](int index) {
-            if (index != previous)
-                line.points.append(data[index]);
-            previous = index;
-            return line.points.size() - 1;
-        };
-        ThinnedLine::Column kept;
-        kept.first = keep(i);
-        (low < high ? kept.low : kept.high) = keep(std::min(low, high));
-        (low < high ? kept.high : kept.low) = keep(std::max(low, high));
-        kept.last = keep(next - 1);
-        line.columns.append(kept);
-        i = next;
-    }
-    return line;
-}
-
-QPointF heightOf(const ThinnedLine &line, int column)
-{
-    return line.points[line.columns[column].high] - line.points[line.columns[column].low];
-}
-
-bool isSolid(const ThinnedLine &line, int column, double pixelsPerUnit)
-{
-    constexpr double leastPixels = 3.0;
-    const ThinnedLine::Column &run = line.columns[column];
-    const QPointF height = heightOf(line, column);
-    return run.last - run.first > 1 &&
-           std::hypot(height.x(), height.y()) * pixelsPerUnit >= leastPixels;
-}
-
-/// Whether the solid \a column and the next one touch: a line that runs to and fro can leap.
-bool areNeighbours(const ThinnedLine &line, int column, double pixelsPerUnit)
-{
-    constexpr double mostPixels = 2.0;
-    const QPointF height = heightOf(line, column);
-    const QPointF leap =
-        line.points[line.columns[column + 1].first] - line.points[line.columns[column].last];
-    const double across = std::abs(height.x() * leap.y() - height.y() * leap.x()) /
-                          std::hypot(height.x(), height.y());
-    return across * pixelsPerUnit <= mostPixels;
-}
+constexpr double columnsPerPixel = 4.0;
+constexpr double sectorsPerRimPixel = 2.0;
+/// Runs of less height are drawn through their points: a bar would make a flat line too thin.
+constexpr double leastBarPixels = 1.5;
+constexpr int fewestBarPoints = 3;
+/// How far beside the plot area a curve is followed, in pixels: more than the widest pen reaches.
+constexpr double marginPixels = 12.0;
 
 bool isFinite(const QPointF &point)
 {
     return std::isfinite(point.x()) && std::isfinite(point.y());
 }
 
+/// Columns of a quarter of a pixel on a chart with straight axes. A point is seen as the number of
+/// its column, with a fraction, and its height.
+class ColumnGrid
+{
+public:
+    ColumnGrid(const QRectF &area, double pixelsPerUnit)
+        : m_area(area.adjusted(-marginPixels / pixelsPerUnit, -marginPixels / pixelsPerUnit,
+                               marginPixels / pixelsPerUnit, marginPixels / pixelsPerUnit))
+        , m_perUnit(columnsPerPixel * pixelsPerUnit)
+        , m_leastBar(leastBarPixels / pixelsPerUnit)
+    {}
+
+    QRectF window() const { return m_area; }
+    double leastBar() const { return m_leastBar; }
+    double leastColumn() const { return 0.0; }
+    double columnCount() const { return m_area.width() * m_perUnit; }
+    double across(const QPointF &position) const
+    {
+        return (position.x() - m_area.left()) * m_perUnit;
+    }
+    double height(const QPointF &position) const { return position.y(); }
+    QPointF at(double across, double height) const
+    {
+        return {m_area.left() + across / m_perUnit, height};
+    }
+
+private:
+    QRectF m_area;
+    double m_perUnit;
+    double m_leastBar;
+};
+
+/// Scene positions on columns.
+class PositionGrid : public ColumnGrid
+{
+public:
+    using ColumnGrid::ColumnGrid;
+    QPointF position(const QPointF &point) const { return point; }
+};
+
+/// Chart values on columns.
+class CartesianGrid : public ColumnGrid
+{
+public:
+    CartesianGrid(const ChartMapping &mapping, double pixelsPerUnit)
+        : ColumnGrid(mapping.plotArea, pixelsPerUnit)
+        , m_origin(mapping.plotArea.left(), mapping.plotArea.bottom())
+        , m_least(mapping.axes.xMin, mapping.axes.yMin)
+        , m_xScale(mapping.plotArea.width() / (mapping.axes.xMax - mapping.axes.xMin))
+        , m_yScale(mapping.plotArea.height() / (mapping.axes.yMax - mapping.axes.yMin))
+    {}
+
+    QPointF position(const QPointF &value) const
+    {
+        return {m_origin.x() + (value.x() - m_least.x()) * m_xScale,
+                m_origin.y() - (value.y() - m_least.y()) * m_yScale};
+    }
+    double across(const QPointF &value) const { return ColumnGrid::across(position(value)); }
+    double height(const QPointF &value) const { return position(value).y(); }
+
+private:
+    QPointF m_origin;
+    QPointF m_least;
+    double m_xScale;
+    double m_yScale;
+};
+
+/// Chart values on sectors of half a pixel at the rim of a polar chart; heights go outwards.
+class SectorGrid
+{
+public:
+    SectorGrid(const ChartMapping &mapping, double pixelsPerUnit)
+        : m_mapping(mapping)
+        , m_window(
+              mapping.plotArea.adjusted(-marginPixels, -marginPixels, marginPixels, marginPixels))
+        , m_leastBar(leastBarPixels / pixelsPerUnit)
+    {
+        const double rim = M_PI * mapping.plotArea.height() * pixelsPerUnit;
+        m_sectorsPerTurn = std::max(1.0, std::floor(rim * sectorsPerRimPixel));
+    }
+
+    QRectF window() const { return m_window; }
+    double leastBar() const { return m_leastBar; }
+    /// There is no side on which a point of a polar chart could leave it.
+    double leastColumn() const { return -std::numeric_limits<double>::infinity(); }
+    double columnCount() const { return std::numeric_limits<double>::infinity(); }
+    double across(const QPointF &value) const
+    {
+        return m_mapping.turns(value.x()) * m_sectorsPerTurn;
+    }
+    double height(const QPointF &value) const { return m_mapping.distance(value.y()); }
+    QPointF position(const QPointF &value) const { return m_mapping.toScene(value); }
+    QPointF at(double across, double height) const
+    {
+        return m_mapping.fromCentre(across / m_sectorsPerTurn, height);
+    }
+
+private:
+    ChartMapping m_mapping;
+    QRectF m_window;
+    double m_leastBar;
+    double m_sectorsPerTurn = 1.0;
+};
+
+/// Neighbouring points in one column: indices, and the heights between which they lie.
+struct Run
+{
+    double column = 0.0;
+    int first = 0;
+    int low = 0;
+    int high = 0;
+    int last = 0;
+    double lowest = 0.0;
+    double highest = 0.0;
+    bool isBar = false;
+};
+
+template<typename Grid>
+class Reduction
+{
+public:
+    Reduction(const QVector<QPointF> &points, const Grid &grid, const ValuePyramid *pyramid)
+        : m_points(points.constData())
+        , m_count(points.size())
+        , m_grid(grid)
+        , m_pyramid(pyramid)
+        , m_levels(levelsOf(points))
+        , m_window(grid.window())
+        , m_least(grid.leastColumn())
+        , m_columns(grid.columnCount())
+    {}
+
+    QVector<QLineF> segments()
+    {
+        if (m_count == 1)
+            return {QLineF(position(0), position(0))};
+        const int begin = m_pyramid ? firstInView() : 0;
+        bool any = false;
+        Run before;
+        for (int i = begin; i < m_count;) {
+            Run run = m_pyramid ? sortedRunFrom(i) : runFrom(i);
+            if (any)
+                join(before, run);
+            if (m_pyramid && any && hasLeft(run.column)) // the rest lies beside the view
+                return m_segments;
+            i = run.last + 1;
+            before = run;
+            any = true;
+        }
+        if (any)
+            add(before);
+        return m_segments;
+    }
+
+private:
+    QPointF position(int index) const { return m_grid.position(m_points[index]); }
+
+    double columnOf(int index) const
+    {
+        return std::floor(std::clamp(m_grid.across(m_points[index]), m_least - 1.0, m_columns));
+    }
+
+    bool isInside(double column) const { return column >= m_least && column < m_columns; }
+
+    bool ascends() const { return m_points[0].x() <= m_points[m_count - 1].x(); }
+    bool hasLeft(double column) const { return ascends() ? column >= m_columns : column < m_least; }
+
+    /// The last point before the view of a curve that does not turn back, or the first in it.
+    int firstInView() const
+    {
+        if (!std::isfinite(m_columns))
+            return 0;
+        int begin = 0;
+        int end = m_count;
+        while (begin < end) {
+            const int middle = begin + (end - begin) / 2;
+            const double column = columnOf(middle);
+            if (ascends() ? column < m_least : column >= m_columns)
+                begin = middle + 1;
+            else
+                end = middle;
+        }
+        return std::max(0, begin - 1);
+    }
+
+    Run runFrom(int index) const
+    {
+        Run run{columnOf(index), index, index, index, index, 0.0, 0.0, false};
+        run.lowest = m_grid.height(m_points[index]);
+        run.highest = run.lowest;
+        while (run.last + 1 < m_count && columnOf(run.last + 1) == run.column) {
+            const double height = m_grid.height(m_points[++run.last]);
+            if (height < run.lowest) {
+                run.lowest = height;
+                run.low = run.last;
+            } else if (height > run.highest) {
+                run.highest = height;
+                run.high = run.last;
+            }
+        }
+        classify(run);
+        return run;
+    }
+
+    Run sortedRunFrom(int index) const
+    {
+        Run run{columnOf(index), index, index, index, index, 0.0, 0.0, false};
+        int stride = 1;
+        while (run.last + stride < m_count && columnOf(run.last + stride) == run.column) {
+            run.last += stride;
+            stride *= 2;
+        }
+        for (; stride > 0; stride /= 2) {
+            if (run.last + stride < m_count && columnOf(run.last + stride) == run.column)
+                run.last += stride;
+        }
+        if (run.last > index && isInside(run.column)) {
+            const ValuePyramid::Run extremes = m_pyramid->run(m_levels, index, run.last);
+            run.low = extremes.low;
+            run.high = extremes.high;
+        }
+        run.lowest = m_grid.height(m_points[run.low]);
+        run.highest = m_grid.height(m_points[run.high]);
+        if (run.lowest > run.highest) { // on the screen heights grow downwards
+            std::swap(run.low, run.high);
+            std::swap(run.lowest, run.highest);
+        }
+        classify(run);
+        return run;
+    }
+
+    void classify(Run &run) const
+    {
+        run.isBar = run.last - run.first + 1 >= fewestBarPoints && isInside(run.column) &&
+                    run.highest - run.lowest >= m_grid.leastBar();
+    }
+
+    /// Draws all of \a before and the way to the next run. Between two bars that touch, the way
+    /// lies within them once they reach to where it crosses from one to the other.
+    void join(Run &before, Run &after)
+    {
+        const double leap = after.column - before.column;
+        const bool touching = before.isBar && after.isBar && std::abs(leap) == 1.0;
+        if (touching)
+            extendToCrossing(before, after);
+        add(before);
+        if (!touching)
+            add(position(before.last), position(after.first));
+    }
+
+    void extendToCrossing(Run &before, Run &after) const
+    {
+        const double border = std::max(before.column, after.column);
+        const double from = m_grid.across(m_points[before.last]);
+        const double to = m_grid.across(m_points[after.first]);
+        const double start = m_grid.height(m_points[before.last]);
+        const double end = m_grid.height(m_points[after.first]);
+        const double part = to != from ? (border - from) / (to - from) : 0.0;
+        const double crossing = start + (end - start) * std::clamp(part, 0.0, 1.0);
+        for (Run *run : {&before, &after}) {
+            run->lowest = std::min(run->lowest, crossing);
+            run->highest = std::max(run->highest, crossing);
+        }
+    }
+
+    void add(const Run &run)
+    {
+        if (!isInside(run.column) || run.first == run.last)
+            return;
+        if (run.isBar) {
+            const double middle = run.column + 0.5;
+            add(m_grid.at(middle, run.lowest), m_grid.at(middle, run.highest));
+            return;
+        }
+        int from = run.first;
+        for (const int to : {std::min(run.low, run.high), std::max(run.low, run.high), run.last}) {
+            if (to != from)
+                add(position(from), position(to));
+            from = to;
+        }
+    }
+
+    void add(const QPointF &from, const QPointF &to)
+    {
+        if (!segmentMisses(from, to, m_window))
+            m_segments.append(QLineF(from, to));
+    }
+
+    const QPointF *m_points;
+    int m_count;
+    const Grid &m_grid;
+    const ValuePyramid *m_pyramid;
+    ValueList m_levels;
+    QRectF m_window;
+    double m_least;
+    double m_columns;
+    QVector<QLineF> m_segments;
+};
+
+template<typename Grid>
+QVector<QLineF> reduced(const QVector<QPointF> &points, const Grid &grid,
+                        const ValuePyramid *pyramid)
+{
+    if (points.isEmpty())
+        return {};
+    return Reduction<Grid>(points, grid, pyramid).segments();
+}
+
 } // namespace
 
-ThinnedLine thinnedLine(const QVector<QPointF> &points, const PixelGrid &grid)
+QVector<QLineF> visibleSegments(const QVector<QPointF> &values, const ChartMapping &mapping,
+                                double pixelsPerUnit, const ValuePyramid *pyramid)
 {
-    return grid.polar ? thinned(points, Ray(grid)) : thinned(points, VerticalColumn(grid));
+    if (mapping.kind == ChartMapping::Kind::Polar)
+        return reduced(values, SectorGrid(mapping, pixelsPerUnit), pyramid);
+    return reduced(values, CartesianGrid(mapping, pixelsPerUnit), pyramid);
 }
 
-bool pointsStandApart(const ThinnedLine &line)
+QVector<QLineF> visibleSegments(const QVector<QPointF> &positions, const QRectF &area,
+                                double pixelsPerUnit)
 {
-    const auto &columns = line.columns;
-    if (columns.size() <= 2)
-        return line.points.size() == columns.size();
-    return std::all_of(
-        columns.cbegin() + 1, columns.cend() - 1,
-        [](const ThinnedLine::Column &column) { return column.first == column.last; });
+    return reduced(positions, PositionGrid(area, pixelsPerUnit), nullptr);
 }
 
-QVector<ColumnStretch> solidStretches(const ThinnedLine &line, double pixelsPerUnit)
+ValueList levelsOf(const QVector<QPointF> &values)
 {
-    constexpr int worthwhile = 4;
-    QVector<ColumnStretch> stretches;
-    int from = 0; // where a stretch begins that reaches as far as the column before i
-    int count = 0;
-    for (int i = 0; i <= line.columns.size(); ++i) {
-        const bool solid = i < line.columns.size() && isSolid(line, i, pixelsPerUnit);
-        if (solid && count > 0 && areNeighbours(line, i - 1, pixelsPerUnit)) {
-            ++count;
-            continue;
-        }
-        if (count >= worthwhile)
-            stretches.append({from, i - 1});
-        from = i;
-        count = solid ? 1 : 0;
-    }
-    return stretches;
+    static_assert(sizeof(QPointF) == 2 * sizeof(double));
+    return {reinterpret_cast<const double *>(values.constData()) + 1, values.size(), 2};
 }
 
-QLineF columnBar(const ThinnedLine &line, int column, double reach, const QRectF &window)
+bool isMonotone(const QVector<QPointF> &values)
 {
-    QPointF low = line.points[line.columns[column].low];
-    QPointF high = line.points[line.columns[column].high];
-    const QPointF height = high - low;
-    const QPointF beyond = height * (reach / std::hypot(height.x(), height.y()));
-    low -= beyond;
-    high += beyond;
-    if (clipSegment(low, high, window))
-        return {low, high};
-    const QPointF rim(std::clamp(low.x(), window.left(), window.right()),
-                      std::clamp(low.y(), window.top(), window.bottom()));
-    return {rim, rim};
+    const auto before = [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); };
+    return std::is_sorted(values.cbegin(), values.cend(), before) ||
+           std::is_sorted(values.crbegin(), values.crend(), before);
 }
 
 bool clipSegment(QPointF &from, QPointF &to, const QRectF &window)

@@ -311,27 +311,26 @@ QPointF ChartStage::toScene(const QPointF &value) const
     return m_chart ? m_chart->mapToPosition(value) : QPointF();
 }
 
-QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values,
-                                     QVector<QPointF> recycled) const
+QVector<QPointF> ChartStage::toScene(const QVector<QPointF> &values) const
 {
-    if (!m_chart || values.isEmpty())
-        return {};
-    const ChartMapping closedForm = mapping();
-    // One point tells whether the chart computes as the closed form does.
-    const auto same = [](const QPointF &a, const QPointF &b) {
-        return std::equal_to<double>()(a.x(), b.x()) && std::equal_to<double>()(a.y(), b.y());
-    };
-    const QPointF probe = values[values.size() / 2];
-    if (m_polarView)
-        return closedForm.toScene(values, std::move(recycled));
-    if (closedForm.isUsable() && same(closedForm.toScene(probe), m_chart->mapToPosition(probe)))
-        return closedForm.toScene(values, std::move(recycled));
-
     QVector<QPointF> positions;
     positions.reserve(values.size());
     for (const QPointF &value : values)
-        positions.append(m_chart->mapToPosition(value));
+        positions.append(toScene(value));
     return positions;
+}
+
+bool ChartStage::mapsInClosedForm(const QVector<QPointF> &values) const
+{
+    const ChartMapping closedForm = mapping();
+    if (!m_chart || values.isEmpty() || !closedForm.isUsable())
+        return false;
+    const auto same = [](const QPointF &a, const QPointF &b) {
+        return std::equal_to<double>()(a.x(), b.x()) && std::equal_to<double>()(a.y(), b.y());
+    };
+    // One point tells whether the chart computes as the closed form does.
+    const QPointF probe = values[values.size() / 2];
+    return same(closedForm.toScene(probe), toScene(probe));
 }
 
 QPointF ChartStage::toValue(const QPointF &position) const

@@ -86,8 +86,9 @@ public:
 
     ChartMapping mapping() const;
     QPointF toScene(const QPointF &value) const;
-    QVector<QPointF> toScene(const QVector<QPointF> &values,
-                             QVector<QPointF> recycled = QVector<QPointF>()) const;
+    QVector<QPointF> toScene(const QVector<QPointF> &values) const;
+    /// Whether mapping() leads to the very positions that the chart computes.
+    bool mapsInClosedForm(const QVector<QPointF> &values) const;
     QPointF toValue(const QPointF &position) const;
 
 private:

@@ -14,9 +14,7 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -26,9 +24,7 @@ constexpr qreal selectedCurveLevel = 6.0;
 constexpr double extraWidthWhenSelected = 1.0;
 constexpr double bandBesideLine = 4.0;
 constexpr double pressTolerance = 4.0;
-constexpr int pointsWorthCaching = 2000;
-constexpr double thinLine = 3.5;
-constexpr int segmentsOfPiece = 16;
+constexpr double vectorScale = 4.0; // pixels a unit where there are no pixels
 
 double distanceToSegment(const QPointF &point, const QPointF &from, const QPointF &to)
 {
@@ -40,7 +36,7 @@ double distanceToSegment(const QPointF &point, const QPointF &from, const QPoint
     return std::hypot(gap.x(), gap.y());
 }
 
-/// The colour of the band around a selected curve: opaque, since its pieces overlap at their ends.
+/// The colour of the band around a selected curve: opaque, so that the grid does not shine through.
 QColor bandColor(const QColor &color)
 {
     constexpr double strength = 0.32;
@@ -48,30 +44,27 @@ QColor bandColor(const QColor &color)
     return {mixed(color.red()), mixed(color.green()), mixed(color.blue())};
 }
 
-bool insideCircle(const QVector<QPointF> &points, const QRectF &square)
-{
-    const QPointF centre = square.center();
-    const double radius = square.width() * 0.5;
-    return std::all_of(points.cbegin(), points.cend(), [&](const QPointF &point) {
-        const QPointF offset = point - centre;
-        return QPointF::dotProduct(offset, offset) <= radius * radius;
-    });
-}
-
-/// A pen for pieces of a line. Thin lines show no difference between round and plain corners, and
-/// plain ones are drawn in half the time; square ends close the corners between the pieces.
 QPen linePen(const QColor &color, double width)
 {
-    return width < thinLine ? QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
-                            : QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
-void drawApart(QPainter &painter, const QPointF *piece, int count)
+/// A path through \a segments, of which those that join make one line.
+QPainterPath pathThrough(const QVector<QLineF> &segments, const QRectF &window)
 {
-    std::array<QLineF, segmentsOfPiece> lines;
-    for (int i = 0; i + 1 < count; ++i)
-        lines[static_cast<std::size_t>(i)] = QLineF(piece[i], piece[i + 1]);
-    painter.drawLines(lines.data(), count - 1);
+    QPainterPath path;
+    QPointF end;
+    for (const QLineF &segment : segments) {
+        QPointF from = segment.p1();
+        QPointF to = segment.p2();
+        if (!clipSegment(from, to, window)) // a painter cannot take what lies too far away
+            continue;
+        if (path.isEmpty() || from != end)
+            path.moveTo(from);
+        path.lineTo(to);
+        end = to;
+    }
+    return path;
 }
 
 } // namespace
@@ -97,29 +90,48 @@ void MyPathItem::setValuePoints(const QVector<QPointF> &points)
     m_valuePoints = points;
 }
 
-QVector<QPointF> MyPathItem::recycledPositions()
+void MyPathItem::drawValues(const QVector<QPointF> &values, const ChartMapping &mapping)
 {
-    return std::exchange(m_drawnPoints, {});
+    if (!values.isEmpty())
+        setOutline({values, mapping});
 }
 
 void MyPathItem::setDrawnPoints(const QVector<QPointF> &points)
 {
-    if (points.isEmpty())
-        return;
+    if (!points.isEmpty())
+        setOutline({points, std::nullopt});
+}
+
+void MyPathItem::setOutline(const Outline &outline)
+{
     prepareGeometryChange();
-    m_drawnPoints = points;
-    m_lineScale = 0.0;
+    m_outline = outline;
+    if (!m_index.isOf(outline.points))
+        m_index = CurveIndex(outline.points);
     measure();
-    const CacheMode mode = points.size() > pointsWorthCaching ? DeviceCoordinateCache : NoCache;
-    if (mode != cacheMode())
-        setCacheMode(mode);
-    // The former path goes first: setPath() would compare the two, point by point.
-    setPath(QPainterPath());
+    forgetDrawing();
+}
+
+void MyPathItem::forgetDrawing()
+{
+    m_scale = 0.0;
+    m_segments.clear();
+    m_pictures.clear();
+    update();
+}
+
+QVector<QPointF> MyPathItem::positions() const
+{
+    return m_outline.mapping ? m_outline.mapping->toScene(m_outline.points) : m_outline.points;
+}
+
+QPainterPath MyPathItem::path() const
+{
+    const QVector<QPointF> points = positions();
     QPainterPath outline;
     outline.reserve(points.size() + 1);
     outline.addPolygon(QPolygonF(points));
-    setPath(outline);
-    update();
+    return outline;
 }
 
 void MyPathItem::setPlotArea(const QRectF &area)
@@ -128,24 +140,31 @@ void MyPathItem::setPlotArea(const QRectF &area)
         return;
     prepareGeometryChange();
     m_plotArea = area;
-    m_lineScale = 0.0;
     measure();
+    forgetDrawing();
 }
 
+/// Finds out how far the curve reaches, and whether that is beyond the plot area.
 void MyPathItem::measure()
 {
-    if (m_drawnPoints.isEmpty())
-        return;
-    QPointF least = m_drawnPoints.constFirst();
-    QPointF greatest = least;
-    for (const QPointF &point : qAsConst(m_drawnPoints)) {
-        least = {std::min(least.x(), point.x()), std::min(least.y(), point.y())};
-        greatest = {std::max(greatest.x(), point.x()), std::max(greatest.y(), point.y())};
+    const ViewRange bounds = m_index.bounds();
+    const QPointF least(bounds.xMin, bounds.yMin);
+    const QPointF greatest(bounds.xMax, bounds.yMax);
+    if (!m_outline.mapping) {
+        m_extent = QRectF(least, greatest);
+    } else if (m_outline.mapping->kind == ChartMapping::Kind::Polar) {
+        const double radius = m_outline.mapping->distance(greatest.y());
+        const QPointF centre = m_outline.mapping->plotArea.center();
+        m_extent = QRectF(centre - QPointF(radius, radius), centre + QPointF(radius, radius));
+    } else {
+        m_extent = QRectF(m_outline.mapping->toScene({least.x(), greatest.y()}),
+                          m_outline.mapping->toScene({greatest.x(), least.y()}));
     }
-    m_extent = QRectF(least, greatest);
-    m_clipped = m_chartKind == polarKind
-                    ? !insideCircle(m_drawnPoints, m_plotArea)
-                    : !m_plotArea.contains(least) || !m_plotArea.contains(greatest);
+    // A curve that just reaches the edge may differ from it by the last bit.
+    constexpr double nearly = 1e-6;
+    m_clipped = !m_plotArea.adjusted(-nearly, -nearly, nearly, nearly)
+                     .contains(QRectF(m_extent.topLeft(),
+                                      m_extent.bottomRight() + QPointF(nearly, nearly)));
 }
 
 void MyPathItem::setColor(const QColor &color)
@@ -164,6 +183,7 @@ void MyPathItem::setLineWidth(int width)
 void MyPathItem::applyPen()
 {
     setPen(linePen(m_color.isValid() ? m_color : QColor(Qt::black), m_lineWidth));
+    m_pictures.clear();
     update();
 }
 
@@ -173,6 +193,7 @@ void MyPathItem::setCurveSelected(bool selected)
         return;
     prepareGeometryChange();
     m_curveSelected = selected;
+    m_pictures.clear();
     setZValue(selected ? selectedCurveLevel : curveLevel);
     update();
 }
@@ -185,7 +206,7 @@ double MyPathItem::reach() const
 
 QRectF MyPathItem::boundingRect() const
 {
-    if (m_drawnPoints.isEmpty())
+    if (m_outline.points.isEmpty())
         return {};
     const double margin = reach() + 1.0;
     QRectF bounds = m_extent;
@@ -197,14 +218,17 @@ QRectF MyPathItem::boundingRect() const
     return bounds.adjusted(-margin, -margin, margin, margin);
 }
 
-const ThinnedLine &MyPathItem::visibleLine(double pixelsPerUnit) const
+const QVector<QLineF> &MyPathItem::segments(double pixelsPerUnit) const
 {
-    if (!qFuzzyCompare(m_lineScale, pixelsPerUnit)) {
-        m_line = thinnedLine(m_drawnPoints, {m_chartKind == polarKind, m_plotArea, pixelsPerUnit});
-        m_solid = solidStretches(m_line, pixelsPerUnit);
-        m_lineScale = pixelsPerUnit;
+    if (!qFuzzyCompare(m_scale, pixelsPerUnit)) {
+        m_segments = m_outline.mapping
+                         ? visibleSegments(m_outline.points, *m_outline.mapping, pixelsPerUnit,
+                                           m_index.pyramid())
+                         : visibleSegments(m_outline.points, m_plotArea, pixelsPerUnit);
+        m_scale = pixelsPerUnit;
+        m_pictures.clear();
     }
-    return m_line;
+    return m_segments;
 }
 
 bool MyPathItem::hits(const QPointF &position) const
@@ -212,25 +236,23 @@ bool MyPathItem::hits(const QPointF &position) const
     if (m_valuePoints.isEmpty() || !boundingRect().contains(position))
         return false;
     const double tolerance = m_lineWidth * 0.5 + pressTolerance;
-    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0).points;
     const QRectF near(position.x() - tolerance, position.y() - tolerance, 2.0 * tolerance,
                       2.0 * tolerance);
-    for (int i = 0; i < line.size(); ++i) {
-        const QPointF &from = line[i];
-        const QPointF &to = line[i + 1 < line.size() ? i + 1 : i];
-        if (!segmentMisses(from, to, near) && distanceToSegment(position, from, to) <= tolerance)
-            return true;
-    }
-    return false;
+    const QVector<QLineF> &line = segments();
+    return std::any_of(line.cbegin(), line.cend(), [&](const QLineF &segment) {
+        return !segmentMisses(segment.p1(), segment.p2(), near) &&
+               distanceToSegment(position, segment.p1(), segment.p2()) <= tolerance;
+    });
 }
 
 std::optional<QPointF> MyPathItem::highestPoint() const
 {
     std::optional<QPointF> highest;
-    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0).points;
-    for (const QPointF &point : line) {
-        if ((!highest || point.y() < highest->y()) && m_plotArea.contains(point))
-            highest = point;
+    for (const QLineF &segment : segments()) {
+        for (const QPointF &point : {segment.p1(), segment.p2()}) {
+            if ((!highest || point.y() < highest->y()) && m_plotArea.contains(point))
+                highest = point;
+        }
     }
     return highest;
 }
@@ -254,10 +276,9 @@ QPainterPath MyPathItem::shape() const
     QPainterPath outline;
     outline.setFillRule(Qt::WindingFill);
     const double tolerance = m_lineWidth * 0.5 + pressTolerance;
-    const QVector<QPointF> &line = visibleLine(m_lineScale > 0.0 ? m_lineScale : 1.0).points;
-    for (int i = 0; i + 1 < line.size(); ++i) {
-        QPointF from = line[i];
-        QPointF to = line[i + 1];
+    for (const QLineF &segment : segments()) {
+        QPointF from = segment.p1();
+        QPointF to = segment.p2();
         if (segmentMisses(from, to, boundingRect()) || !clipSegment(from, to, boundingRect()))
             continue;
         const QLineF along(from, to);
@@ -279,65 +300,55 @@ void MyPathItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option
     Q_UNUSED(widget)
     if (m_valuePoints.isEmpty())
         return;
-    const bool clipped = m_clipped || m_curveSelected; // the band reaches farther than the line
-    if (clipped && m_chartKind == polarKind) {
-        QPainterPath circle;
-        circle.addEllipse(m_plotArea);
-        painter->setClipPath(circle, Qt::IntersectClip);
-    } else if (clipped) {
-        painter->setClipRect(m_plotArea, Qt::IntersectClip);
-    }
-    const double pixelsPerUnit =
-        painter->combinedTransform().m11() * painter->device()->devicePixelRatioF();
-    visibleLine(pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0);
-    const QColor lineColor = pen().color();
-    double width = m_lineWidth;
-    if (m_curveSelected) {
-        width += extraWidthWhenSelected;
-        painter->setPen(linePen(bandColor(lineColor), width + 2.0 * bandBesideLine));
-        drawLine(*painter);
-    }
-    painter->setPen(linePen(lineColor, width));
-    drawLine(*painter);
+    if (CurvePicture::isPossible(*painter))
+        drawPixels(*painter, strokes());
+    else
+        drawVectors(*painter, strokes());
 }
 
-/// Draws the line in short pieces, since the stroke of a long path has to be tested against all of
-/// itself. Where the line fills the pixels between its lowest and highest points, these are filled.
-void MyPathItem::drawLine(QPainter &painter) const
+/// The line, before it the band around it if the curve is selected.
+QVector<CurvePicture::Style> MyPathItem::strokes() const
 {
-    const QVector<QPointF> &points = m_line.points;
-    if (points.size() == 1) {
-        painter.drawPoint(points.first());
-        return;
+    const bool clipped = m_clipped || m_curveSelected; // the band reaches farther than the line
+    CurvePicture::Style line{pen().color(), double(m_lineWidth),
+                             clipped ? m_plotArea : boundingRect(),
+                             clipped && m_chartKind == polarKind};
+    if (!m_curveSelected)
+        return {line};
+    line.width += extraWidthWhenSelected;
+    CurvePicture::Style band = line;
+    band.color = bandColor(line.color);
+    band.width += 2.0 * bandBesideLine;
+    return {band, line};
+}
+
+void MyPathItem::drawPixels(QPainter &painter, const QVector<CurvePicture::Style> &strokes) const
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const QVector<QLineF> &line = segments(toDevice.m11());
+    if (m_pictures.isEmpty() || !m_pictures.constFirst().fits(toDevice)) {
+        m_pictures.clear();
+        for (const CurvePicture::Style &stroke : strokes)
+            m_pictures.append(CurvePicture(line, stroke, toDevice));
     }
-    const QPen pen = painter.pen();
+    for (const CurvePicture &picture : qAsConst(m_pictures))
+        picture.paint(painter);
+}
+
+void MyPathItem::drawVectors(QPainter &painter, const QVector<CurvePicture::Style> &strokes) const
+{
     const double margin = 4.0 * reach();
-    const QRectF window = m_plotArea.adjusted(-margin, -margin, margin, margin);
-    // Where every point has a column to itself, single lines make the same picture in half the
-    // time; closer together their smoothed ends would add up to a heavier line.
-    const bool apart = pen.widthF() < thinLine && pointsStandApart(m_line);
-    const auto drawRange = [&](int from, int to) {
-        forEachPiece(points.constData() + from, to - from + 1, window,
-                     [&painter, apart](const QPointF *piece, int count) {
-                         if (apart)
-                             drawApart(painter, piece, count);
-                         else
-                             painter.drawPolyline(piece, count);
-                     });
-    };
-    int from = 0;
-    for (const ColumnStretch &stretch : qAsConst(m_solid)) {
-        drawRange(from, m_line.columns[stretch.from].last);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(pen.color());
-        forEachBand(m_line, stretch, pen.widthF() * 0.5, window,
-                    [&painter](const QPointF *band, int count) {
-                        painter.drawPolygon(band, count, Qt::WindingFill);
-                    });
-        painter.setPen(pen);
-        from = m_line.columns[stretch.to].first;
+    const QPainterPath line =
+        pathThrough(segments(vectorScale), m_plotArea.adjusted(-margin, -margin, margin, margin));
+    for (const CurvePicture::Style &stroke : strokes) {
+        QPainterPath room;
+        if (stroke.round)
+            room.addEllipse(stroke.area);
+        else
+            room.addRect(stroke.area);
+        painter.setClipPath(room, Qt::IntersectClip);
+        painter.strokePath(line, linePen(stroke.color, stroke.width));
     }
-    drawRange(from, points.size() - 1);
 }
 
 QList<QPointF> MyPathItem::getSymmetricPoint(QPointF point1, QPointF point2)

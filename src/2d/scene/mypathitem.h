@@ -1,7 +1,8 @@
 #pragma once
 
-#include "2d/data/polylinedecimation.h"
-#include "2d/data/viewrange.h"
+#include "2d/data/chartmapping.h"
+#include "2d/data/curveindex.h"
+#include "2d/scene/curvepicture.h"
 
 #include <QColor>
 #include <QGraphicsPathItem>
@@ -13,9 +14,8 @@
 
 /// The outline of a curve on the chart's scene: drawn, clicked, and dragged out of the chart.
 ///
-/// It draws the curve itself, since stroking its path (as the base class would) takes a hundred
-/// times as long on a dense curve. Of the points that share a pixel column only those that make a
-/// difference are drawn.
+/// It draws the curve itself, from the segments that make a difference on the screen. The positions
+/// of all points, and the path through them, are made when somebody asks.
 class MyPathItem : public QObject, public QGraphicsPathItem
 {
     Q_OBJECT
@@ -41,13 +41,16 @@ public:
     QList<QPointF> valuePoints() const { return m_valuePoints.toList(); }
     void setValuePoints(const QVector<QPointF> &points);
 
+    /// Draws the curve through \a values where \a mapping leads. Without values the outline stays
+    /// as it is.
+    void drawValues(const QVector<QPointF> &values, const ChartMapping &mapping);
+
     /// The scene positions of the outline.
-    QList<QPointF> drawnPoints() const { return m_drawnPoints.toList(); }
-    const QVector<QPointF> &positions() const { return m_drawnPoints; }
-    /// Gives the positions away, for their memory: new ones must follow at once.
-    QVector<QPointF> recycledPositions();
+    QList<QPointF> drawnPoints() const { return positions().toList(); }
+    QVector<QPointF> positions() const;
     /// Builds the outline through \a points. Without points the outline stays as it is.
     void setDrawnPoints(const QVector<QPointF> &points);
+    QPainterPath path() const;
 
     /// Where the curve may be drawn, in scene coordinates: for a polar chart the circle in it.
     void setPlotArea(const QRectF &area);
@@ -90,9 +93,21 @@ protected:
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
+    /// What is drawn from.
+    struct Outline
+    {
+        QVector<QPointF> points;             ///< chart values, or without a mapping scene positions
+        std::optional<ChartMapping> mapping; ///< from the values to the scene
+    };
+
+    void setOutline(const Outline &outline);
     void measure();
-    const ThinnedLine &visibleLine(double pixelsPerUnit) const;
-    void drawLine(QPainter &painter) const;
+    const QVector<QLineF> &segments(double pixelsPerUnit) const;
+    const QVector<QLineF> &segments() const { return segments(m_scale > 0.0 ? m_scale : 1.0); }
+    void drawPixels(QPainter &painter, const QVector<CurvePicture::Style> &strokes) const;
+    void drawVectors(QPainter &painter, const QVector<CurvePicture::Style> &strokes) const;
+    QVector<CurvePicture::Style> strokes() const;
+    void forgetDrawing();
     double reach() const;
     void applyPen();
     void dragCurve(QWidget *source);
@@ -101,7 +116,8 @@ private:
     int m_chartKind = 0;
     ViewRange m_viewRange;
     QVector<QPointF> m_valuePoints;
-    QVector<QPointF> m_drawnPoints;
+    Outline m_outline;
+    CurveIndex m_index; ///< of the outline's points
     QString m_name;
     QColor m_color;
     int m_lineWidth = 1;
@@ -111,9 +127,9 @@ private:
     double m_pressY = -1.0;
 
     QRectF m_plotArea;
-    QRectF m_extent;            ///< the bounds of the drawn points
-    bool m_clipped = false;     ///< whether the curve leaves the plot area
-    mutable ThinnedLine m_line; ///< what is drawn, for m_lineScale device pixels a unit
-    mutable QVector<ColumnStretch> m_solid;
-    mutable double m_lineScale = 0.0;
+    QRectF m_extent;                    ///< what the drawn points reach over
+    bool m_clipped = false;             ///< whether the curve leaves the plot area
+    mutable QVector<QLineF> m_segments; ///< what is drawn, for m_scale device pixels a unit
+    mutable double m_scale = 0.0;
+    mutable QVector<CurvePicture> m_pictures; ///< as painted last
 };

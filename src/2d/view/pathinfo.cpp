@@ -159,8 +159,10 @@ void PathInfo::drawValues(const QVector<QPointF> &values, const ChartStage &stag
         mapping.isUsable() && isShared(values, m_drawnValues) && mapping == m_drawnMapping;
     if (!drawnAlready) {
         m_pathItem->setPlotArea(mapping.plotArea);
-        if (!values.isEmpty())
-            m_pathItem->setDrawnPoints(stage.toScene(values, m_pathItem->recycledPositions()));
+        if (stage.mapsInClosedForm(values))
+            m_pathItem->drawValues(values, mapping);
+        else
+            m_pathItem->setDrawnPoints(stage.toScene(values));
         m_drawnValues = values;
         m_drawnMapping = mapping;
     }
