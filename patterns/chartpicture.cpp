@@ -101,8 +101,8 @@ QImage paint(const ListChart &form, qreal scale)
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.scale(scale, scale);
-    left.render(&painter, QRectF(leftArea), leftArea);
-    right.render(&painter, QRectF(rightArea.translated(leftArea.width(), 0)), rightArea);
+    left.paintPicture(painter, QRectF(leftArea), leftArea);
+    right.paintPicture(painter, QRectF(rightArea.translated(leftArea.width(), 0)), rightArea);
     painter.setFont(form.font());
     paintLegend(painter, legend, QRect(0, height, width, size.height() - height));
     return image;

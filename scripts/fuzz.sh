@@ -7,7 +7,7 @@ set -eu
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
 [ $# -gt 0 ] && shift
-[ $# -gt 0 ] || set -- replies settings curves formats losses commands
+[ $# -gt 0 ] || set -- replies settings curves formats pattern losses commands
 
 cmake -S . -B build-fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
       -DMZ_BUILD_FUZZ=ON -DBUILD_TESTING=OFF >/dev/null

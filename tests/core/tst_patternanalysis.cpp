@@ -1,42 +1,11 @@
 #include "2d/data/patternanalysis.h"
 #include "2d/data/viewrange.h"
-#include "sortedpattern.h"
 #include "testmain.h"
-
-#include <QRandomGenerator>
-
-#include <array>
 
 using Points = QVector<QPointF>;
 using Pair = QPair<double, double>;
 
-using Figure = Pair ParaInfo::*;
-
-enum class Order { Ascending, Descending, Shuffled, Repeated };
-
-Q_DECLARE_METATYPE(Order)
-
 namespace {
-
-constexpr std::array<Figure, 10> allFigures{
-    &ParaInfo::gain,           &ParaInfo::halfPowerLeft,
-    &ParaInfo::halfPowerRight, &ParaInfo::firstNullLeft,
-    &ParaInfo::firstNullRight, &ParaInfo::firstSideLobeLeft,
-    &ParaInfo::backLobe,       &ParaInfo::firstSideLobeRight,
-    &ParaInfo::axialRatio,     &ParaInfo::crossPolarRatio,
-};
-
-/// All figures to the bit, to be compared and read.
-QStringList exactly(const ParaInfo &info)
-{
-    QStringList texts;
-    for (const Figure figure : allFigures) {
-        const Pair &pair = info.*figure;
-        texts.append(QString::number(pair.first, 'g', 17) + QLatin1Char('|') +
-                     QString::number(pair.second, 'g', 17));
-    }
-    return texts;
-}
 
 ParaInfo figuresOf(const Points &points)
 {
@@ -52,24 +21,6 @@ Points every10Degrees(const QVector<double> &levels, double first = 0.0)
     return points;
 }
 
-Points randomCurve(QRandomGenerator &random, int size, int distinctLevels, Order order)
-{
-    Points points;
-    for (int i = 0; i < size; ++i) {
-        const double angle = order == Order::Repeated ? random.bounded(10) * 30.0 - 180.0
-                                                      : -180.0 + 360.0 * i / size;
-        // Steps of a tenth are ties and plateaus, and are not exact in binary.
-        const double level = distinctLevels > 0 ? random.bounded(distinctLevels) * 0.1 - 1.0
-                                                : random.generateDouble() * 60.0 - 50.0;
-        points.append(QPointF(angle, level));
-    }
-    if (order == Order::Descending)
-        std::reverse(points.begin(), points.end());
-    else if (order == Order::Shuffled)
-        std::shuffle(points.begin(), points.end(), random);
-    return points;
-}
-
 } // namespace
 
 class TestPatternAnalysis : public QObject
@@ -77,43 +28,11 @@ class TestPatternAnalysis : public QObject
     Q_OBJECT
 
 private slots:
-    void agreesWithSortedCopies_data();
-    void agreesWithSortedCopies();
     void findsFigures();
     void keepsItsOddities();
     void placesLines();
     void drawsNoLineForWhatIsMissing();
 };
-
-void TestPatternAnalysis::agreesWithSortedCopies_data()
-{
-    QTest::addColumn<int>("distinctLevels");
-    QTest::addColumn<Order>("order");
-    QTest::newRow("any levels, by angle") << 0 << Order::Ascending;
-    QTest::newRow("any levels, by falling angle") << 0 << Order::Descending;
-    QTest::newRow("many ties, shuffled") << 12 << Order::Shuffled;
-    QTest::newRow("many ties, angles repeat") << 12 << Order::Repeated;
-    QTest::newRow("within 3 dB, by angle") << 25 << Order::Ascending;
-    QTest::newRow("plateaus, by angle") << 2 << Order::Ascending;
-    QTest::newRow("flat") << 1 << Order::Ascending;
-}
-
-void TestPatternAnalysis::agreesWithSortedCopies()
-{
-    QFETCH(const int, distinctLevels);
-    QFETCH(const Order, order);
-    QRandomGenerator random(6218);
-    for (int round = 0; round < 1500; ++round) {
-        Points curve = randomCurve(random, 1 + random.bounded(40), distinctLevels, order);
-        // In most rounds one point stands out: the first, the last or any other.
-        const std::array<int, 3> peaks{0, curve.size() - 1, random.bounded(curve.size())};
-        if (round % 5 < 3)
-            curve[peaks[std::size_t(round % 5)]].setY(20.0);
-        const auto analysis = analysePattern(curve);
-        QVERIFY(analysis.has_value());
-        QCOMPARE(exactly(analysis->figures), exactly(figuresFromSortedCopies(curve)));
-    }
-}
 
 void TestPatternAnalysis::findsFigures()
 {

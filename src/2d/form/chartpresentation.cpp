@@ -28,8 +28,7 @@ void prepare(GraphicsBase &view)
 
 void setTitle(GraphicsBase &view, const QString &title)
 {
-    if (view.chart()->title() != title)
-        view.setChartTitle(title);
+    view.setChartTitle(title);
 }
 
 void setAxisTitles(GraphicsBase &view, const QString &angles, const QString &levels)

@@ -12,6 +12,8 @@
 #include <QPolarChart>
 #include <QValueAxis>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
 #include <utility>
 
@@ -67,11 +69,42 @@ void setAxisRange(QValueAxis &axis, double min, double max)
     axis.setMax(max);
 }
 
+/// The chart takes its texts for rich ones.
+QString shownAsText(const QString &text)
+{
+    const bool special = text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'));
+    return special ? text.toHtmlEscaped() : text;
+}
+
+/// A format with the digits that the numbers at the ticks need: those of \a format as long as they
+/// tell every number to a twentieth of the step.
+QString fittingFormat(const QValueAxis &axis, const QString &format)
+{
+    const double step = (axis.max() - axis.min()) / std::max(1, axis.tickCount() - 1);
+    if (!(step > 0.0) || !std::isfinite(step))
+        return format;
+    constexpr int mostDecimals = 9;
+    const bool isGeneral = format == QLatin1String("%g");
+    for (int decimals = isGeneral ? 0 : 1; decimals <= mostDecimals; ++decimals) {
+        const double unit = std::pow(10.0, decimals);
+        bool enough = true;
+        for (int tick = 0; tick < axis.tickCount(); ++tick) {
+            const double number = (axis.min() + tick * step) * unit;
+            enough = enough && std::abs(number - std::round(number)) <= 0.05 * step * unit;
+        }
+        if (enough && isGeneral && decimals == 0)
+            return format;
+        if (enough)
+            return QStringLiteral("%.%1f").arg(decimals);
+    }
+    return format;
+}
+
 /// By way of the empty title, which makes the chart lay itself out again.
 void setAxisTitle(QValueAxis &axis, const QString &title)
 {
     axis.setTitleText(QString());
-    axis.setTitleText(title);
+    axis.setTitleText(shownAsText(title));
 }
 
 void styleChart(QChart &chart)
@@ -137,6 +170,7 @@ void ChartStage::add(CurveSeries &series)
     series.line()->attachAxis(m_yAxis);
     series.takeOut();
     m_series.append(&series);
+    placeLegend();
 }
 
 void ChartStage::remove(CurveSeries &series)
@@ -147,14 +181,22 @@ void ChartStage::remove(CurveSeries &series)
     series.putBack();
     m_series.removeOne(&series);
     m_chart->removeSeries(series.line());
+    placeLegend();
 }
 
 void ChartStage::setTitle(const QString &title)
 {
-    if (!m_chart)
+    if (!m_chart || m_chart->title() == shownAsText(title))
         return;
     const LayoutGuard guard(*this);
-    m_chart->setTitle(title);
+    m_title = title;
+    m_chart->setTitle(shownAsText(title));
+}
+
+QString ChartStage::title() const
+{
+    const QString shown = m_chart ? m_chart->title() : QString();
+    return shown == shownAsText(m_title) ? m_title : shown;
 }
 
 void ChartStage::setTitle(const QString &title, const QFont &font)
@@ -163,7 +205,7 @@ void ChartStage::setTitle(const QString &title, const QFont &font)
         return;
     const LayoutGuard guard(*this);
     m_chart->setTitleFont(font);
-    m_chart->setTitle(title);
+    setTitle(title);
 }
 
 void ChartStage::setXTitle(const QString &title)
@@ -203,8 +245,17 @@ void ChartStage::setLabelFormat(const QString &format)
     if (!m_chart)
         return;
     const LayoutGuard guard(*this);
-    m_xAxis->setLabelFormat(format);
-    m_yAxis->setLabelFormat(format);
+    m_labelFormat = format;
+    fitLabels();
+}
+
+void ChartStage::fitLabels()
+{
+    for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
+        const QString format = fittingFormat(*axis, m_labelFormat);
+        if (format != axis->labelFormat())
+            axis->setLabelFormat(format);
+    }
 }
 
 void ChartStage::setXRange(double min, double max)
@@ -213,6 +264,7 @@ void ChartStage::setXRange(double min, double max)
         return;
     const LayoutGuard guard(*this);
     setAxisRange(*m_xAxis, min, max);
+    fitLabels();
 }
 
 void ChartStage::setYRange(double min, double max)
@@ -221,6 +273,7 @@ void ChartStage::setYRange(double min, double max)
         return;
     const LayoutGuard guard(*this);
     setAxisRange(*m_yAxis, min, max);
+    fitLabels();
 }
 
 void ChartStage::resize(const QSizeF &size)
@@ -236,12 +289,15 @@ void ChartStage::showLegend(Qt::Alignment side, const QFont &font)
     if (!m_chart)
         return;
     const LayoutGuard guard(*this);
+    m_legendBelow = side == Qt::AlignBottom;
     m_chart->legend()->setAlignment(side);
     m_chart->legend()->setFont(font);
     m_chart->legend()->show();
+    placeLegend();
 }
 
-void ChartStage::setLegendEntry(const CurveSeries &series, const QColor &color, bool greyed)
+void ChartStage::setLegendEntry(const CurveSeries &series, const QString &name, const QColor &color,
+                                bool greyed)
 {
     if (!m_chart)
         return;
@@ -252,18 +308,31 @@ void ChartStage::setLegendEntry(const CurveSeries &series, const QColor &color, 
     const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
     for (QLegendMarker *entry : entries) {
         entry->setVisible(true);
+        entry->setLabel(shownAsText(name));
         entry->setBrush(shade);
         entry->setPen(QPen(shade));
         entry->setLabelBrush(greyed ? QColor(Qt::gray) : QColor(Qt::black));
     }
 }
 
-QString ChartStage::legendText(const CurveSeries &series) const
+bool ChartStage::hasLegendEntry(const CurveSeries &series, const QString &name) const
 {
     if (!m_chart)
-        return {};
+        return false;
     const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
-    return entries.isEmpty() ? QString() : entries.first()->label();
+    return !entries.isEmpty() &&
+           (entries.first()->label() == name || entries.first()->label() == shownAsText(name));
+}
+
+/// Below the chart a few names find room; more stand in a list beside it.
+void ChartStage::placeLegend()
+{
+    constexpr int mostBelow = 6;
+    if (!m_legendBelow)
+        return;
+    const auto side = m_series.size() > mostBelow ? Qt::AlignRight : Qt::AlignBottom;
+    if (m_chart->legend()->alignment() != side)
+        m_chart->legend()->setAlignment(side);
 }
 
 ViewRange ChartStage::axisRange() const

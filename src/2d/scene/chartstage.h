@@ -60,13 +60,15 @@ public:
 
     void setTitle(const QString &title);
     void setTitle(const QString &title, const QFont &font);
+    QString title() const;
     /// The titles of the axis along the bottom or round the circle, and of the other one.
     void setXTitle(const QString &title);
     void setYTitle(const QString &title);
     /// One more than the number of ticks.
     void setXDivisions(int divisions);
     void setYDivisions(int divisions);
-    /// A printf format of a double for the numbers along both axes.
+    /// A printf format of a double for the numbers along both axes. Where it would show different
+    /// numbers alike, as after zooming, they get the digits that they need.
     void setLabelFormat(const QString &format);
     /// Turns a polar chart, which from then on takes angles modulo 360 degrees. Others stay.
     void setPolarView(const PolarView &view);
@@ -76,9 +78,10 @@ public:
     void resize(const QSizeF &size);
     void showLegend(Qt::Alignment side, const QFont &font);
     /// Shows the entry of \a series in \a color, or greyed.
-    void setLegendEntry(const CurveSeries &series, const QColor &color, bool greyed);
-    /// The entry's text, empty without an entry.
-    QString legendText(const CurveSeries &series) const;
+    void setLegendEntry(const CurveSeries &series, const QString &name, const QColor &color,
+                        bool greyed);
+    /// Whether the legend has an entry for \a series under \a name.
+    bool hasLegendEntry(const CurveSeries &series, const QString &name) const;
 
     /// The ranges that the axes have now.
     ViewRange axisRange() const;
@@ -94,11 +97,17 @@ public:
 private:
     void placeDirections();
 
+    void fitLabels();
+    void placeLegend();
+
     int m_kind;
     QtCharts::QChart *m_chart = nullptr;
     QtCharts::QValueAxis *m_xAxis = nullptr; ///< along the bottom, or the angular one
     QtCharts::QValueAxis *m_yAxis = nullptr; ///< on the left, or the radial one
     QVector<CurveSeries *> m_series;
+    QString m_title;
+    QString m_labelFormat = QStringLiteral("%.1f");
+    bool m_legendBelow = false;
     int m_guards = 0;
     std::optional<PolarView> m_polarView;
     DirectionLabels *m_directions = nullptr; ///< the chart's

@@ -51,6 +51,7 @@ PathInfo *CurveList::add(const QString &name)
         m_stage.add(path->curve());
         path->pathItem()->adoptView(m_stage.kind(), m_ranges.inView(m_stage));
         path->setName(name);
+        m_stage.setLegendEntry(path->curve(), name, path->color(), false);
     }
     m_scene.addItem(path->displayItem());
     m_scene.addItem(path->pathItem());
@@ -90,7 +91,7 @@ void CurveList::followLook(PathInfo &path)
     if (path.isHidden() && path.isSelected())
         emit selectionAsked(0);
     // Hidden curves stay in the legend, so that a click can bring them back.
-    m_stage.setLegendEntry(path.curve(), path.color(), path.isHidden());
+    m_stage.setLegendEntry(path.curve(), path.name(), path.color(), path.isHidden());
     m_marks.recolor(path);
     if (m_parameterLinesVisible || !path.beamLevels().isEmpty())
         recompute(path);
@@ -114,7 +115,7 @@ ParaInfo CurveList::recompute(PathInfo &path)
 {
     path.updateLines(m_stage, m_parameterLinesVisible);
     const PatternAnalysis *analysis = path.analysis();
-    if (!analysis || path.isHidden() || m_stage.legendText(path.curve()) != path.name())
+    if (!analysis || path.isHidden() || !m_stage.hasLegendEntry(path.curve(), path.name()))
         return {};
     if (path.getParaTableDataStatus())
         path.updateParaInfo(analysis->figures);
@@ -163,6 +164,30 @@ void CurveList::setMarkTablesShown(bool shown)
         path->setMarkTableShown(shown);
 }
 
+void CurveList::removeMarks(PathInfo &path)
+{
+    const QList<int> numbers = path.markIds();
+    for (const int number : numbers) {
+        m_marks.remove(number);
+        path.delMarkId(number);
+    }
+    updateMarkTable(path);
+}
+
+PathInfo *CurveList::neighbourOfSelected(int step) const
+{
+    QList<PathInfo *> shown = m_paths.values();
+    shown.erase(std::remove_if(shown.begin(), shown.end(),
+                               [](const PathInfo *path) { return path->isHidden(); }),
+                shown.end());
+    if (shown.isEmpty())
+        return nullptr;
+    const int now = shown.indexOf(selected());
+    if (now < 0)
+        return step > 0 ? shown.first() : shown.last();
+    return shown[(now + step + shown.size()) % shown.size()];
+}
+
 void CurveList::updateMarkTable(PathInfo &path)
 {
     path.updateMarkInfo(m_marks.all());
@@ -174,4 +199,22 @@ void CurveList::updataSize(QSizeF size)
     m_size = size;
     for (PathInfo *path : qAsConst(m_paths))
         path->updataSize(size);
+}
+
+PlainLook::PlainLook(CurveList &curves)
+    : m_curves(curves)
+    , m_path(curves.selected())
+    , m_mark(curves.marks().selected())
+{
+    if (m_path)
+        m_path->setSelected(false);
+    m_curves.marks().select(nullptr);
+}
+
+PlainLook::~PlainLook()
+{
+    if (m_path)
+        m_path->setSelected(true);
+    if (m_mark)
+        m_curves.marks().select(m_mark);
 }

@@ -55,6 +55,11 @@ public:
     void setBeamLevels(int pathId, const QVector<double> &drops);
     bool markTablesShown() const { return m_markTablesShown; }
     void setMarkTablesShown(bool shown);
+    /// Removes the markers on \a path.
+    void removeMarks(PathInfo &path);
+    /// The curve \a step (1 or -1) places after the selected one, among those that are shown; null
+    /// when none is.
+    PathInfo *neighbourOfSelected(int step) const;
     /// Refills the marker table of \a path.
     void updateMarkTable(PathInfo &path);
 
@@ -84,4 +89,19 @@ private:
     bool m_parameterLinesVisible = false;
     bool m_markTablesShown = true;
     bool m_catchUpPending = false;
+};
+
+/// While one lives, curves and markers look as if none were selected: for pictures that are kept.
+class PlainLook
+{
+public:
+    explicit PlainLook(CurveList &curves);
+    ~PlainLook();
+    PlainLook(const PlainLook &) = delete;
+    PlainLook &operator=(const PlainLook &) = delete;
+
+private:
+    CurveList &m_curves;
+    PathInfo *m_path;
+    const MyMarkItem *m_mark;
 };

@@ -132,7 +132,7 @@ QString GraphicsBase::seriesName() const
 
 QString GraphicsBase::chartTitle() const
 {
-    return chart() ? chart()->title() : QString();
+    return m_stage->title();
 }
 
 bool GraphicsBase::hasCurve(const QString &name) const
@@ -341,6 +341,7 @@ void GraphicsBase::clearChartData(int index)
     m_stage->setXRange(m_ranges.shown.xMin, m_ranges.shown.xMax);
     path.setPoints({});
     path.rebuild(*m_stage);
+    m_curves->removeMarks(path); // they would float over an empty chart
     // Without a curve to sit on, a marker would float.
     const QList<int> marks = path.markIds();
     for (const int mark : marks)
@@ -475,6 +476,7 @@ void GraphicsBase::resizeEvent(QResizeEvent *event)
         return;
     m_resized = true;
     m_curves->refresh(Panels::AllTables);
+    placeFigures();
     if (chart())
         emit updataSize(chart()->size() + QSizeF(-60.0, 10.0));
 }

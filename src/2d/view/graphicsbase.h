@@ -8,6 +8,7 @@
 #include <QMap>
 
 #include <memory>
+#include <optional>
 
 class ChartStage;
 class CurveList;
@@ -83,6 +84,9 @@ public:
     void setLimitXY(const QPointF &centre, const double &factor);
     /// Puts a marker at the scene position \a position under the smallest free number.
     MyMarkItem *addMark(const QPointF &position, const QColor &color);
+    /// Paints the part \a source of the view (pixels) into \a target, without what shows a
+    /// selection: for pictures that are kept.
+    void paintPicture(QPainter &painter, const QRectF &target, const QRect &source);
     /// Gives the axes the titles and the scale of the time chart, in the current language.
     void retitle();
     /// A printf format of a double for the numbers along both axes.
@@ -101,6 +105,8 @@ signals:
     void curvesChanged();
     /// Another curve, or none, is selected now.
     void selectionChanged();
+    /// The user shows another range.
+    void rangeChanged();
 
 public slots:
     void tooltip(QPointF point, bool state);
@@ -152,6 +158,10 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -178,12 +188,18 @@ private slots:
 private:
     QWidget *dialogParent() override { return window(); }
     QString chartTitle() const override;
-    QPixmap picture() override { return grab(); }
+    QPixmap picture() override;
 
     void connectParts();
     bool needsXRange(const char *operation) const;
     PathInfo &existingPath(int index, const char *operation) const;
     void deselect();
+    bool pressControlKey(int key);
+    bool pressKey(int key);
+    void panTo(const QPointF &position);
+    void placeFigures();
+    void addMarkAtHighest();
+    void addMarkAt(PathInfo &path, double x);
     void pressCurves(const QPoint &position);
     void zoomAbout(const QPointF &centre, double factor);
     void showRange(const ViewRange &range);
@@ -198,7 +214,9 @@ private:
     MyCustomProxy *m_tableProxy = nullptr; ///< the figures of the selected curve
     QPointF m_offset;                      ///< added to every point of the time chart
     QString m_seriesName;
-    QPointF m_menuPosition; ///< where the context menu was opened, on the scene
+    QPointF m_menuPosition;             ///< where the context menu was opened, on the scene
+    std::optional<QPointF> m_panAnchor; ///< the value that a middle button holds
+    bool m_focusShown = false;          ///< the keyboard brought the focus here
     bool m_zoomMode = false;
     bool m_panMode = false;
     bool m_nudging = false; ///< inside the smaller of the two sizes of a nudge

@@ -19,6 +19,8 @@
 #include <QGraphicsScene>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 #include <array>
@@ -42,7 +44,8 @@ void GraphicsBase::setLimitXY(const QPointF &centre, const double &factor)
 void GraphicsBase::wheelEvent(QWheelEvent *event)
 {
     event->accept();
-    if (!m_zoomMode || !chart())
+    const bool zooms = m_zoomMode || event->modifiers().testFlag(Qt::ControlModifier);
+    if (!zooms || !chart())
         return;
     const QPointF centre = toValue(event->position().toPoint());
     // Turning the wheel forward shows more: it zooms out, by intent.
@@ -66,6 +69,7 @@ void GraphicsBase::showRange(const ViewRange &range)
     m_ranges.shown = range;
     m_ranges.apply(*m_stage);
     m_curves->refresh(Panels::AllTables);
+    emit rangeChanged();
 }
 
 void GraphicsBase::zoomSlot()
@@ -94,8 +98,27 @@ void GraphicsBase::panResetSlot()
     showRange(m_ranges.shown);
 }
 
+/// Moves the range so that the value held is under \a position.
+void GraphicsBase::panTo(const QPointF &position)
+{
+    const QPointF way = *m_panAnchor - toValue(position);
+    ViewRange range = m_ranges.shown;
+    if (m_stage->hasXRange()) {
+        range.xMin += way.x();
+        range.xMax += way.x();
+    }
+    range.yMin += way.y();
+    range.yMax += way.y();
+    showRange(range);
+}
+
 void GraphicsBase::mousePressEvent(QMouseEvent *event)
 {
+    if (event->button() == Qt::MiddleButton && chart()) {
+        m_panAnchor = toValue(event->localPos());
+        viewport()->setCursor(Qt::ClosedHandCursor);
+        return;
+    }
     if (!m_panMode) {
         QGraphicsView::mousePressEvent(event);
         pressCurves(event->pos());
@@ -124,13 +147,22 @@ void GraphicsBase::pressCurves(const QPoint &position)
 // out, a table that is moved. The view itself does nothing with them.
 void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (event->button() == Qt::MiddleButton && m_panAnchor) {
+        m_panAnchor.reset();
+        viewport()->setCursor(m_panMode    ? Qt::OpenHandCursor
+                              : m_zoomMode ? Qt::CrossCursor
+                                           : Qt::ArrowCursor);
+        return;
+    }
     if (!m_panMode && scene()->mouseGrabberItem())
         QGraphicsView::mouseReleaseEvent(event);
 }
 
 void GraphicsBase::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_panMode && scene()->mouseGrabberItem())
+    if (m_panAnchor)
+        panTo(event->localPos());
+    else if (!m_panMode && scene()->mouseGrabberItem())
         QGraphicsView::mouseMoveEvent(event);
 }
 
@@ -142,36 +174,123 @@ void GraphicsBase::mouseDoubleClickEvent(QMouseEvent *event)
 
 void GraphicsBase::keyPressEvent(QKeyEvent *event)
 {
+    const bool withControl = event->modifiers().testFlag(Qt::ControlModifier);
+    if (event->matches(QKeySequence::Copy))
+        copySlot();
+    else if (event->matches(QKeySequence::Paste))
+        pasteSlot();
+    else if (!(withControl ? pressControlKey(event->key()) : pressKey(event->key())))
+        QGraphicsView::keyPressEvent(event);
+}
+
+/// With Control the keys act on markers.
+bool GraphicsBase::pressControlKey(int key)
+{
+    constexpr double markStep = 0.005;
+    switch (key) {
+    case Qt::Key_Left:
+        m_curves->marks().moveSelected(-markStep);
+        return true;
+    case Qt::Key_Right:
+        m_curves->marks().moveSelected(markStep);
+        return true;
+    case Qt::Key_PageUp:
+        m_curves->marks().selectNext(-1);
+        return true;
+    case Qt::Key_PageDown:
+        m_curves->marks().selectNext(1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool GraphicsBase::pressKey(int key)
+{
     const ViewRange range = m_ranges.shown;
     const QPointF centre((range.xMin + range.xMax) * 0.5, (range.yMin + range.yMax) * 0.5);
-    if (event->matches(QKeySequence::Copy)) {
-        copySlot();
-        return;
-    }
-    if (event->matches(QKeySequence::Paste)) {
-        pasteSlot();
-        return;
-    }
-    switch (event->key()) {
+    switch (key) {
     case Qt::Key_Left:
-        return showRange(range.movedBy(-keyStep, 0.0));
+        showRange(range.movedBy(-keyStep, 0.0));
+        return true;
     case Qt::Key_Right:
-        return showRange(range.movedBy(keyStep, 0.0));
+        showRange(range.movedBy(keyStep, 0.0));
+        return true;
     case Qt::Key_Down:
-        return showRange(range.movedBy(0.0, -keyStep));
+        showRange(range.movedBy(0.0, -keyStep));
+        return true;
     case Qt::Key_Up:
-        return showRange(range.movedBy(0.0, keyStep));
+        showRange(range.movedBy(0.0, keyStep));
+        return true;
     case Qt::Key_Plus:
-        return zoomAbout(centre, 1.0 / zoomStep);
+        zoomAbout(centre, 1.0 / zoomStep);
+        return true;
     case Qt::Key_Minus:
-        return zoomAbout(centre, zoomStep);
+        zoomAbout(centre, zoomStep);
+        return true;
     case Qt::Key_Home:
-        return resetSlot();
+        resetSlot();
+        return true;
     case Qt::Key_Delete:
-        return deleteMarkSlot();
+        deleteMarkSlot();
+        return true;
+    case Qt::Key_Insert:
+        addMarkAtHighest();
+        return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        if (const PathInfo *path = m_curves->neighbourOfSelected(key == Qt::Key_PageUp ? -1 : 1))
+            updatePathSelection(path->pathId());
+        return true;
     default:
-        QGraphicsView::keyPressEvent(event);
+        return false;
     }
+}
+
+/// The scene would keep the tabulator among its tables, none of which takes a key.
+bool GraphicsBase::focusNextPrevChild(bool next)
+{
+    return QAbstractScrollArea::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void GraphicsBase::focusInEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    m_focusShown = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                   reason == Qt::ShortcutFocusReason;
+    viewport()->update();
+}
+
+void GraphicsBase::focusOutEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusOutEvent(event);
+    m_focusShown = false;
+    viewport()->update();
+}
+
+void GraphicsBase::paintEvent(QPaintEvent *event)
+{
+    QGraphicsView::paintEvent(event);
+    if (!m_focusShown)
+        return;
+    constexpr double width = 2.0;
+    QPainter painter(viewport());
+    painter.setPen(QPen(QColor(10, 134, 214), width));
+    painter.drawRect(QRectF(viewport()->rect()).adjusted(1.0, 1.0, -1.0, -1.0));
+}
+
+void GraphicsBase::paintPicture(QPainter &painter, const QRectF &target, const QRect &source)
+{
+    const PlainLook look(*m_curves);
+    render(&painter, target, source);
+}
+
+QPixmap GraphicsBase::picture()
+{
+    const PlainLook look(*m_curves);
+    const QScopedValueRollback<bool> withoutFocus(m_focusShown, false);
+    return grab();
 }
 
 void GraphicsBase::updatePathSelection(int pathId)
@@ -225,13 +344,41 @@ void GraphicsBase::addMarkSlot()
         MessageSimpleDialog::showMessage(tr("Please select the target graph"), 1, window());
         return;
     }
-    const std::optional<QPointF> place = m_curves->marks().pointAt(*path, x);
+    addMarkAt(*path, x);
+}
+
+void GraphicsBase::addMarkAt(PathInfo &path, double x)
+{
+    const std::optional<QPointF> place = m_curves->marks().pointAt(path, x);
     if (!place || !shownRange().contains(*place))
         return;
-    MyMarkItem *mark = addMark(toScene(*place), path->color());
+    MyMarkItem *mark = addMark(toScene(*place), path.color());
     mark->setValuePoint(*place);
-    path->addMarkId(mark->markId());
-    m_curves->updateMarkTable(*path);
+    path.addMarkId(mark->markId());
+    m_curves->updateMarkTable(path);
+}
+
+/// What the keyboard offers instead of a place: the highest point in view, from where it is moved.
+void GraphicsBase::addMarkAtHighest()
+{
+    PathInfo *path = selectedPath();
+    if (!path)
+        return;
+    const ViewRange shown = shownRange();
+    const QVector<QPointF> points = path->points();
+    const QPointF *highest = nullptr;
+    for (const QPointF &point : points) {
+        if (shown.contains(point) && (!highest || point.y() > highest->y()))
+            highest = &point;
+    }
+    if (!highest)
+        return;
+    const QList<int> before = marks().keys();
+    addMarkAt(*path, highest->x());
+    for (const MyMarkItem *mark : marks()) {
+        if (!before.contains(mark->markId()))
+            m_curves->marks().select(mark);
+    }
 }
 
 void GraphicsBase::deleteMarkSlot()
@@ -264,9 +411,18 @@ void GraphicsBase::showOrHideParameterTableSlot()
     const PathInfo *path = selectedPath();
     if (!path)
         return;
-    m_tableProxy->setPos(m_stage->plotArea().topRight() -
-                         QPointF(m_tableProxy->size().width() + 8.0, -8.0));
+    placeFigures();
     emit updateParaInfoToTable(patternParameters(path->pathId()));
+}
+
+/// Keeps the figures of the selected curve at the right of the plot area, or where the user has
+/// moved them.
+void GraphicsBase::placeFigures()
+{
+    constexpr double gap = 8.0;
+    m_tableProxy->place(m_stage->plotArea().topRight() -
+                            QPointF(m_tableProxy->size().width() + gap, -gap),
+                        sceneRect());
 }
 
 ChartSituation GraphicsBase::situation() const

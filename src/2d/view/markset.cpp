@@ -136,6 +136,29 @@ void MarkSet::markPressed(MyMarkItem &mark)
 
 void MarkSet::markDragged(MyMarkItem &mark, const QPointF &position)
 {
+    moveTo(mark, m_stage.toValue(position).x());
+}
+
+void MarkSet::selectNext(int step)
+{
+    const QList<MyMarkItem *> marks = m_marks.values();
+    if (marks.isEmpty())
+        return;
+    const int now = marks.indexOf(selected());
+    const int next = now < 0 ? (step > 0 ? 0 : marks.size() - 1) : now + step;
+    select(marks[(next + marks.size()) % marks.size()]);
+}
+
+void MarkSet::moveSelected(double part)
+{
+    if (MyMarkItem *mark = selected()) {
+        const ViewRange shown = m_shown();
+        moveTo(*mark, mark->valuePoint().x() + part * (shown.xMax - shown.xMin));
+    }
+}
+
+void MarkSet::moveTo(MyMarkItem &mark, double wanted)
+{
     PathInfo *path = pathOf(mark);
     if (!path)
         return;
@@ -143,7 +166,7 @@ void MarkSet::markDragged(MyMarkItem &mark, const QPointF &position)
     if (!extent)
         return;
     const ViewRange shown = m_shown();
-    double x = m_stage.toValue(position).x();
+    double x = wanted;
     if (!shown.isRound) {
         const double least = std::max(extent->least, shown.xMin);
         const double greatest = std::min(extent->greatest, shown.xMax);

@@ -60,11 +60,17 @@ public:
     /// The point of the curve at \a x; round a polar chart in that direction.
     std::optional<QPointF> pointAt(const PathInfo &path, double x) const;
 
+    /// Selects the marker after the selected one (\a step 1) or before it (-1), in their order.
+    void selectNext(int step);
+    /// Moves the selected marker along its curve by \a part of the range in view.
+    void moveSelected(double part);
+
     void markPressed(MyMarkItem &mark) override;
     /// Moves the marker along its curve, as far as the curve and the range in view go.
     void markDragged(MyMarkItem &mark, const QPointF &position) override;
 
 private:
+    void moveTo(MyMarkItem &mark, double x);
     PathInfo *pathOf(const MyMarkItem &mark) const;
     void place(MyMarkItem &mark);
     /// Leads from the selected marker, if it is seen, to the axes.
