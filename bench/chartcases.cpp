@@ -3,6 +3,7 @@
 #include "charthost.h"
 #include "measure.h"
 #include "ownchart.h"
+#include "picturecheck.h"
 #include "qcpchart.h"
 #include "qwtchart.h"
 #include "testcurve.h"
@@ -104,10 +105,18 @@ struct Makers
     MakeChart qwt;
 };
 
+/// Says what is missing from our pictures, so that nobody takes holes for speed.
+void tellPicture(const QString &work, int kind, const QVector<QPointF> &curve)
+{
+    QTextStream(stderr) << work << ": " << comparedWithStroke(kind, curve) << '\n';
+}
+
 void curveRows(const QString &kind, const Makers &makers, const ChartSink &sink)
 {
     for (const int count : {361, 3601, 36001, 100000, 1000000}) {
         const QVector<QPointF> curve = testCurve(CurveShape::Pattern, count);
+        tellPicture(kind + QStringLiteral(", ") + points(count),
+                    kind == QLatin1String("polar") ? 1 : 0, curve);
         const auto run = [&](MakeChart make) -> std::optional<CurveTimes> {
             if (!make)
                 return std::nullopt;
@@ -160,6 +169,7 @@ void shapeRows(const Makers &makers, const ChartSink &sink)
             };
             const QString name = shape == CurveShape::Smooth ? QStringLiteral("smooth curve")
                                                              : QStringLiteral("noise");
+            tellPicture(name + QStringLiteral(", ") + points(count), 0, curve);
             sink({QStringLiteral("%1 zoom step, %2").arg(name, points(count)), run(makers.own),
                   run(makers.qcp), run(makers.qcpFast), run(makers.qwt)});
         }

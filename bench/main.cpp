@@ -1,4 +1,5 @@
 #include "cases.h"
+#include "ratiotable.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -68,11 +69,13 @@ int main(int argc, char **argv)
             QTextStream(stderr) << text << '\n';
     });
 
-    const QStringList wanted = app.arguments().mid(1);
+    QStringList wanted = app.arguments().mid(1);
+    const bool checks = wanted.removeAll(QStringLiteral("--check")) > 0;
+    const bool stores = wanted.removeAll(QStringLiteral("--store")) > 0;
     if (!knowsAll(wanted)) {
-        QTextStream(stderr)
-            << "usage: mz_bench [tick | curves | shapes | polar | files | pattern | "
-               "losses | start] ...\n";
+        QTextStream(stderr) << "usage: mz_bench [--check | --store] [tick | curves | shapes | "
+                               "polar | files | pattern | "
+                               "losses | start] ...\n";
         return 2;
     }
     QTextStream out(stdout);
@@ -81,5 +84,14 @@ int main(int argc, char **argv)
         if (wanted.isEmpty() || wanted.contains(group.name))
             group.run(report);
     }
-    return 0;
+    const QString table = QStringLiteral(MZ_BENCH_RATIOS);
+    if (stores && !RatioTable::write(table, report.ratios())) {
+        QTextStream(stderr) << "the ratios could not be written: " << table << '\n';
+        return 1;
+    }
+    if (!checks)
+        return 0;
+    const int worse = RatioTable::printWorse(RatioTable::read(table), report.ratios(), out);
+    out << worse << " ratios are worse by more than 15 %\n";
+    return worse > 0 ? 1 : 0;
 }

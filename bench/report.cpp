@@ -25,8 +25,12 @@ QString ratio(const std::optional<double> &own, const std::optional<double> &pee
 void Report::add(const ReportRow &row)
 {
     begin(Table::Charts,
-          QStringLiteral("| Work (ms) | ours | QCP | QCP fast | Qwt | ours / QCP | "
+          QStringLiteral("| Work (ms) | ours, complete | QCP, adaptive sampling | "
+                         "QCP fast, phFastPolylines | Qwt, as it comes | ours / QCP | "
                          "ours / QCP fast | ours / Qwt |\n|---|---|---|---|---|---|---|---|\n"));
+    keepRatio(row.work, QStringLiteral("QCP"), row.own, row.qcp);
+    keepRatio(row.work, QStringLiteral("QCP fast"), row.own, row.qcpFast);
+    keepRatio(row.work, QStringLiteral("Qwt"), row.own, row.qwt);
     print({row.work, cell(row.own), cell(row.qcp), cell(row.qcpFast), cell(row.qwt),
            ratio(row.own, row.qcp), ratio(row.own, row.qcpFast), ratio(row.own, row.qwt)});
 }
@@ -35,6 +39,7 @@ void Report::add(const DuelRow &row)
 {
     begin(Table::Duels, QStringLiteral("| Work (ms) | ours | beside it | takes | ratio |\n"
                                        "|---|---|---|---|---|\n"));
+    keepRatio(row.work, row.rival, row.own, row.rivalTime);
     print({row.work, cell(row.own), row.rival, cell(row.rivalTime), ratio(row.own, row.rivalTime)});
 }
 
@@ -52,4 +57,11 @@ void Report::print(const QStringList &cells)
 {
     m_out << "| " << cells.join(QStringLiteral(" | ")) << " |\n";
     m_out.flush();
+}
+
+void Report::keepRatio(const QString &work, const QString &peer, const std::optional<double> &own,
+                       const std::optional<double> &other)
+{
+    if (own && other && *other > 0.0)
+        m_ratios.insert(QStringLiteral("%1 to %2").arg(work, peer), *own / *other);
 }

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <QMap>
+
 #include <functional>
 #include <optional>
 
@@ -41,6 +43,8 @@ public:
 
     void add(const ReportRow &row);
     void add(const DuelRow &row);
+    /// The ratios of all lines so far, ours to a peer's, by "work to peer".
+    const QMap<QString, double> &ratios() const { return m_ratios; }
 
 private:
     enum class Table { None, Charts, Duels };
@@ -48,6 +52,10 @@ private:
     void begin(Table table, const QString &heading);
     void print(const QStringList &cells);
 
+    void keepRatio(const QString &work, const QString &peer, const std::optional<double> &own,
+                   const std::optional<double> &other);
+
     QTextStream &m_out;
+    QMap<QString, double> m_ratios;
     Table m_table = Table::None;
 };
