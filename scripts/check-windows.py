@@ -22,7 +22,6 @@ import subprocess
 import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
-from itertools import repeat
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -72,9 +71,9 @@ def headers_without_system(folder):
     return ["-isystem", str(folder)]
 
 
-def compiles(source, settings, libraries):
-    return succeeds(source.relative_to(ROOT), [COMPILER, "-std=c++17", "-fsyntax-only", *WARNINGS, *settings,
-                                               "-isystem", libraries, str(source)])
+def compiles(source, settings):
+    return succeeds(source.relative_to(ROOT),
+                    [COMPILER, "-std=c++17", "-fsyntax-only", *WARNINGS, *settings, str(source)])
 
 
 def makes_resources(build):
