@@ -7,7 +7,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 
 usage() {
     cat <<'TEXT'
-usage: scripts/campaign.sh faults|files|watch|week [OPTION...]
+usage: scripts/campaign.sh faults|files|recorder|watch|week [OPTION...]
 
   --slice         a few jobs only, as among the tests
   --only TEXT     only the jobs whose names hold this text
@@ -26,6 +26,7 @@ case $campaign in
 faults) program=mz_faultcampaign ;;
 files) program=mz_filecampaign ;;
 watch) program=mz_watchrun ;;
+recorder) program=mz_recordcampaign ;;
 week) program=mz_longrun ;;
 -h | --help)
     usage
@@ -59,7 +60,7 @@ done
 if [[ -z $built ]]; then
     scripts/install-dependencies.sh build run test
     cmake --preset release
-    cmake --build build --target "$program" mz6218-sim
+    cmake --build build --target "$program" mz6218-sim mz6218-cli
     built=build
 fi
 program=$(readlink -f "$built")/tests/$program/$program
@@ -68,6 +69,7 @@ export QT_QPA_PLATFORM=offscreen slice program
 case $campaign in
 faults) names=$("$program" list ${slice:-"$scenarios" "$seed"}) ;;
 files) names=$("$program" list) ;;
+recorder) names=$("$program" list $slice) ;;
 watch | week) names=$campaign ;;
 esac
 names=$(grep -F -- "$only" <<<"$names") || { echo "There is no such job." >&2 && exit 2; }

@@ -1,0 +1,56 @@
+#include "faultrun.h"
+
+#include "simulatorprocess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+QStringList faults()
+{
+    QStringList all;
+    const char *const kinds[] = {"no-reply",          "late:300",    "late:5500",   "pieces",
+                                 "two-lines",         "no-newline",  "garbage",     "refuse",
+                                 "numeric-frequency", "drop-before", "drop-inside", "drop-after"};
+    for (const char *kind : kinds) {
+        for (const char *when : {"every=3", "p=0.2", "after=10,times=2"})
+            all << QLatin1String(kind) + QLatin1Char(',') + QLatin1String(when);
+    }
+    return all;
+}
+
+Verdict runWithFault(const QString &fault)
+{
+    constexpr int rows = 40;
+    Verdict verdict;
+    SimulatorProcess simulator;
+    if (!simulator.start({QStringLiteral("--noise"), QStringLiteral("0.05"),
+                          QStringLiteral("--fault"), fault})) {
+        verdict.wrong << QStringLiteral("no simulator: ") + simulator.errorText();
+        return verdict;
+    }
+    const QTemporaryDir folder;
+    QProcess recorder;
+    recorder.start(QStringLiteral(MZ_BIN_DIR "/mz6218-cli"),
+                   {QStringLiteral("--lan"),
+                    QStringLiteral("%1:%2").arg(simulator.address()).arg(simulator.port()),
+                    QStringLiteral("record"), QStringLiteral("--every"), QStringLiteral("200ms"),
+                    QStringLiteral("--poll"), QStringLiteral("20ms"), QStringLiteral("--out"),
+                    folder.path(), QStringLiteral("--count"), QString::number(rows)});
+    verdict.expect(recorder.waitForFinished(60000) && recorder.exitCode() == 0,
+                   QStringLiteral("did not end well"));
+    QStringList lines;
+    const QDir files(folder.path());
+    for (const QString &name :
+         files.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name)) {
+        QFile file(files.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            lines += QString::fromUtf8(file.readAll())
+                         .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                         .mid(1);
+    }
+    judgeRows(lines, verdict);
+    verdict.expect(verdict.rows == rows, QStringLiteral("%1 rows").arg(verdict.rows));
+    return verdict;
+}
