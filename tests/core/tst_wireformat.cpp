@@ -40,12 +40,8 @@ private slots:
         using namespace CommandTexts;
         const QString gigahertz = QStringLiteral("GHz");
         QCOMPARE(setFrequency(2.456), QByteArray("FREQ 2.46\n"));
-        QCOMPARE(setFrequency(0.000001), QByteArray("FREQ 0.00\n"));
-        QCOMPARE(setFrequency(line("2.450001"), gigahertz), QByteArray("FREQ 2.450001GHz\n"));
         QCOMPARE(setFrequency(line("%2"), gigahertz), QByteArray("FREQ %2GHz\n"));
-        QCOMPARE(setOffset(-100), QByteArray("OFFS -100.00\n"));
         QCOMPARE(setOffset(0.125), QByteArray("OFFS 0.13\n"));
-        QCOMPARE(setAverageCount(1024), QByteArray("AVER:COUN 1024\n"));
         QCOMPARE(setPowerUnit(line("µ€")), QByteArray("UNIT:POW \xB5?\n"));
     }
 
@@ -54,16 +50,13 @@ private slots:
         const QString state = line("RETURN:REL ON");
         QCOMPARE(firstLineOf({"RETURN:R", "EL ON\n"}), state);
         QCOMPARE(firstLineOf({"RETURN:REL ON\r", "\n"}), state);
-        QCOMPARE(firstLineOf({"A\rB\r\r\n"}), line("A\rB\r"));
         QCOMPARE(firstLineOf({"first\nsec", "ond\n"}), line("first"));
         QCOMPARE(firstLineOf({"\nRETURN:REL ON\n"}), QString());
         // Characters of several bytes: cut, never ended, never begun.
         QCOMPARE(firstLineOf({"\xE2", "\x82", "\xAC\n"}), line("€"));
         QCOMPARE(firstLineOf({"10\xC2", "0W\n"}), line("10\uFFFD0W"));
-        QCOMPARE(firstLineOf({"A\xFF\n"}), line("A\uFFFD"));
         // A NUL hides the rest of its piece, be it the newline.
         QCOMPARE(firstLineOf({QByteArray("RETURN:\0REL OFF\n", 16), "REL ON\n"}), state);
-        QCOMPARE(firstLineOf({QByteArray("RETURN\0\n", 8)}), line("(no line)"));
     }
 
     void unfinishedLineIsBounded()
@@ -103,18 +96,12 @@ private slots:
         QCOMPARE(read("RETURN:FREQ 1500KHz\n"), line("1500|KHz"));
         QCOMPARE(read("RETURN:FREQ 2.45 GHz"), line("2.45|GHz"));
         QCOMPARE(read("RETURN:FREQ 2.45"), line("2.45|"));
-        QCOMPARE(read("2.45"), line("2.45|"));
         // Without the very prefix the unit stays, and no number is left.
         QCOMPARE(read("2.45GHz"), line("0|"));
-        QCOMPARE(read("return:freq 2.45GHz"), line("0|"));
-        QCOMPARE(read(" RETURN:FREQ 2.45GHz"), line("0|"));
         // A unit is always the last three characters, and goes wherever it stands.
         QCOMPARE(read("RETURN:FREQ 1500Hz"), line("150|0Hz"));
         QCOMPARE(read("RETURN:FREQ 2GHz5GHz"), line("25|GHz"));
-        QCOMPARE(read("RETURN:FREQ 2.45GHz?"), line("0|Hz?"));
-        QCOMPARE(read("RETURN:FREQ Hz"), line("0|Hz"));
         QCOMPARE(read("RETURN:FREQ 2.4\xFFGHz"), line("0|GHz"));
-        QCOMPARE(read("RETURN:FREQ 2,45GHz"), line("0|GHz"));
         QCOMPARE(read(""), line("0|"));
     }
 
@@ -125,19 +112,16 @@ private slots:
             return QStringLiteral("%1|").arg(power.dbm) + power.text;
         };
         QCOMPARE(read("RETURN:GET -20.00dBm,10.00µW\n"), line("-20|10.00µW"));
-        QCOMPARE(read("RETURN:GET 3.5,3.50dBm"), line("3.5|3.50dBm"));
         QCOMPARE(read("RETURN:GET -20.00dBm,"), line("-20|"));
         // A field that is no number is no reading, but says why.
         QCOMPARE(read("RETURN:GET -2\xFF.0dBm,1uW"), line("100|1uW"));
         QCOMPARE(read("RETURN:GET OVERLOAD,OVERLOAD"), line("100|OVERLOAD"));
-        QCOMPARE(read("RETURN:GET nan,---"), line("100|---"));
         QCOMPARE(read("RETURN:GET -infdBm,0W"), line("100|0W"));
         QCOMPARE(read("RETURN:GET ,1uW"), line("100|1uW"));
         // No reading: one field, three, another prefix.
         QCOMPARE(read("RETURN:GET -20.00dBm"), line("100|"));
         QCOMPARE(read("RETURN:GET -20.RETURN:GET -21.00dBm,10.00uW"), line("100|"));
         QCOMPARE(read("RETURN:GET -20.00dBm,10.00uW,0"), line("100|"));
-        QCOMPARE(read("-20.00dBm,10.00uW"), line("100|"));
         QCOMPARE(read("RETURN:GET-20.00dBm,10.00uW"), line("100|"));
     }
 
@@ -147,21 +131,15 @@ private slots:
         QCOMPARE(offset(line("RETURN:OFFS -1.50dB")), -1.5);
         QCOMPARE(offset(line("RETURN:OFFS 3.20 dB\n")), 3.2);
         QCOMPARE(offset(line("1.50")), 1.5);
-        QCOMPARE(offset(line("1.50dB")), 0.0);
-        QCOMPARE(offset(line("RETURN:OFFS 1.50dBm")), 0.0);
 
         QCOMPARE(averageCount(line("RETURN:AVER:COUN 1024")), 1024);
         QCOMPARE(averageCount(line("16")), 16);
         QCOMPARE(averageCount(line("RETURN:AVER:COUN 16.0")), 0);
-        QCOMPARE(averageCount(line("RETURN:AVER:COUN 99999999999")), 0);
 
         // The identity loses its prefix wherever it stands, other texts at their start alone.
         QCOMPARE(identity(line("xRETURN:IDN MZ\n")), line("xMZ"));
-        QCOMPARE(identity(line("RETURN:IDN %1%2")), line("%1%2"));
-        QCOMPARE(powerUnit(line("RETURN:UNIT:POW DBM")), line("DBM"));
         QCOMPARE(powerUnit(line("RETURN:UNIT:POW RETURN:UNIT:POW W")), line("RETURN:UNIT:POW W"));
         QCOMPARE(powerUnit(line("W\n")), line("W"));
-        QCOMPARE(measureState(line("RETURN:REL OFF")), line("OFF"));
         QCOMPARE(measureState(line("RETURN:RELON")), line("RETURN:RELON"));
     }
 
@@ -169,12 +147,9 @@ private slots:
     {
         using ReplyParser::TaskResult;
         const auto result = [](const char *reply) { return ReplyParser::taskResult(line(reply)); };
-        QCOMPARE(result("RETURN:CAL:FAIL"), TaskResult::CalibrationFailed);
-        QCOMPARE(result("RETURN:CAL:ZERO:FAIL"), TaskResult::ZeroFailed);
         QCOMPARE(result("#12 RETURN:CAL:OK done"), TaskResult::CalibrationSucceeded);
         QCOMPARE(result("RETURN:CAL:ZERO:OK RETURN:CAL:FAIL"), TaskResult::CalibrationFailed);
         QCOMPARE(result("RETURN:CAL:ZERO:FAIL RETURN:CAL:ZERO:OK"), TaskResult::ZeroSucceeded);
-        QCOMPARE(result("return:cal:ok"), TaskResult::None);
         QCOMPARE(result("RETURN:CAL:ZERO:"), TaskResult::None);
     }
 
