@@ -2,10 +2,13 @@
 
 #include "2d/form/listchart.h"
 #include "2d/view/graphicsbase.h"
+#include "patterns/svgdevice.h"
 
 #include <QBuffer>
 #include <QChart>
 #include <QFileInfo>
+#include <QFontInfo>
+#include <QGraphicsItem>
 #include <QImageWriter>
 #include <QLegend>
 #include <QPainter>
@@ -81,31 +84,98 @@ QRect chartArea(const GraphicsBase &view)
     return {0, 0, view.width(), qMin(bottom, view.height())};
 }
 
+/// Where the parts of the picture stand.
+struct Layout
+{
+    explicit Layout(const ListChart &form)
+        : left(chartArea(form.polarChart()))
+        , right(chartArea(form.cartesianChart()))
+    {
+        const int width = left.width() + right.width();
+        legend = legendLines(form.curves(), QFontMetrics(form.font()), width);
+        size = {width, qMax(left.height(), right.height()) + legend.size() * lineHeight + margin};
+    }
+
+    QRect left;  ///< of the polar view
+    QRect right; ///< of the cartesian view
+    QVector<LegendLine> legend;
+    QSize size;
+};
+
+/// Lets items paint themselves while it lives, not what they keep of their last painting: that has
+/// the pixels of the screen.
+class NoItemCaches
+{
+public:
+    explicit NoItemCaches(std::initializer_list<QGraphicsScene *> scenes)
+    {
+        for (const QGraphicsScene *scene : scenes) {
+            const QList<QGraphicsItem *> items = scene->items();
+            for (QGraphicsItem *item : items) {
+                if (item->cacheMode() == QGraphicsItem::NoCache)
+                    continue;
+                m_modes.append({item, item->cacheMode()});
+                item->setCacheMode(QGraphicsItem::NoCache);
+            }
+        }
+    }
+    ~NoItemCaches()
+    {
+        for (const auto &[item, mode] : qAsConst(m_modes))
+            item->setCacheMode(mode);
+    }
+    NoItemCaches(const NoItemCaches &) = delete;
+    NoItemCaches &operator=(const NoItemCaches &) = delete;
+
+private:
+    QVector<std::pair<QGraphicsItem *, QGraphicsItem::CacheMode>> m_modes;
+};
+
 } // namespace
 
 namespace ChartPicture {
 
 QImage paint(const ListChart &form, qreal scale)
 {
-    GraphicsBase &left = form.polarChart();
-    GraphicsBase &right = form.cartesianChart();
-    const QRect leftArea = chartArea(left);
-    const QRect rightArea = chartArea(right);
-    const int width = leftArea.width() + rightArea.width();
-    const int height = qMax(leftArea.height(), rightArea.height());
-    const auto legend = legendLines(form.curves(), QFontMetrics(form.font()), width);
-    const QSize size(width, height + legend.size() * lineHeight + margin);
-
-    QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+    QImage image((QSizeF(size(form)) * scale).toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.scale(scale, scale);
-    left.paintPicture(painter, QRectF(leftArea), leftArea);
-    right.paintPicture(painter, QRectF(rightArea.translated(leftArea.width(), 0)), rightArea);
-    painter.setFont(form.font());
-    paintLegend(painter, legend, QRect(0, height, width, size.height() - height));
+    paintOn(painter, form);
     return image;
+}
+
+QSize size(const ListChart &form)
+{
+    const Layout layout(form);
+    return layout.size;
+}
+
+void paintOn(QPainter &painter, const ListChart &form)
+{
+    const Layout layout(form);
+    const NoItemCaches noCaches({form.polarChart().scene(), form.cartesianChart().scene()});
+    form.polarChart().paintPicture(painter, QRectF(layout.left), layout.left);
+    form.cartesianChart().render(&painter, QRectF(layout.right.translated(layout.left.width(), 0)),
+                                 layout.right);
+    QFont font = form.font();
+    font.setPixelSize(QFontInfo(font).pixelSize()); // paper has points of its own
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    const int top = qMax(layout.left.height(), layout.right.height());
+    paintLegend(painter, layout.legend,
+                QRect(0, top, layout.size.width(), layout.size.height() - top));
+}
+
+QByteArray svg(const ListChart &form)
+{
+    SvgDevice device(size(form), form.title());
+    QPainter painter(&device);
+    painter.fillRect(QRect(QPoint(), size(form)), Qt::white);
+    paintOn(painter, form);
+    painter.end();
+    return device.document();
 }
 
 QByteArray encode(const QImage &image, const QString &fileName)

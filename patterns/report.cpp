@@ -3,6 +3,9 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 struct Text
@@ -29,21 +32,26 @@ QString headings(const QStringList &texts)
     QString html;
     for (const QString &text : texts)
         html += QStringLiteral("<th align=\"left\">%1</th>").arg(text.toHtmlEscaped());
-    return QStringLiteral("<tr bgcolor=\"#e8edf2\">%1</tr>\n").arg(html);
+    // Of a head the renderers know that it is repeated on every page.
+    return QStringLiteral("<thead><tr bgcolor=\"#e8edf2\">%1</tr></thead>\n").arg(html);
 }
 
 QString table(const QString &rows)
 {
-    return QStringLiteral("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"100%\" "
+    return QStringLiteral("<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\" "
                           "style=\"border-collapse:collapse; border-color:#9aa5b1\">\n%1</table>\n")
         .arg(rows);
 }
 
 QString nameCell(const ReportCurve &curve)
 {
-    // A coloured letter, since the simpler of the two renderers knows no coloured boxes.
-    return cell(QStringLiteral("<span style=\"color:%1\">&#9608;</span>&nbsp;%2")
-                    .arg(curve.color, curve.name.toHtmlEscaped()));
+    // A name of usual length stays on one line. A coloured letter, since the simpler of the two
+    // renderers knows no coloured boxes.
+    constexpr int usualLength = 28;
+    const bool isUsual = curve.name.size() <= usualLength;
+    return QStringLiteral("<td%1><span style=\"color:%2\">&#9608;</span>&nbsp;%3</td>")
+        .arg(isUsual ? QStringLiteral(" style=\"white-space:nowrap\"") : QString(), curve.color,
+             curve.name.toHtmlEscaped());
 }
 
 QString angles(const ReportCurve &curve)
@@ -55,18 +63,45 @@ QString angles(const ReportCurve &curve)
         .arg(c.toString(curve.firstAngle, 'g', 6), c.toString(curve.lastAngle, 'g', 6));
 }
 
+/// One column of the descriptions: its heading, and what it says of a curve.
+struct Column
+{
+    QString heading;
+    std::function<QString(const ReportCurve &)> text;
+};
+
+/// Columns that say nothing of any curve are left out.
 QString descriptions(const Report &report)
 {
-    QString rows = headings({Text::tr("Curve"), Text::tr("Frequency (MHz)"), Text::tr("Material"),
-                             Text::tr("Points"), Text::tr("Angles"), Text::tr("Loss correction"),
-                             Text::tr("File"), Text::tr("Notes")});
+    const QVector<Column> all{
+        {Text::tr("Frequency (MHz)"), [](const ReportCurve &curve) { return curve.frequency; }},
+        {Text::tr("Material"), [](const ReportCurve &curve) { return curve.material; }},
+        {Text::tr("Points"),
+         [](const ReportCurve &curve) { return QString::number(curve.points); }},
+        {Text::tr("Angles"), angles},
+        {Text::tr("Loss correction"), [](const ReportCurve &curve) { return curve.correction; }},
+        {Text::tr("File"), [](const ReportCurve &curve) { return curve.file; }},
+        {Text::tr("Notes"),
+         [](const ReportCurve &curve) { return curve.notes.join(QLatin1Char('\n')); }}};
+    QVector<Column> columns;
+    QStringList names{Text::tr("Curve")};
+    for (const Column &column : all) {
+        const bool isUsed =
+            std::any_of(report.curves.begin(), report.curves.end(),
+                        [&](const ReportCurve &curve) { return !column.text(curve).isEmpty(); });
+        if (!isUsed)
+            continue;
+        columns.append(column);
+        names.append(column.heading);
+    }
+    QString rows = headings(names);
     for (const ReportCurve &curve : report.curves) {
-        const QString notes = curve.notes.join(QLatin1Char('\n')).toHtmlEscaped();
-        rows += QStringLiteral("<tr>%1%2%3</tr>\n")
-                    .arg(nameCell(curve),
-                         cells({curve.frequency, curve.material, QString::number(curve.points),
-                                angles(curve), curve.correction, curve.file}),
-                         cell(QString(notes).replace(QLatin1Char('\n'), QStringLiteral("<br>"))));
+        QString texts;
+        for (const Column &column : qAsConst(columns)) {
+            texts += cell(column.text(curve).toHtmlEscaped().replace(QLatin1Char('\n'),
+                                                                     QStringLiteral("<br>")));
+        }
+        rows += QStringLiteral("<tr>%1%2</tr>\n").arg(nameCell(curve), texts);
     }
     return table(rows);
 }
@@ -121,7 +156,8 @@ QString reportHtml(const Report &report)
     html += section(Text::tr("Pattern parameters"),
                     figures(report.curves, report.figureHeadings, &ReportCurve::figures));
     html +=
-        section(Text::tr("Supplementary (textbook definitions)"),
+        section(Text::tr("Supplementary (textbook definitions, nulls from %1 dB)")
+                    .arg(QString::number(report.nullProminence)),
                 figures(report.curves, report.supplementaryHeadings, &ReportCurve::supplementary));
     if (!report.verdicts.isEmpty())
         html += section(Text::tr("Mask limits"), verdicts(report));

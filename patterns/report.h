@@ -42,6 +42,7 @@ struct Report
     QSize pictureSize; ///< in which it is shown, pixels
     QStringList figureHeadings;
     QStringList supplementaryHeadings;
+    double nullProminence = 1.0; ///< of the supplementary figures, dB
     QVector<ReportCurve> curves;
     QVector<ReportVerdict> verdicts;
 };

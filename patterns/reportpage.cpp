@@ -5,10 +5,14 @@
 #include "patterns/chartpicture.h"
 #include "patterns/report.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QFileInfo>
+#include <QPainter>
 #include <QPdfWriter>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <QTextObjectInterface>
 #include <QUrl>
 
 #include <algorithm>
@@ -20,7 +24,7 @@ constexpr qreal pictureScale = 2.0;
 constexpr int htmlWidth = 960; // pixels
 /// The layout of a page is made in pixels of 1/96 inch.
 constexpr qreal layoutDots = 96.0;
-constexpr qreal pageFont = 8.0; // points
+constexpr qreal pageFont = 7.5; // points
 
 ReportCurve reportCurve(const ListChart &form, int id)
 {
@@ -77,12 +81,55 @@ Report report(const ListChart &form, const QSize &pictureSize, int width)
     for (const CurveFigures &one : figures) {
         ReportCurve curve = reportCurve(form, one.id);
         curve.figures = frequencyTableCells(one.parameters, QString()).mid(1);
+        report.nullProminence = one.options.nullProminence;
         curve.supplementary = supplementCells(one, form.supplementColumns());
         report.curves.append(curve);
     }
     report.verdicts = verdicts(form);
     return report;
 }
+
+/// The charts within a text, painted as lines.
+class ChartObject : public QObject, public QTextObjectInterface
+{
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+
+public:
+    ChartObject(const ListChart &form, const QSize &size)
+        : m_form(form)
+        , m_size(size)
+    {}
+
+    void takePlaceOfImage(QTextDocument &document)
+    {
+        constexpr int kind = QTextFormat::UserObject + 1;
+        document.documentLayout()->registerHandler(kind, this);
+        const QString character(QChar::ObjectReplacementCharacter);
+        QTextCursor image = document.find(character);
+        QTextCharFormat format;
+        format.setObjectType(kind);
+        if (!image.isNull())
+            image.insertText(character, format);
+    }
+
+    QSizeF intrinsicSize(QTextDocument *, int, const QTextFormat &) override { return m_size; }
+
+    void drawObject(QPainter *painter, const QRectF &rect, QTextDocument *, int,
+                    const QTextFormat &) override
+    {
+        const QSizeF full = ChartPicture::size(m_form);
+        painter->save();
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / full.width(), rect.height() / full.height());
+        ChartPicture::paintOn(*painter, m_form);
+        painter->restore();
+    }
+
+private:
+    const ListChart &m_form;
+    QSizeF m_size;
+};
 
 } // namespace
 
@@ -112,6 +159,25 @@ QByteArray pdf(const ListChart &form)
     return bytes;
 }
 
+QByteArray chartPdf(const ListChart &form)
+{
+    const QSizeF size = ChartPicture::size(form);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(form.title());
+    writer.setCreator(QStringLiteral("mz6218-patterns"));
+    writer.setPageSize(QPageSize(size / layoutDots, QPageSize::Inch));
+    writer.setPageMargins(QMarginsF());
+    QPainter painter(&writer);
+    const qreal scale = writer.resolution() / layoutDots;
+    painter.scale(scale, scale);
+    ChartPicture::paintOn(painter, form);
+    painter.end();
+    return bytes;
+}
+
 QByteArray document(const ListChart &form, const QString &fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix();
@@ -129,12 +195,14 @@ void print(const ListChart &form, QPagedPaintDevice &device)
     document.setDocumentMargin(0.0);
     document.setPageSize(paper);
 
-    const QImage picture = ChartPicture::paint(form, pictureScale);
-    Report page = report(form, picture.size(), int(paper.width()));
+    Report page = report(form, ChartPicture::size(form), int(paper.width()));
     page.picture = QStringLiteral("report:picture");
-    document.addResource(QTextDocument::ImageResource, QUrl(page.picture), picture);
     document.setHtml(reportHtml(page));
+    ChartObject chart(form, page.pictureSize);
+    chart.takePlaceOfImage(document);
     document.print(&device);
 }
 
 } // namespace ReportPage
+
+#include "reportpage.moc"

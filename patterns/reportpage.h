@@ -18,6 +18,9 @@ QByteArray pdf(const ListChart &form);
 /// HTML, or PDF for a \a fileName of that suffix.
 QByteArray document(const ListChart &form, const QString &fileName);
 
+/// The charts alone as a PDF document of one page of their size.
+QByteArray chartPdf(const ListChart &form);
+
 /// Paints the report onto the pages of \a device, for instance a printer.
 void print(const ListChart &form, QPagedPaintDevice &device);
 

@@ -76,7 +76,9 @@ void SaveActions::askPicture()
     const QString file =
         ask(tr("Save Picture"), fileNameFrom(m_desk.form().title(), tr("patterns")),
             {{tr("PNG picture"), {QStringLiteral("png")}},
-             {tr("JPEG picture"), {QStringLiteral("jpg"), QStringLiteral("jpeg")}}});
+             {tr("JPEG picture"), {QStringLiteral("jpg"), QStringLiteral("jpeg")}},
+             {tr("SVG drawing"), {QStringLiteral("svg")}},
+             {tr("PDF drawing"), {QStringLiteral("pdf")}}});
     if (!file.isEmpty())
         savePicture(file);
 }
@@ -169,11 +171,17 @@ bool SaveActions::saveOne(int id, const QString &file)
 
 bool SaveActions::savePicture(const QString &file)
 {
-    const QByteArray content =
-        ChartPicture::encode(ChartPicture::paint(m_desk.form(), pictureScale), file);
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    QByteArray content;
+    if (suffix == QStringLiteral("svg"))
+        content = ChartPicture::svg(m_desk.form());
+    else if (suffix == QStringLiteral("pdf"))
+        content = ReportPage::chartPdf(m_desk.form());
+    else
+        content = ChartPicture::encode(ChartPicture::paint(m_desk.form(), pictureScale), file);
     if (content.isEmpty()) {
-        m_desk.warn(
-            tr("\"%1\" is no format for pictures: use png or jpg.").arg(QFileInfo(file).suffix()));
+        m_desk.warn(tr("\"%1\" is no format for pictures: use png, jpg, svg or pdf.")
+                        .arg(QFileInfo(file).suffix()));
         return false;
     }
     return m_desk.save(file, content);

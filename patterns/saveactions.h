@@ -22,7 +22,7 @@ public:
 
     /// These write the file whole or leave it as it was, and tell the user what went wrong.
     bool saveCurve(const QString &file);
-    /// PNG or JPEG by its suffix.
+    /// PNG, JPEG, SVG or PDF by its suffix.
     bool savePicture(const QString &file);
     /// HTML, or PDF for a file of that suffix.
     bool saveReport(const QString &file);

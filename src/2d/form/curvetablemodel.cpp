@@ -92,7 +92,7 @@ QVariant CurveTableModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return text(id, column);
     case Qt::ToolTipRole:
-        return toolTip(id, column);
+        return plainToolTip(toolTip(id, column));
     case Qt::DecorationRole:
         return column == Name ? QVariant(curveSwatch(m_curves.color(id))) : QVariant();
     case Qt::CheckStateRole:

@@ -408,7 +408,7 @@ void ListChart::refreshFigures()
         ui->paraTable->updateParaInfo(one.parameters, row + 1,
                                       frequency.isEmpty() ? QStringLiteral("\u2013") : frequency);
         ui->paraTable->item(row, 0)->setIcon(curveSwatch(color));
-        ui->paraTable->item(row, 0)->setToolTip(name);
+        ui->paraTable->item(row, 0)->setToolTip(plainToolTip(name));
         ui->supplementaryTable->updateFigures(one, row + 1, name, color);
     }
 }
@@ -444,7 +444,9 @@ void ListChart::followLevels(const GraphicsBase &view)
 void ListChart::setUpHint()
 {
     auto *layout = new QVBoxLayout(m_cartesian->viewport());
+    layout->setContentsMargins(80, 40, 40, 60); // between the axes
     m_hint = new QLabel(m_cartesian->viewport());
+    m_hint->setStyleSheet(QStringLiteral("background: white; padding: 8px;"));
     m_hint->setObjectName(QStringLiteral("emptyHint"));
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setWordWrap(true);

@@ -70,6 +70,6 @@ QVariant PointTableModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::DecorationRole && isAngle)
         return curveSwatch(curve.color);
     if (role == Qt::ToolTipRole)
-        return curve.name;
+        return plainToolTip(curve.name);
     return {};
 }

@@ -45,7 +45,7 @@ void SupplementaryTable::updateFigures(const CurveFigures &figures, int count, c
     const QStringList cells = QStringList(name) + supplementCells(figures, m_columns);
     for (int column = 0; column < cells.size(); ++column) {
         auto *item = new QTableWidgetItem(cells.at(column));
-        item->setToolTip(cells.at(column));
+        item->setToolTip(plainToolTip(cells.at(column)));
         setItem(count - 1, column, item);
     }
     item(count - 1, 0)->setIcon(curveSwatch(color));

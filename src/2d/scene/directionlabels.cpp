@@ -1,5 +1,6 @@
 #include "2d/scene/directionlabels.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QtMath>
@@ -23,7 +24,9 @@ void DirectionLabels::show(const PolarView &view, const QRectF &plotArea, const 
     prepareGeometryChange();
     m_view = view;
     m_plotArea = plotArea;
+    // On paper points would be taken for those of the page, the plot area for that of the screen.
     m_font = font;
+    m_font.setPixelSize(QFontInfo(font).pixelSize());
     update();
 }
 

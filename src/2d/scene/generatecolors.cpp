@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QPixmap>
+#include <QTextDocument>
 
 #include <array>
 
@@ -30,4 +31,10 @@ QIcon curveSwatch(const QColor &color)
     // Its own, or a selected row would tint the colour.
     swatch.addPixmap(field, QIcon::Selected);
     return swatch;
+}
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped())
+                                     : text;
 }

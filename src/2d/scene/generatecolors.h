@@ -19,6 +19,9 @@ public:
     static QList<QColor> colors;
 };
 
+/// \a text as a tool tip shows it: names with "<" or "&" in them are no rich text.
+QString plainToolTip(const QString &text);
+
 /// The colour of a new curve: the first seven differ in brightness too, so that they stay apart for
 /// eyes that mix up red and green; from the eighth on they come again, darker.
 QColor curveColor(int pathId);

@@ -665,6 +665,13 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>KeyboardSplitter</name>
+    <message>
+        <source>Border between panes, moved with the arrow keys</source>
+        <translation>窗格之间的边界，用方向键移动</translation>
+    </message>
+</context>
+<context>
     <name>LimitWatch</name>
     <message>
         <source>above %1</source>
@@ -3102,10 +3109,6 @@ correction</source>
         <translation>方向图参数</translation>
     </message>
     <message>
-        <source>Supplementary (textbook definitions)</source>
-        <translation>补充参数（按教科书定义）</translation>
-    </message>
-    <message>
         <source>Notes</source>
         <translation>备注</translation>
     </message>
@@ -3136,6 +3139,10 @@ correction</source>
     <message>
         <source>Mask limits</source>
         <translation>限值掩模</translation>
+    </message>
+    <message>
+        <source>Supplementary (textbook definitions, nulls from %1 dB)</source>
+        <translation>补充参数（教科书定义，零点不小于 %1 dB）</translation>
     </message>
 </context>
 <context>
@@ -3231,10 +3238,6 @@ correction</source>
         <translation>PDF 报告</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
-        <translation>“%1”不是图像格式：请使用 png 或 jpg。</translation>
-    </message>
-    <message>
         <source>Folder for the Curves</source>
         <translation>曲线文件夹</translation>
     </message>
@@ -3275,6 +3278,18 @@ correction</source>
     <message>
         <source>The pattern cannot be written:</source>
         <translation>无法写出方向图：</translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation>SVG 矢量图</translation>
+    </message>
+    <message>
+        <source>PDF drawing</source>
+        <translation>PDF 矢量图</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no format for pictures: use png, jpg, svg or pdf.</source>
+        <translation>“%1”不是图片格式：请使用 png、jpg、svg 或 pdf。</translation>
     </message>
 </context>
 <context>

@@ -665,6 +665,13 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>KeyboardSplitter</name>
+    <message>
+        <source>Border between panes, moved with the arrow keys</source>
+        <translation>Border between panes, moved with the arrow keys</translation>
+    </message>
+</context>
+<context>
     <name>LimitWatch</name>
     <message>
         <source>above %1</source>
@@ -3102,10 +3109,6 @@ correction</translation>
         <translation>Pattern parameters</translation>
     </message>
     <message>
-        <source>Supplementary (textbook definitions)</source>
-        <translation>Supplementary (textbook definitions)</translation>
-    </message>
-    <message>
         <source>Notes</source>
         <translation>Notes</translation>
     </message>
@@ -3136,6 +3139,10 @@ correction</translation>
     <message>
         <source>Mask limits</source>
         <translation>Mask limits</translation>
+    </message>
+    <message>
+        <source>Supplementary (textbook definitions, nulls from %1 dB)</source>
+        <translation>Supplementary (textbook definitions, nulls from %1 dB)</translation>
     </message>
 </context>
 <context>
@@ -3231,10 +3238,6 @@ correction</translation>
         <translation>PDF report</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format for pictures: use png or jpg.</source>
-        <translation>&quot;%1&quot; is no format for pictures: use png or jpg.</translation>
-    </message>
-    <message>
         <source>Folder for the Curves</source>
         <translation>Folder for the Curves</translation>
     </message>
@@ -3275,6 +3278,18 @@ correction</translation>
     <message>
         <source>The pattern cannot be written:</source>
         <translation>The pattern cannot be written:</translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation>SVG drawing</translation>
+    </message>
+    <message>
+        <source>PDF drawing</source>
+        <translation>PDF drawing</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no format for pictures: use png, jpg, svg or pdf.</source>
+        <translation>&quot;%1&quot; is no format for pictures: use png, jpg, svg or pdf.</translation>
     </message>
 </context>
 <context>
