@@ -43,6 +43,7 @@ const QVector<Group> &groups()
         duelGroup(QStringLiteral("files"), Cases::curveFiles),
         duelGroup(QStringLiteral("pattern"), Cases::patternAnalysis),
         duelGroup(QStringLiteral("losses"), Cases::lossTable),
+        duelGroup(QStringLiteral("records"), Cases::records),
         duelGroup(QStringLiteral("start"), measureStart),
     };
     return all;
@@ -75,7 +76,7 @@ int main(int argc, char **argv)
     if (!knowsAll(wanted)) {
         QTextStream(stderr) << "usage: mz_bench [--check | --store] [tick | curves | shapes | "
                                "polar | files | pattern | "
-                               "losses | start] ...\n";
+                               "losses | records | start] ...\n";
         return 2;
     }
     QTextStream out(stdout);

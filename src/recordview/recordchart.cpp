@@ -93,7 +93,7 @@ void RecordChart::setData(const RecordData *record, bool keepRange)
 
 void RecordChart::refresh()
 {
-    show(m_shown);
+    showRange(m_shown);
 }
 
 void RecordChart::showAll()
@@ -102,7 +102,7 @@ void RecordChart::showAll()
         return;
     setFitsLevel(true);
     const double margin = std::max(0.01 * (m_data->end() - m_data->begin()), 0.5);
-    show({m_data->begin() - margin, m_data->end() + margin, m_shown.yMin, m_shown.yMax});
+    showRange({m_data->begin() - margin, m_data->end() + margin, m_shown.yMin, m_shown.yMax});
 }
 
 void RecordChart::setFitsLevel(bool fits)
@@ -114,7 +114,7 @@ void RecordChart::setFitsLevel(bool fits)
     refresh();
 }
 
-void RecordChart::show(ViewRange range)
+void RecordChart::showRange(ViewRange range)
 {
     if (range.xMax - range.xMin < shortestTime)
         range.xMax = range.xMin + shortestTime;
@@ -181,15 +181,15 @@ void RecordChart::zoomTime(double centre, double factor)
     const double longest = 10.0 * std::max(1.0, m_data->end() - m_data->begin());
     const double length = m_shown.xMax - m_shown.xMin;
     const double wanted = std::clamp(length * factor, shortestTime, longest) / length;
-    show({centre + (m_shown.xMin - centre) * wanted, centre + (m_shown.xMax - centre) * wanted,
-          m_shown.yMin, m_shown.yMax});
+    showRange({centre + (m_shown.xMin - centre) * wanted, centre + (m_shown.xMax - centre) * wanted,
+               m_shown.yMin, m_shown.yMax});
 }
 
 void RecordChart::zoomLevel(double centre, double factor)
 {
     setFitsLevel(false);
-    show({m_shown.xMin, m_shown.xMax, centre + (m_shown.yMin - centre) * factor,
-          centre + (m_shown.yMax - centre) * factor});
+    showRange({m_shown.xMin, m_shown.xMax, centre + (m_shown.yMin - centre) * factor,
+               centre + (m_shown.yMax - centre) * factor});
 }
 
 void RecordChart::zoomIn()
@@ -206,7 +206,7 @@ void RecordChart::pan(double widths, double heights)
 {
     if (heights < 0.0 || heights > 0.0)
         setFitsLevel(false);
-    show(m_shown.movedBy(widths, heights));
+    showRange(m_shown.movedBy(widths, heights));
 }
 
 void RecordChart::wheelEvent(QWheelEvent *event)
@@ -255,7 +255,7 @@ void RecordChart::stepCursor(int points)
     setCursorPoint(m_active, m_cursors[m_active] + points);
     const double time = m_data->time(m_cursors[m_active]);
     const double edge = std::clamp(time, m_shown.xMin, m_shown.xMax);
-    show(m_shown.movedBy((time - edge) / (m_shown.xMax - m_shown.xMin), 0.0));
+    showRange(m_shown.movedBy((time - edge) / (m_shown.xMax - m_shown.xMin), 0.0));
 }
 
 /// The cursor at \a position, -1 for none.
@@ -297,8 +297,8 @@ void RecordChart::mouseMoveEvent(QMouseEvent *event)
         m_drag = Drag::Pan;
         viewport()->setCursor(Qt::ClosedHandCursor);
         const QRectF area = m_stage.plotArea();
-        show(m_pressedRange.movedBy(-way.x() / area.width(),
-                                    m_fitsLevel ? 0.0 : way.y() / area.height()));
+        showRange(m_pressedRange.movedBy(-way.x() / area.width(),
+                                         m_fitsLevel ? 0.0 : way.y() / area.height()));
     }
 }
 

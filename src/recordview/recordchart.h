@@ -61,7 +61,7 @@ protected:
 
 private:
     bool hasData() const { return m_data && !m_data->isEmpty(); }
-    void show(ViewRange range);
+    void showRange(ViewRange range);
     void applyAxes();
     void zoomTime(double centre, double factor);
     void zoomLevel(double centre, double factor);
