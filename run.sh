@@ -12,6 +12,7 @@ usage: ./run.sh [--language en|cn]                        a simulated instrument
        ./run.sh [--language en|cn] --lan ADDRESS          an instrument in the network
        ./run.sh [--language en|cn] --serial PORT[:BAUD]   an instrument at a serial port
        ./run.sh --workbench [FILE...]                     the antenna pattern workbench
+       ./run.sh [--language en|cn] --pattern-demo         a pattern measured in a simulated chamber
 
 Installs what is missing (with sudo where needed, and it says what), builds into build/ and starts.
 Without an address or a port the console is connected to a simulated MZ6218, which ends with it.
@@ -29,6 +30,7 @@ TEXT
 console_options=()
 simulated=true
 workbench=false
+demo=false
 read_options() {
     while [[ $# -gt 0 ]]; do
         case $1 in
@@ -41,6 +43,10 @@ read_options() {
             console_options+=("$1" "$2")
             [[ $1 == --language ]] || simulated=false
             shift 2
+            ;;
+        --pattern-demo)
+            demo=true
+            shift
             ;;
         --workbench)
             workbench=true
@@ -209,12 +215,38 @@ if $workbench; then
     exec "$programs/mz6218-patterns" "${workbench_files[@]}"
 fi
 
-build mz6218 mz6218-sim
+run_demo() {
+    has_display || { echo "The workbench needs a display." >&2 && exit 1; }
+    # Ports that other programs hold are not the demonstration's concern.
+    local chamber=(--pattern patterns/samples/horn.csv --rotator-speed 60) rotator
+    try_simulator "${chamber[@]}" --rotator 4533 || try_simulator --port 0 "${chamber[@]}" --rotator 0 || {
+        echo "The simulated chamber did not start:" >&2
+        cat "$state/simulator-errors.txt" >&2
+        exit 1
+    }
+    rotator=$(sed -n 's/^Rotator on //p' "$state/simulator.txt")
+    local meter
+    meter=$(sed -n 's/^Listening on //p' "$state/simulator.txt")
+    echo "The chamber: meter at $meter, rotator at $rotator. Press Check, then Start."
+    "$programs/mz6218-patterns" "${console_options[@]}" --measure "$meter" --rotator "$rotator" &
+    console_pid=$!
+    console_ends
+}
+
+if $demo; then
+    build mz6218-patterns mz6218-sim
+else
+    build mz6218 mz6218-sim
+fi
 trap stop_all EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 trap 'exit 129' HUP
 state=$(mktemp -d)
+if $demo; then
+    run_demo
+    exit
+fi
 if $simulated; then
     start_simulator
 fi

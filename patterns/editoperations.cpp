@@ -1,5 +1,6 @@
 #include "patterns/editoperations.h"
 
+#include "patterns/measure/gaincomparison.h"
 #include "patterns/setoperations.h"
 #include "patterns/singleoperations.h"
 
@@ -14,5 +15,6 @@ std::vector<std::unique_ptr<CurveOperation>> editOperations()
     operations.push_back(SetOperations::envelope());
     operations.push_back(SetOperations::compare());
     operations.push_back(SetOperations::loadMask());
+    operations.push_back(GainComparison::operation());
     return operations;
 }

@@ -7,13 +7,13 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 
 usage() {
     cat <<'TEXT'
-usage: scripts/campaign.sh faults|files|recorder|watch|week [OPTION...]
+usage: scripts/campaign.sh faults|files|recorder|sweep|watch|week [OPTION...]
 
   --slice         a few jobs only, as among the tests
   --only TEXT     only the jobs whose names hold this text
   --list          only lists the names of the jobs
   --jobs N        how many at a time (two a core)
-  --scenarios N   random combinations beside the systematic ones (200; faults)
+  --scenarios N   random combinations beside the systematic ones (200; faults), or runs (200; sweep)
   --seed S        the same seed gives the same combinations or the same week (1)
   --days N        length of the run (7; watch, week)
   --keep          keeps records and logs beside the program (week)
@@ -27,6 +27,7 @@ faults) program=mz_faultcampaign ;;
 files) program=mz_filecampaign ;;
 watch) program=mz_watchrun ;;
 recorder) program=mz_recordcampaign ;;
+sweep) program=mz_sweepcampaign ;;
 week) program=mz_longrun ;;
 -h | --help)
     usage
@@ -70,7 +71,7 @@ case $campaign in
 faults) names=$("$program" list ${slice:-"$scenarios" "$seed"}) ;;
 files) names=$("$program" list) ;;
 recorder) names=$("$program" list $slice) ;;
-watch | week) names=$campaign ;;
+sweep | watch | week) names=$campaign ;;
 esac
 names=$(grep -F -- "$only" <<<"$names") || { echo "There is no such job." >&2 && exit 2; }
 if [[ -n $list ]]; then
@@ -124,9 +125,11 @@ report() {
         }'
 }
 
-if [[ $campaign == w* ]]; then
+if [[ $campaign == w* || $campaign == sweep ]]; then
     code=0
-    "$program" ${slice:-"$days" "$seed"} $keep >"$folder/out" || code=$?
+    runs=$days
+    [[ $campaign != sweep ]] || runs=$scenarios
+    "$program" ${slice:-"$runs" "$seed"} $keep >"$folder/out" || code=$?
     report <"$folder/out" || code=1
     exit $code
 fi

@@ -2,6 +2,7 @@
 
 #include "sweep/crashstop.h"
 
+#include <QDeadlineTimer>
 #include <QNetworkProxy>
 
 #include <algorithm>
@@ -48,10 +49,8 @@ void RotatorClient::open(const QString &host, quint16 port)
 void RotatorClient::close()
 {
     m_socket.blockSignals(true);
-    if (m_mayTurn && m_socket.state() == QAbstractSocket::ConnectedState) {
-        m_socket.write(stopLine);
-        m_socket.flush();
-    }
+    if (m_mayTurn && m_socket.state() == QAbstractSocket::ConnectedState)
+        stopForGood();
     CrashStop::forget();
     m_mayTurn = false;
     m_socket.disconnectFromHost();
@@ -62,6 +61,20 @@ void RotatorClient::close()
     m_orders.clear();
     m_command = Command::None;
     m_isUp = false;
+}
+
+/// A connection that is cut with replies unread may take the stop with it: waits for the answer, in
+/// no longer than nobody notices.
+void RotatorClient::stopForGood()
+{
+    constexpr int limit = 80; // ms
+    QDeadlineTimer deadline(limit);
+    m_socket.readAll();
+    m_socket.write(stopLine);
+    QByteArray answer;
+    while (!answer.contains("RPRT") && !deadline.hasExpired() &&
+           m_socket.waitForReadyRead(int(deadline.remainingTime())))
+        answer += m_socket.readAll();
 }
 
 void RotatorClient::connectNow()

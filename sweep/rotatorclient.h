@@ -75,6 +75,7 @@ private:
         QByteArray bytes;
     };
 
+    void stopForGood();
     void connectNow();
     void connected();
     void lose(const QString &reason);

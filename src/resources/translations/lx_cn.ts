@@ -646,6 +646,69 @@ correction</source>
     </message>
 </context>
 <context>
+    <name>GainByComparison</name>
+    <message>
+        <source>&amp;Gain by Comparison...</source>
+        <translation>比较法求增益(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Turns the selected curve into dBi by a reference antenna of known gain</source>
+        <translation>用已知增益的参考天线把所选曲线换算为 dBi</translation>
+    </message>
+    <message>
+        <source>%1, dBi</source>
+        <translation>%1，dBi</translation>
+    </message>
+    <message>
+        <source>Gain of &quot;%1&quot; by comparison with &quot;%2&quot;: G = G_ref + P - P_ref + L - L_ref with G_ref %3 dBi, P_ref %4 dBm, L %5 dB, L_ref %6 dB</source>
+        <translation>“%1”与“%2”比较所得增益：G = G_ref + P - P_ref + L - L_ref，其中 G_ref %3 dBi，P_ref %4 dBm，L %5 dB，L_ref %6 dB</translation>
+    </message>
+    <message>
+        <source>; their frequencies differ</source>
+        <translation>；两者频率不同</translation>
+    </message>
+    <message>
+        <source>Gain by Comparison</source>
+        <translation>比较法求增益</translation>
+    </message>
+    <message>
+        <source>&amp;Reference:</source>
+        <translation>参考曲线(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Its &amp;gain:</source>
+        <translation>其增益(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>The gain of the reference antenna at this frequency</source>
+        <translation>参考天线在该频率的增益</translation>
+    </message>
+    <message>
+        <source>Its &amp;level:</source>
+        <translation>其电平(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Measured where the reference looks at the source: its peak</source>
+        <translation>参考天线对准信号源时的测量值：其峰值</translation>
+    </message>
+    <message>
+        <source>Lo&amp;ss:</source>
+        <translation>损耗(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Of cables and attenuators when the antenna was measured</source>
+        <translation>测量被测天线时电缆和衰减器的损耗</translation>
+    </message>
+    <message>
+        <source>Loss, re&amp;ference:</source>
+        <translation>参考损耗(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Of cables and attenuators when the reference was measured</source>
+        <translation>测量参考天线时电缆和衰减器的损耗</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsBase</name>
     <message>
         <source>Last %1 minutes</source>

@@ -646,6 +646,69 @@ correction</translation>
     </message>
 </context>
 <context>
+    <name>GainByComparison</name>
+    <message>
+        <source>&amp;Gain by Comparison...</source>
+        <translation>&amp;Gain by Comparison...</translation>
+    </message>
+    <message>
+        <source>Turns the selected curve into dBi by a reference antenna of known gain</source>
+        <translation>Turns the selected curve into dBi by a reference antenna of known gain</translation>
+    </message>
+    <message>
+        <source>%1, dBi</source>
+        <translation>%1, dBi</translation>
+    </message>
+    <message>
+        <source>Gain of &quot;%1&quot; by comparison with &quot;%2&quot;: G = G_ref + P - P_ref + L - L_ref with G_ref %3 dBi, P_ref %4 dBm, L %5 dB, L_ref %6 dB</source>
+        <translation>Gain of &quot;%1&quot; by comparison with &quot;%2&quot;: G = G_ref + P - P_ref + L - L_ref with G_ref %3 dBi, P_ref %4 dBm, L %5 dB, L_ref %6 dB</translation>
+    </message>
+    <message>
+        <source>; their frequencies differ</source>
+        <translation>; their frequencies differ</translation>
+    </message>
+    <message>
+        <source>Gain by Comparison</source>
+        <translation>Gain by Comparison</translation>
+    </message>
+    <message>
+        <source>&amp;Reference:</source>
+        <translation>&amp;Reference:</translation>
+    </message>
+    <message>
+        <source>Its &amp;gain:</source>
+        <translation>Its &amp;gain:</translation>
+    </message>
+    <message>
+        <source>The gain of the reference antenna at this frequency</source>
+        <translation>The gain of the reference antenna at this frequency</translation>
+    </message>
+    <message>
+        <source>Its &amp;level:</source>
+        <translation>Its &amp;level:</translation>
+    </message>
+    <message>
+        <source>Measured where the reference looks at the source: its peak</source>
+        <translation>Measured where the reference looks at the source: its peak</translation>
+    </message>
+    <message>
+        <source>Lo&amp;ss:</source>
+        <translation>Lo&amp;ss:</translation>
+    </message>
+    <message>
+        <source>Of cables and attenuators when the antenna was measured</source>
+        <translation>Of cables and attenuators when the antenna was measured</translation>
+    </message>
+    <message>
+        <source>Loss, re&amp;ference:</source>
+        <translation>Loss, re&amp;ference:</translation>
+    </message>
+    <message>
+        <source>Of cables and attenuators when the reference was measured</source>
+        <translation>Of cables and attenuators when the reference was measured</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsBase</name>
     <message>
         <source>Last %1 minutes</source>
