@@ -67,7 +67,7 @@ void RotatorClient::close()
 /// no longer than nobody notices.
 void RotatorClient::stopForGood()
 {
-    constexpr int limit = 80; // ms
+    constexpr int limit = 50; // ms
     QDeadlineTimer deadline(limit);
     m_socket.readAll();
     m_socket.write(stopLine);

@@ -159,17 +159,15 @@ void SweepSession::connectDevices()
 
 void SweepSession::takePosition(int code, double azimuth)
 {
-    if (m_locating && code == RotatorText::done) {
+    if (m_locating) {
+        // An error now is one of the first move's as well, which counts its tries.
+        if (code != RotatorText::done)
+            azimuth = m_devices->findings().azimuth;
         m_locating = false;
         m_pointBegan = m_clock.elapsed();
         m_run->setLinks(m_clock.elapsed(), m_devices->isMeterUp(), m_devices->isRotatorUp());
         m_run->start(m_clock.elapsed(), m_store.run().left(m_layout.points), azimuth,
                      m_job.returns);
-    } else if (m_locating) {
-        QTimer::singleShot(1000, this, [this] {
-            if (m_locating)
-                m_devices->rotator().readPosition();
-        });
     } else {
         m_run->tableRead(m_clock.elapsed(), code, azimuth);
     }
@@ -267,6 +265,7 @@ void SweepSession::stop()
         return;
     m_locating = false;
     m_run->stop(m_clock.elapsed(), m_job.returns);
+    m_store.writeCurve(); // not only when the table is back
     look();
 }
 

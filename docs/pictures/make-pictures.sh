@@ -219,6 +219,44 @@ lines_and_report() {
     stop
 }
 
+# bench: how source, table, meter and computer stand together.
+bench() {
+    convert -size 486x150 xc:white -fill none -stroke '#0a6ebd' -strokewidth 2 \
+        -draw 'polygon 20,52 62,34 62,88 20,70' -draw 'polygon 330,40 372,58 372,66 330,84' \
+        -draw 'line 351,76 351,104' -draw 'rectangle 322,104 380,116' -draw 'arc 306,98 396,134 20,160' \
+        -stroke '#9aa5b1' -draw 'stroke-dasharray 6 5 line 72,61 320,61' \
+        -stroke '#0a6ebd' -draw 'rectangle 410,40 474,84' -draw 'line 372,62 410,62' \
+        -stroke none -fill '#20303c' -font DejaVu-Sans -pointsize 12 \
+        -draw "text 20,110 'source'" -draw "text 150,52 '>= 2D^2 / lambda'" \
+        -draw "text 326,30 'AUT'" -draw "text 402,128 'rotctld'" -draw "text 416,66 'MZ6218'" \
+        "$work/bench.png"
+}
+
+# measuring LANGUAGE SUFFIX: bench and dialog beside the curve as it grows.
+measuring() {
+    "$programs/mz6218-sim" --listen "$instrument" --pattern patterns/samples/horn.csv \
+        --rotator 0 --rotator-speed 60 --noise 0.02 >"$work/simulator" &
+    local simulator=$!
+    children+=("$simulator")
+    until grep -qs '^Listening' "$work/simulator"; do sleep 0.1; done
+    start_screen 1280x800
+    rm -rf "$work/settings"
+    HOME=$work XDG_CONFIG_HOME=$work/settings start "$work" "$programs/mz6218-patterns" --language "$1" \
+        --measure "$instrument" --rotator "$(sed -n 's/^Rotator on //p' "$work/simulator")"
+    press alt+k
+    sleep 2
+    import -window "$(top_window)" "$work/dialog.png"
+    press alt+s
+    xdotool windowmove "$(top_window)" 0 0 windowsize "$(top_window)" 1280 800
+    sleep 70
+    import -window root "$work/live.png"
+    bench
+    convert \( "$work/bench.png" "$work/dialog.png" -background white -append \) "$work/live.png" +append \
+        -strip +dither -colors 128 "PNG8:$pictures/measuring$2.png"
+    stop
+    kill "$simulator"
+}
+
 for language in en cn; do
     suffix=
     [[ $language == en ]] || suffix=-$language
@@ -226,5 +264,6 @@ for language in en cn; do
     watch "$language" "$suffix"
     patterns "$language" "$suffix"
     markers "$language" "$suffix"
+    measuring "$language" "$suffix"
 done
 lines_and_report

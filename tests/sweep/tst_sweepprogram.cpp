@@ -78,7 +78,8 @@ private slots:
         QTest::addColumn<QString>("options");
         QTest::addColumn<bool>("hasRun"); // of -20 to 20 by 20, one point of it
         QTest::addColumn<int>("status");
-        QTest::newRow("out of limits") << "--from 0 --to 90 --step 10 --zero-at 400" << false << 2;
+        QTest::newRow("out of limits")
+            << "--from -180 --to 180 --step 9 --zero-at 300" << false << 2;
         QTest::newRow("no step") << "--from 0 --to 90 --step 0" << false << 2;
         QTest::newRow("no end") << "--from 0 --step 10" << false << 2;
         QTest::newRow("run exists") << "--from -20 --to 20 --step 20" << true << 2;
@@ -130,8 +131,8 @@ private slots:
         const QString plan = text("--from -2 --to 2 --step 2 --settle 0 --tolerance 0.1");
         QTRY_COMPARE(sweep(meter, port, plan + text(" --overwrite")), 0);
         QCOMPARE(curveIn(path("out.csv")).size(), 3);
-        QCOMPARE(sweep(meter, port, text("--from 0 --to 90 --step 9 --zero-at 400 --overwrite")),
-                 2);
+        QCOMPARE(
+            sweep(meter, port, text("--from -180 --to 180 --step 9 --zero-at 300 --overwrite")), 2);
         rotator.kill();
         rotator.waitForFinished();
     }
