@@ -1,6 +1,7 @@
 #include "patterns/viewactions.h"
 #include "ui_patternwindow.h"
 
+#include "2d/view/graphicsbase.h"
 #include "patterns/curvedesk.h"
 #include "patterns/curvehistory.h"
 #include "patterns/windowcontext.h"
@@ -29,6 +30,7 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
     connect(form, &ListChart::nullProminenceChosen, context, &WindowContext::setNullProminence);
     connect(context, &WindowContext::nullProminenceChanged, form, &ListChart::setNullProminence);
     form->setNullProminence(context->nullProminence());
+    setUpMarkers();
     setUpPolarView();
     setUpLanguages();
 }
@@ -49,6 +51,27 @@ void ViewActions::askBeamLevels()
     }
     m_beamLevels = levels;
     m_desk.form().setBeamLevels(*drops);
+}
+
+void ViewActions::setUpMarkers()
+{
+    ListChart *form = &m_desk.form();
+    // Markers belong to the chart that they were made in: the one that is worked in.
+    const auto jump = [this, form](QAction *action, MarkJump kind) {
+        connect(action, &QAction::triggered, form, [this, form, kind] {
+            GraphicsBase &view =
+                form->polarChart().hasFocus() ? form->polarChart() : form->cartesianChart();
+            if (!view.jumpMark(kind))
+                m_desk.tell(tr("Please select a curve that has such a place."));
+        });
+    };
+    jump(m_ui.actionMarkPeak, MarkJump::Peak);
+    jump(m_ui.actionMarkNextPeak, MarkJump::NextPeak);
+    jump(m_ui.actionMarkHalfPower, MarkJump::HalfPower);
+    connect(m_ui.actionMarkDeltas, &QAction::toggled, form, [form](bool on) {
+        form->polarChart().setMarkDeltas(on);
+        form->cartesianChart().setMarkDeltas(on);
+    });
 }
 
 void ViewActions::setUpPolarView()

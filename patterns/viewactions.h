@@ -24,6 +24,7 @@ public:
 private:
     void setUpLanguages();
     void askBeamLevels();
+    void setUpMarkers();
     void setUpPolarView();
     void showPolarView();
 

@@ -1,4 +1,6 @@
+#include "2d/data/markjump.h"
 #include "2d/data/patternsupplement.h"
+#include "2d/data/supplementtext.h"
 #include "testmain.h"
 
 #include <QRandomGenerator>
@@ -61,6 +63,7 @@ private slots:
     void measuresRoundPatterns();
     void measuresOpenAndOddPatterns();
     void nullsHaveToBeDeep();
+    void beamsAndMarkers();
 };
 
 void TestPatternSupplement::measuresRoundPatterns()
@@ -116,6 +119,35 @@ void TestPatternSupplement::nullsHaveToBeDeep()
     // Measured across the seam, but not round the circle: nothing is known of the direction behind.
     QVERIFY(!supplementaryFigures(pattern(180, 100, 260)).frontToBackRatio);
     QCOMPARE(rounded(supplementaryFigures(pattern(180, 100, 260)).halfPowerBeamWidth), 20.0F);
+}
+
+void TestPatternSupplement::beamsAndMarkers()
+{
+    // Two lobes of 20 degrees per 3 dB, the stronger across the seam.
+    QVector<QPointF> points;
+    for (int angle = -180; angle < 180; ++angle) {
+        const double back = std::remainder(angle - 180.0, 360.0) / 10.0;
+        const double front = (angle - 20.0) / 10.0;
+        points.append({double(angle),
+                       std::max({-30.0, -3.0 * std::abs(back), -6.0 - 3.0 * std::abs(front)})});
+    }
+    const PatternSupplement figures = supplementaryFigures(points);
+    QCOMPARE(rounded(figures.peakAngle), 180.0F);
+    QCOMPARE(rounded(figures.squint), 180.0F);
+    const QVector<BeamWidth> beams = beamWidths(points, readDrops(QStringLiteral("-6, 3")).value());
+    QCOMPARE(rounded(beams.at(0).width()), 20.0F);
+    QCOMPARE(rounded(beams.at(1).width()), 40.0F);
+    QVERIFY(!readDrops(QStringLiteral("-3, x")) && readDrops(QString())->isEmpty());
+
+    QCOMPARE(lobeTops(points).size(), 2);
+    const auto target = [&points](MarkJump jump, double from) {
+        return std::remainder(jumpTarget(points, jump, from).value_or(999.0), 360.0);
+    };
+    QCOMPARE(std::abs(target(MarkJump::Peak, 20.0)), 180.0);
+    QCOMPARE(target(MarkJump::NextPeak, -180.0), 20.0);
+    QCOMPARE(std::abs(target(MarkJump::NextPeak, 20.0)), 180.0);
+    QCOMPARE(target(MarkJump::HalfPower, 0.0), -170.0);
+    QCOMPARE(target(MarkJump::HalfPower, -170.0), 170.0);
 }
 
 MZ_TEST_GUILESS_MAIN(TestPatternSupplement)

@@ -81,15 +81,24 @@ void MarkTable::setCurveName(const QString &name)
 void MarkTable::setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks)
 {
     setRowCount(0);
+    const MyMarkItem *reference = nullptr;
     for (const int number : numbers) {
         const MyMarkItem *mark = marks.value(number);
         if (!mark)
             continue;
         const int row = rowCount();
         insertRow(row);
-        setItem(row, NumberColumn, cell(QStringLiteral("M%1").arg(number), Qt::AlignCenter));
-        setItem(row, XColumn, numberCell(mark->valuePoint().x()));
-        setItem(row, YColumn, numberCell(mark->valuePoint().y()));
+        QString name = QStringLiteral("M%1").arg(number);
+        QPointF value = mark->valuePoint();
+        if (m_deltas && reference) {
+            name += QStringLiteral(" - M%1").arg(reference->markId());
+            value -= reference->valuePoint();
+        } else {
+            reference = mark;
+        }
+        setItem(row, NumberColumn, cell(name, Qt::AlignCenter));
+        setItem(row, XColumn, numberCell(value.x()));
+        setItem(row, YColumn, numberCell(value.y()));
     }
 }
 

@@ -18,6 +18,8 @@ public:
     /// Shows the markers of \a numbers that are in \a marks.
     void setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *> &marks);
     void setCurveName(const QString &name);
+    /// Shows the markers behind the first as what they differ from it, from the next setMarks() on.
+    void setDeltas(bool on) { m_deltas = on; }
     /// Calls the coordinates angle and level.
     void setPattern(bool isPattern);
     bool hasData() const { return rowCount() > 0; }
@@ -32,6 +34,7 @@ private:
 
     QString m_curveName;
     bool m_isPattern = false;
+    bool m_deltas = false;
 };
 
 /// The panel on the scene that hosts a MarkTable.

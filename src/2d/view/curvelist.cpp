@@ -4,6 +4,7 @@
 #include "2d/scene/callout.h"
 #include "2d/scene/chartstage.h"
 #include "2d/scene/generatecolors.h"
+#include "2d/scene/marktable.h"
 #include "2d/scene/mypathitem.h"
 #include "2d/view/axisranges.h"
 #include "2d/view/pathinfo.h"
@@ -188,8 +189,16 @@ PathInfo *CurveList::neighbourOfSelected(int step) const
     return shown[(now + step + shown.size()) % shown.size()];
 }
 
+void CurveList::setMarkDeltas(bool on)
+{
+    m_markDeltas = on;
+    for (PathInfo *path : qAsConst(m_paths))
+        updateMarkTable(*path);
+}
+
 void CurveList::updateMarkTable(PathInfo &path)
 {
+    path.markTablePanel()->table()->setDeltas(m_markDeltas);
     path.updateMarkInfo(m_marks.all());
     path.placeMarkTable();
 }

@@ -53,6 +53,8 @@ public:
     void setParameterLinesVisible(bool visible);
     /// Shows the edges of the main lobe of \a pathId at so many dB below its peak.
     void setBeamLevels(int pathId, const QVector<double> &drops);
+    /// Shows markers in the tables as what they differ from the first of their curve.
+    void setMarkDeltas(bool on);
     bool markTablesShown() const { return m_markTablesShown; }
     void setMarkTablesShown(bool shown);
     /// Removes the markers on \a path.
@@ -88,6 +90,7 @@ private:
     bool m_complete = false;
     bool m_parameterLinesVisible = false;
     bool m_markTablesShown = true;
+    bool m_markDeltas = false;
     bool m_catchUpPending = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "2d/data/markjump.h"
 #include "2d/data/parainfo.h"
 #include "2d/view/axisranges.h"
 #include "2d/view/curveexchange.h"
@@ -82,6 +83,11 @@ public:
 
     /// Stretches the range shown about \a centre; the caller applies it to the axes.
     void setLimitXY(const QPointF &centre, const double &factor);
+    /// Sends the selected marker of the selected curve along it, or puts one there. False without a
+    /// curve or such a place.
+    bool jumpMark(MarkJump jump);
+    /// Shows markers in the tables as what they differ from the first of their curve.
+    void setMarkDeltas(bool on);
     /// Puts a marker at the scene position \a position under the smallest free number.
     MyMarkItem *addMark(const QPointF &position, const QColor &color);
     /// Paints the part \a source of the view (pixels) into \a target, without what shows a

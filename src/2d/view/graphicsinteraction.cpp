@@ -381,6 +381,41 @@ void GraphicsBase::addMarkAtHighest()
     }
 }
 
+bool GraphicsBase::jumpMark(MarkJump jump)
+{
+    PathInfo *path = selectedPath();
+    if (!path)
+        return false;
+    MyMarkItem *mark = selectedMark();
+    if (mark && !path->containsMarkid(mark->markId()))
+        mark = nullptr;
+    const std::optional<double> from = mark ? std::optional(mark->valuePoint().x()) : std::nullopt;
+    const std::optional<double> target = jumpTarget(path->points(), jump, from);
+    if (!target)
+        return false;
+    std::optional<QPointF> place;
+    for (const double turn : {0.0, -360.0, 360.0}) {
+        if (!place)
+            place = m_curves->marks().pointAt(*path, *target + turn);
+    }
+    if (!place)
+        return false;
+    if (!mark) {
+        mark = addMark(toScene(*place), path->color());
+        path->addMarkId(mark->markId());
+    }
+    mark->setValuePoint(*place);
+    m_curves->marks().reposition();
+    m_curves->marks().select(mark);
+    m_curves->updateMarkTable(*path);
+    return true;
+}
+
+void GraphicsBase::setMarkDeltas(bool on)
+{
+    m_curves->setMarkDeltas(on);
+}
+
 void GraphicsBase::deleteMarkSlot()
 {
     const MyMarkItem *mark = selectedMark();

@@ -2816,6 +2816,42 @@ correction</source>
         <source>Tells the beam widths at levels of your choice, with lines in both charts</source>
         <translation>给出所选电平处的波束宽度，并在两个图中画线</translation>
     </message>
+    <message>
+        <source>Mar&amp;kers</source>
+        <translation>标记(&amp;K)</translation>
+    </message>
+    <message>
+        <source>To &amp;Peak</source>
+        <translation>到峰值(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Sends the selected marker of the selected curve to its peak, or puts one there</source>
+        <translation>将所选曲线的所选标记移到峰值，或在该处放置标记</translation>
+    </message>
+    <message>
+        <source>To &amp;Next Peak</source>
+        <translation>到下一峰值(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Sends the selected marker to the next lower peak of its curve</source>
+        <translation>将所选标记移到曲线的下一个较低峰值</translation>
+    </message>
+    <message>
+        <source>To -&amp;3 dB</source>
+        <translation>到 -3 dB(&amp;3)</translation>
+    </message>
+    <message>
+        <source>Sends the selected marker to a half-power point of its curve, and again to the other</source>
+        <translation>将所选标记移到曲线的半功率点，再次执行则移到另一侧</translation>
+    </message>
+    <message>
+        <source>&amp;Deltas</source>
+        <translation>差值(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Tells markers as what they differ from the first of their curve</source>
+        <translation>将标记显示为相对曲线第一个标记的差值</translation>
+    </message>
 </context>
 <context>
     <name>PlanText</name>
@@ -3793,6 +3829,10 @@ Replace it?</source>
     <message>
         <source>These are no levels: %1</source>
         <translation>这些不是电平：%1</translation>
+    </message>
+    <message>
+        <source>Please select a curve that has such a place.</source>
+        <translation>请选择具有该位置的曲线。</translation>
     </message>
 </context>
 <context>

@@ -2816,6 +2816,42 @@ correction</translation>
         <source>Tells the beam widths at levels of your choice, with lines in both charts</source>
         <translation>Tells the beam widths at levels of your choice, with lines in both charts</translation>
     </message>
+    <message>
+        <source>Mar&amp;kers</source>
+        <translation>Mar&amp;kers</translation>
+    </message>
+    <message>
+        <source>To &amp;Peak</source>
+        <translation>To &amp;Peak</translation>
+    </message>
+    <message>
+        <source>Sends the selected marker of the selected curve to its peak, or puts one there</source>
+        <translation>Sends the selected marker of the selected curve to its peak, or puts one there</translation>
+    </message>
+    <message>
+        <source>To &amp;Next Peak</source>
+        <translation>To &amp;Next Peak</translation>
+    </message>
+    <message>
+        <source>Sends the selected marker to the next lower peak of its curve</source>
+        <translation>Sends the selected marker to the next lower peak of its curve</translation>
+    </message>
+    <message>
+        <source>To -&amp;3 dB</source>
+        <translation>To -&amp;3 dB</translation>
+    </message>
+    <message>
+        <source>Sends the selected marker to a half-power point of its curve, and again to the other</source>
+        <translation>Sends the selected marker to a half-power point of its curve, and again to the other</translation>
+    </message>
+    <message>
+        <source>&amp;Deltas</source>
+        <translation>&amp;Deltas</translation>
+    </message>
+    <message>
+        <source>Tells markers as what they differ from the first of their curve</source>
+        <translation>Tells markers as what they differ from the first of their curve</translation>
+    </message>
 </context>
 <context>
     <name>PlanText</name>
@@ -3793,6 +3829,10 @@ Replace it?</translation>
     <message>
         <source>These are no levels: %1</source>
         <translation>These are no levels: %1</translation>
+    </message>
+    <message>
+        <source>Please select a curve that has such a place.</source>
+        <translation>Please select a curve that has such a place.</translation>
     </message>
 </context>
 <context>
