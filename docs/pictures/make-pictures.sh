@@ -241,6 +241,7 @@ measuring() {
     until grep -qs '^Listening' "$work/simulator"; do sleep 0.1; done
     start_screen 1280x800
     rm -rf "$work/settings"
+    mkdir -p "$work/Documents"
     HOME=$work XDG_CONFIG_HOME=$work/settings start "$work" "$programs/mz6218-patterns" --language "$1" \
         --measure "$instrument" --rotator "$(sed -n 's/^Rotator on //p' "$work/simulator")"
     press alt+k
