@@ -163,4 +163,5 @@ private:
     std::optional<StartOptions> m_startOptions; // until the window is painted
     LogDays m_logDays;
     bool m_errorBoxOpen = false;
+    bool m_isRefusalShown = false; // in the status bar
 };

@@ -36,6 +36,9 @@ ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
     m_ui->mainToolBar->hide();
     m_ui->menuTools->menuAction()->setVisible(false);
     setShortcuts();
+    // The window's ground is to be seen between the groups.
+    m_ui->scrollPanel->viewport()->setAutoFillBackground(false);
+    m_ui->panel->setAutoFillBackground(false);
     m_ui->comboBoxCom->setView(new QListView(m_ui->comboBoxCom));
     m_ui->doubleSpinBoxFreq->installEventFilter(window);
     m_ui->doubleSpinBoxOffset->installEventFilter(window);

@@ -74,130 +74,100 @@ class TestProgram : public QObject
     Q_OBJECT
 
 private slots:
-    void commandLineAnswers_data();
-    void commandLineAnswers();
-    void measuresFromAnyFolder();
-    void signalEndsItInTheOrdinaryWay_data();
-    void signalEndsItInTheOrdinaryWay();
-    void nohupKeepsItRunning();
-};
+    void commandLineAnswers_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("out");
+        QTest::addColumn<QString>("err");
 
-void TestProgram::commandLineAnswers_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("platform");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("out");
-    QTest::addColumn<QString>("err");
-
-    const QString offscreen = QStringLiteral("offscreen");
-    const QString none; // and so no display either
-    QTest::newRow("help") << QStringList(QStringLiteral("--help")) << "xcb" << 0 << "--lan HOST"
-                          << "";
-    QTest::newRow("version") << QStringList(QStringLiteral("--version")) << none << 0 << MZ_VERSION
-                             << "";
-    QTest::newRow("bad option") << QStringList(QStringLiteral("--lann")) << offscreen << 1 << ""
-                                << "Usage:";
-    QTest::newRow("bad option behind Qt's own, without a display")
-        << QStringList{QStringLiteral("-style"), QStringLiteral("fusion"), QStringLiteral("--lann")}
-        << none << 1 << ""
-        << "'lann'";
-    QTest::newRow("no display") << QStringList() << none << 1 << ""
-                                << "There is no display";
-    QTest::newRow("display that does not answer") << QStringList() << "xcb" << 1 << ""
-                                                  << "No window can be opened";
-    QTest::newRow("bad language") << QStringList{QStringLiteral("--language"), QStringLiteral("de")}
-                                  << offscreen << 1 << ""
-                                  << "'de'";
-}
-
-void TestProgram::commandLineAnswers()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, platform);
-    QFETCH(QString, out);
-    QFETCH(QString, err);
-    const QTemporaryDir folder;
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
-    environment.remove(QStringLiteral("DISPLAY"));
-    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    program.setProcessEnvironment(environment);
-    program.setWorkingDirectory(folder.path());
-    program.start(builtProgram, arguments);
-    QVERIFY(program.waitForFinished());
-    QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
-    QTEST(program.exitCode(), "status");
-    QVERIFY(program.readAllStandardOutput().contains(out.toLatin1()));
-    QVERIFY(program.readAllStandardError().contains(err.toLatin1()));
-}
-
-void TestProgram::measuresFromAnyFolder()
-{
-    SimulatorProcess simulator;
-    QVERIFY(simulator.startOnInstrumentPort());
-    CopiedProgram program;
-    program.startConsole({QStringLiteral("--lan"), simulator.address(),
-                          QStringLiteral("--language"), QStringLiteral("cn")});
-    QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 3, 30000));
-    QTRY_COMPARE(contentOfAll(program.path(QStringLiteral("DataRecord"))).count('\n'), 2);
-    const QByteArray log = program.log();
-    QVERIFY(log.contains("send cmd: \"GET?\\n\"") && log.contains("\r\n"));
-    QVERIFY(!log.contains("Warning: "));
-    QCOMPARE(int(program.state()), int(QProcess::Running));
-    program.terminate();
-    QVERIFY(program.waitForFinished());
-}
-
-void TestProgram::signalEndsItInTheOrdinaryWay_data()
-{
-    QTest::addColumn<QString>("signal");
-    QTest::addColumn<bool>("measures");
-
-    QTest::newRow("Ctrl+C") << "INT" << true;
-    QTest::newRow("shutdown") << "TERM" << true;
-    QTest::newRow("logout") << "HUP" << true;
-    QTest::newRow("while an error box is open") << "TERM" << false;
-}
-
-void TestProgram::signalEndsItInTheOrdinaryWay()
-{
-    QFETCH(QString, signal);
-    QFETCH(bool, measures);
-    SimulatorProcess simulator;
-    QVERIFY(simulator.startOnInstrumentPort());
-    CopiedProgram program;
-    if (measures) {
-        program.startConsole({QStringLiteral("--lan"), simulator.address()});
-        QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 1, 30000));
-    } else {
-        program.startConsole({QStringLiteral("--serial"), QStringLiteral("/dev/no-port")});
-        QTRY_VERIFY_WITH_TIMEOUT(program.log().contains("Open port"), 30000);
+        const QString offscreen = QStringLiteral("offscreen");
+        const QString none; // and so no display either
+        QTest::newRow("help") << QStringList(QStringLiteral("--help")) << "xcb" << 0 << "--lan HOST"
+                              << "";
+        QTest::newRow("bad option behind Qt's own, without a display")
+            << QStringList{QStringLiteral("-style"), QStringLiteral("fusion"),
+                           QStringLiteral("--lann")}
+            << none << 1 << ""
+            << "'lann'";
+        QTest::newRow("no display") << QStringList() << none << 1 << ""
+                                    << "There is no display";
+        QTest::newRow("display that does not answer") << QStringList() << "xcb" << 1 << ""
+                                                      << "No window can be opened";
     }
-    send(signal, program);
-    QVERIFY(program.waitForFinished());
-    QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
-    QCOMPARE(program.exitCode(), 0);
-    const QByteArray settings = program.settings();
-    QCOMPARE(settings.count('\n'), 5);
-    QCOMPARE(settings.contains("IP:" + simulator.address().toLatin1()), measures);
-}
 
-void TestProgram::nohupKeepsItRunning()
-{
-    SimulatorProcess simulator;
-    QVERIFY(simulator.startOnInstrumentPort());
-    CopiedProgram program;
-    program.start(QStringLiteral("nohup"), {program.path(QStringLiteral("mz6218")),
-                                            QStringLiteral("--lan"), simulator.address()});
-    QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 1, 30000));
-    send(QStringLiteral("HUP"), program);
-    QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 4, 30000));
-    send(QStringLiteral("TERM"), program);
-    QVERIFY(program.waitForFinished());
-    QCOMPARE(program.settings().count('\n'), 5);
-}
+    void commandLineAnswers()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, platform);
+        QFETCH(QString, out);
+        QFETCH(QString, err);
+        const QTemporaryDir folder;
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+        environment.remove(QStringLiteral("DISPLAY"));
+        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(folder.path());
+        program.start(builtProgram, arguments);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
+        QTEST(program.exitCode(), "status");
+        QVERIFY(program.readAllStandardOutput().contains(out.toLatin1()));
+        QVERIFY(program.readAllStandardError().contains(err.toLatin1()));
+    }
+
+    void measuresFromAnyFolder()
+    {
+        SimulatorProcess simulator;
+        QVERIFY(simulator.startOnInstrumentPort());
+        CopiedProgram program;
+        program.startConsole({QStringLiteral("--lan"), simulator.address(),
+                              QStringLiteral("--language"), QStringLiteral("cn")});
+        QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 3, 30000));
+        QTRY_COMPARE(contentOfAll(program.path(QStringLiteral("DataRecord"))).count('\n'), 2);
+        const QByteArray log = program.log();
+        QVERIFY(log.contains("send cmd: \"GET?\\n\"") && log.contains("\r\n"));
+        QVERIFY(!log.contains("Warning: "));
+        QCOMPARE(int(program.state()), int(QProcess::Running));
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+    }
+
+    void signalEndsItInTheOrdinaryWay_data()
+    {
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<bool>("measures");
+
+        QTest::newRow("Ctrl+C") << "INT" << true;
+        QTest::newRow("while an error box is open") << "TERM" << false;
+    }
+
+    void signalEndsItInTheOrdinaryWay()
+    {
+        QFETCH(QString, signal);
+        QFETCH(bool, measures);
+        SimulatorProcess simulator;
+        QVERIFY(simulator.startOnInstrumentPort());
+        CopiedProgram program;
+        if (measures) {
+            program.startConsole({QStringLiteral("--lan"), simulator.address()});
+            QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 1, 30000));
+        } else {
+            program.startConsole({QStringLiteral("--serial"), QStringLiteral("/dev/no-port")});
+            QTRY_VERIFY_WITH_TIMEOUT(program.log().contains("Open port"), 30000);
+        }
+        send(signal, program);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
+        QCOMPARE(program.exitCode(), 0);
+        const QByteArray settings = program.settings();
+        QCOMPARE(settings.count('\n'), 5);
+        QCOMPARE(settings.contains("IP:" + simulator.address().toLatin1()), measures);
+    }
+};
 
 MZ_TEST_GUILESS_MAIN(TestProgram)
 #include "tst_program.moc"

@@ -107,161 +107,152 @@ class TestDial : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void bands();
-    void ticksAndNumbers();
-    void needle();
-    void hubAndNeedleLayers();
-    void captionAndValueText();
-    void shapes();
-    void rangeOverlay();
-    void timeroutDrawsANumberAndNothingElse();
+    void init()
+    {
+        QPalette white;
+        white.setColor(QPalette::Window, Qt::white);
+        m_dial = std::make_unique<Dial>(nullptr);
+        m_dial->setPalette(white);
+        m_overlaid = std::make_unique<RangeDial>(nullptr);
+        m_overlaid->setPalette(white);
+    }
+
+    void bands()
+    {
+        const Picture picture(*m_dial);
+        for (const int radius : {98, 90}) {
+            QVERIFY(isNear(picture.at(229.0, radius), 1, 0, 254));
+            QVERIFY(isNear(picture.at(90.5, radius), 127, 0, 127));
+            QVERIFY(isNear(picture.at(-49.0, radius), 254, 0, 1));
+            QVERIFY(isWhite(picture.at(-54.0, radius)));
+        }
+    }
+
+    void ticksAndNumbers()
+    {
+        m_dial->setScaleRange(0, 10); // short numbers, which keep clear of the ticks
+        const Picture picture(*m_dial);
+        for (const int tick : {0, 1, 15, 49, 50}) {
+            const bool major = tick % 5 == 0;
+            const double angle = 230 - 5.6 * tick;
+            const int red = tick * 255 / 50;
+            QVERIFY(isNear(picture.at(angle, 95), red, 0, 255 - red));
+            const QColor inner = picture.at(angle, 87);
+            QVERIFY(major ? isNear(inner, red, 0, 255 - red) : isWhite(inner));
+            const double t = qDegreesToRadians(angle);
+            const QPoint number = QPointF(std::cos(t) * 75, -std::sin(t) * 75).toPoint();
+            const QRect around(number - QPoint(4, 4), QSize(8, 8));
+            QVERIFY(!major || !picture.middleOf(around, isDark).isNull());
+        }
+    }
+
+    void needle()
+    {
+        m_dial->setScaleRange(-60, 20);
+        // Whether the needle points into that direction only.
+        const auto pointsTo = [this](double angle) {
+            constexpr int radius = 45; // beyond the hub, short of the numbers
+            const Picture picture(*m_dial);
+            bool alone = isDark(picture.at(angle, radius));
+            for (int away = 10; away <= 350; away += 10)
+                alone = alone && isWhite(picture.at(angle + away, radius));
+            return alone;
+        };
+        m_dial->setValue(-60.0, QString());
+        QVERIFY(pointsTo(230.0));
+        m_dial->setValue(-39.5, QString());
+        QVERIFY(pointsTo(158.25));
+        m_dial->setValue(1000.0, QString()); // stops 40 degrees behind the scale
+        QVERIFY(pointsTo(-90.0));
+        m_dial->setValueRange(-60, -20);
+        QVERIFY(pointsTo(90.0));
+        m_dial->setValue(-60.0, QString());
+        m_dial->setValueRange(-20, 20);
+        QVERIFY(pointsTo(90.0));
+        m_dial->setValueRange(10, -20); // ends swapped: the upper one is applied last
+        QVERIFY(pointsTo(90.0));
+    }
+
+    void hubAndNeedleLayers()
+    {
+        m_dial->setScaleRange(0, 100);
+        m_dial->setValue(50, QString()); // straight up
+        const Picture picture(*m_dial);
+        const auto grey = [&picture](double y) { return picture.pixel(0.0, y).lightness(); };
+        QVERIFY2(qAbs(grey(5) - 0) < 10, "inner disc");
+        QVERIFY2(qAbs(grey(10) - 128) < 10, "outer disc, half through");
+        QVERIFY2(qAbs(grey(-10) - 25) < 10, "needle over the outer disc");
+        QVERIFY2(qAbs(grey(-30) - 51) < 10, "needle");
+        QVERIFY2(grey(14) > 240, "nothing beyond the discs");
+    }
+
+    void captionAndValueText()
+    {
+        m_dial->setScaleRange(0, 100);
+        m_dial->setValue(20, QStringLiteral("080"));
+        const Picture picture(*m_dial);
+        const QPointF caption = picture.middleOf(QRect(-18, -67, 36, 14), isDark);
+        QVERIFY2(qAbs(caption.x()) < 2 && qAbs(caption.y() + 60) < 3, "caption above the centre");
+        // Below the numbers at either end; five units off the centre.
+        const QRect below(-50, 65, 100, 20);
+        QVERIFY(qAbs(picture.middleOf(below, isDark).x() - 5) < 2);
+        m_dial->setValue(20, QString());
+        QVERIFY(Picture(*m_dial).middleOf(below, isDark).isNull());
+    }
+
+    void shapes()
+    {
+        m_dial->setScaleRange(0, 100);
+        m_dial->setValue(50, QString());
+        for (const QSize &size : {QSize(601, 300), QSize(300, 601)}) {
+            const Picture picture(*m_dial, size);
+            // The band's outermost pixels to the left, on top and to the right, and the needle
+            // between.
+            for (const double angle : {180.5, 90.5, 0.5})
+                QVERIFY(picture.at(angle, 98).green() < 60);
+            QVERIFY(isDark(picture.at(90.0, 45)));
+        }
+    }
+
+    void rangeOverlay()
+    {
+        m_overlaid->setValueRange(90, 180); // of 0 to 360; the needle goes to 90, at 160 degrees
+        m_overlaid->setValue(360, QString());
+        const Picture picture(*m_overlaid);
+        // The arc spreads the scale over 300 degrees from 240 ...
+        for (const double angle : {164.0, 140.0, 120.0, 91.0})
+            QVERIFY(isGreen(picture.at(angle, 60)));
+        for (const double angle : {172.0, 83.0, 0.0})
+            QVERIFY(!isGreen(picture.at(angle, 60)));
+        // ... major ticks point inwards from it, minor ones do not ...
+        QVERIFY(isGreen(picture.at(165.0, 55)));
+        QVERIFY(isWhite(picture.at(163.5, 56)));
+        // ... and the labels stand where the scale has the values: 160 and 90 degrees.
+        QVERIFY(!picture.middleOf(QRect(-46, -22, 16, 14), isGreen).isNull());
+        QVERIFY(!picture.middleOf(QRect(-10, -48, 20, 14), isGreen).isNull());
+
+        // Only the part on the scale is marked.
+        m_overlaid->setScaleRange(-60, 20);
+        m_overlaid->setValueRange(-1000, 1000);
+        const Picture whole(*m_overlaid);
+        QVERIFY(isGreen(whole.at(238.0, 60)));
+        QVERIFY(isGreen(whole.at(-58.0, 60)));
+        QVERIFY(isWhite(whole.at(275.0, 60)));
+    }
+
+    void timeroutDrawsANumberAndNothingElse()
+    {
+        const QImage before = Picture(*m_dial).image();
+        int number = -1;
+        QVERIFY(QMetaObject::invokeMethod(m_dial.get(), "timerout", Q_RETURN_ARG(int, number)));
+        QVERIFY(number >= 0);
+        QCOMPARE(Picture(*m_dial).image(), before);
+    }
 
 private:
     std::unique_ptr<RangeDial> m_overlaid;
     std::unique_ptr<Dial> m_dial;
 };
-
-void TestDial::init()
-{
-    QPalette white;
-    white.setColor(QPalette::Window, Qt::white);
-    m_dial = std::make_unique<Dial>(nullptr);
-    m_dial->setPalette(white);
-    m_overlaid = std::make_unique<RangeDial>(nullptr);
-    m_overlaid->setPalette(white);
-}
-
-void TestDial::bands()
-{
-    const Picture picture(*m_dial);
-    for (const int radius : {98, 90}) {
-        QVERIFY(isNear(picture.at(229.0, radius), 1, 0, 254));
-        QVERIFY(isNear(picture.at(90.5, radius), 127, 0, 127));
-        QVERIFY(isNear(picture.at(-49.0, radius), 254, 0, 1));
-        QVERIFY(isWhite(picture.at(-54.0, radius)));
-    }
-}
-
-void TestDial::ticksAndNumbers()
-{
-    m_dial->setScaleRange(0, 10); // short numbers, which keep clear of the ticks
-    const Picture picture(*m_dial);
-    for (const int tick : {0, 1, 15, 49, 50}) {
-        const bool major = tick % 5 == 0;
-        const double angle = 230 - 5.6 * tick;
-        const int red = tick * 255 / 50;
-        QVERIFY(isNear(picture.at(angle, 95), red, 0, 255 - red));
-        const QColor inner = picture.at(angle, 87);
-        QVERIFY(major ? isNear(inner, red, 0, 255 - red) : isWhite(inner));
-        const double t = qDegreesToRadians(angle);
-        const QPoint number = QPointF(std::cos(t) * 75, -std::sin(t) * 75).toPoint();
-        const QRect around(number - QPoint(4, 4), QSize(8, 8));
-        QVERIFY(!major || !picture.middleOf(around, isDark).isNull());
-    }
-}
-
-void TestDial::needle()
-{
-    m_dial->setScaleRange(-60, 20);
-    // Whether the needle points into that direction only.
-    const auto pointsTo = [this](double angle) {
-        constexpr int radius = 45; // beyond the hub, short of the numbers
-        const Picture picture(*m_dial);
-        bool alone = isDark(picture.at(angle, radius));
-        for (int away = 10; away <= 350; away += 10)
-            alone = alone && isWhite(picture.at(angle + away, radius));
-        return alone;
-    };
-    m_dial->setValue(-60.0, QString());
-    QVERIFY(pointsTo(230.0));
-    m_dial->setValue(-39.5, QString());
-    QVERIFY(pointsTo(158.25));
-    m_dial->setValue(1000.0, QString()); // stops 40 degrees behind the scale
-    QVERIFY(pointsTo(-90.0));
-    m_dial->setValueRange(-60, -20);
-    QVERIFY(pointsTo(90.0));
-    m_dial->setValue(-60.0, QString());
-    m_dial->setValueRange(-20, 20);
-    QVERIFY(pointsTo(90.0));
-    m_dial->setValueRange(10, -20); // ends swapped: the upper one is applied last
-    QVERIFY(pointsTo(90.0));
-}
-
-void TestDial::hubAndNeedleLayers()
-{
-    m_dial->setScaleRange(0, 100);
-    m_dial->setValue(50, QString()); // straight up
-    const Picture picture(*m_dial);
-    const auto grey = [&picture](double y) { return picture.pixel(0.0, y).lightness(); };
-    QVERIFY2(qAbs(grey(5) - 0) < 10, "inner disc");
-    QVERIFY2(qAbs(grey(10) - 128) < 10, "outer disc, half through");
-    QVERIFY2(qAbs(grey(-10) - 25) < 10, "needle over the outer disc");
-    QVERIFY2(qAbs(grey(-30) - 51) < 10, "needle");
-    QVERIFY2(grey(14) > 240, "nothing beyond the discs");
-}
-
-void TestDial::captionAndValueText()
-{
-    m_dial->setScaleRange(0, 100);
-    m_dial->setValue(20, QStringLiteral("080"));
-    const Picture picture(*m_dial);
-    const QPointF caption = picture.middleOf(QRect(-18, -67, 36, 14), isDark);
-    QVERIFY2(qAbs(caption.x()) < 2 && qAbs(caption.y() + 60) < 3, "caption above the centre");
-    // Below the numbers at either end; five units off the centre.
-    const QRect below(-50, 65, 100, 20);
-    QVERIFY(qAbs(picture.middleOf(below, isDark).x() - 5) < 2);
-    m_dial->setValue(20, QString());
-    QVERIFY(Picture(*m_dial).middleOf(below, isDark).isNull());
-}
-
-void TestDial::shapes()
-{
-    m_dial->setScaleRange(0, 100);
-    m_dial->setValue(50, QString());
-    for (const QSize &size : {QSize(601, 300), QSize(300, 601)}) {
-        const Picture picture(*m_dial, size);
-        // The band's outermost pixels to the left, on top and to the right, and the needle between.
-        for (const double angle : {180.5, 90.5, 0.5})
-            QVERIFY(picture.at(angle, 98).green() < 60);
-        QVERIFY(isDark(picture.at(90.0, 45)));
-    }
-}
-
-void TestDial::rangeOverlay()
-{
-    m_overlaid->setValueRange(90, 180); // of 0 to 360; the needle goes to 90, at 160 degrees
-    m_overlaid->setValue(360, QString());
-    const Picture picture(*m_overlaid);
-    // The arc spreads the scale over 300 degrees from 240 ...
-    for (const double angle : {164.0, 140.0, 120.0, 91.0})
-        QVERIFY(isGreen(picture.at(angle, 60)));
-    for (const double angle : {172.0, 83.0, 0.0})
-        QVERIFY(!isGreen(picture.at(angle, 60)));
-    // ... major ticks point inwards from it, minor ones do not ...
-    QVERIFY(isGreen(picture.at(165.0, 55)));
-    QVERIFY(isWhite(picture.at(163.5, 56)));
-    // ... and the labels stand where the scale has the values: 160 and 90 degrees.
-    QVERIFY(!picture.middleOf(QRect(-46, -22, 16, 14), isGreen).isNull());
-    QVERIFY(!picture.middleOf(QRect(-10, -48, 20, 14), isGreen).isNull());
-
-    // Only the part on the scale is marked.
-    m_overlaid->setScaleRange(-60, 20);
-    m_overlaid->setValueRange(-1000, 1000);
-    const Picture whole(*m_overlaid);
-    QVERIFY(isGreen(whole.at(238.0, 60)));
-    QVERIFY(isGreen(whole.at(-58.0, 60)));
-    QVERIFY(isWhite(whole.at(275.0, 60)));
-}
-
-void TestDial::timeroutDrawsANumberAndNothingElse()
-{
-    const QImage before = Picture(*m_dial).image();
-    int number = -1;
-    QVERIFY(QMetaObject::invokeMethod(m_dial.get(), "timerout", Q_RETURN_ARG(int, number)));
-    QVERIFY(number >= 0);
-    QCOMPARE(Picture(*m_dial).image(), before);
-}
 
 MZ_TEST_MAIN(TestDial)
 
