@@ -89,6 +89,11 @@ stop_all() {
         kill "$pid" 2>/dev/null || true
         wait "$pid" 2>/dev/null || true
     done
+    # A job that was just being started has no name yet; it must not outlive its folder either.
+    for pid in $(jobs -p); do
+        kill "$pid" 2>/dev/null || true
+    done
+    wait 2>/dev/null || true
     [[ -z $state ]] || rm -rf "$state"
 }
 
@@ -104,6 +109,7 @@ wait_until() {
 
 # try_simulator OPTIONS...: true when a simulator with these options is ready.
 try_simulator() {
+    : >"$state/simulator.txt" # it is looked into before the simulator has opened it
     "$programs/mz6218-sim" "$@" >"$state/simulator.txt" 2>"$state/simulator-errors.txt" &
     simulator_pid=$!
     if wait_until 10 simulator_has_spoken && grep -q '^Listening on' "$state/simulator.txt"; then
