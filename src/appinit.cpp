@@ -4,8 +4,6 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QMutex>
-#include <QMutexLocker>
 #include <QVariant>
 #include <QWidget>
 
@@ -52,13 +50,7 @@ AppInit::AppInit(QObject *parent)
 
 AppInit *AppInit::Instance()
 {
-    static AppInit *instance = nullptr;
-    if (instance == nullptr) {
-        QMutex mutex;
-        const QMutexLocker locker(&mutex);
-        if (instance == nullptr)
-            instance = new AppInit;
-    }
+    static auto *const instance = new AppInit;
     return instance;
 }
 

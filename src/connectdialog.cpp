@@ -64,6 +64,7 @@ void ConnectDialog::setIP(QString ip)
 
 void ConnectDialog::on_accept_clicked()
 {
+    hide(); // the window below says how the opening goes, and can stop it
     if (m_mode == lanLink)
         emit openPort(m_ui->lineEdit->text(), instrumentTcpPort);
     else

@@ -3,6 +3,7 @@
 #include "2d/data/curvetext.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <QTimeZone>
 
 #include <cmath>
@@ -17,7 +18,7 @@ constexpr double meanPlaces = 1e4;
 QString isoTime(const QDateTime &time)
 {
     const int minutes = time.offsetFromUtc() / 60;
-    return time.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz")) +
+    return QLocale::c().toString(time, QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz")) +
            QStringLiteral("%1%2:%3")
                .arg(minutes < 0 ? QLatin1Char('-') : QLatin1Char('+'))
                .arg(std::abs(minutes) / 60, 2, 10, QLatin1Char('0'))

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The two roads to the instrument, as the link, the connection dialog and the console number them.
+/// The two paths to the instrument, as the link, the connection dialog and the console number them.
 enum LinkMode { serialLink = 0, lanLink = 1 };
 
 /// The TCP port of every instrument, by which the console also tells a LAN connection apart.

@@ -1,6 +1,7 @@
 #include "watch/reconnector.h"
 
 #include <QFileInfo>
+#include <QLocale>
 #include <QSerialPortInfo>
 #include <QTcpSocket>
 
@@ -133,7 +134,8 @@ QString Reconnector::text() const
 {
     if (!isActive())
         return {};
-    const QString begin = tr("No link since %1.").arg(m_since.toString(QStringLiteral("hh:mm:ss")));
+    const QString begin =
+        tr("No link since %1.").arg(QLocale::c().toString(m_since, QStringLiteral("hh:mm:ss")));
     QString next = tr("Trying again …");
     if (!m_target.isLan && m_isAway)
         next = tr("Waiting for %1 to come back.").arg(m_target.name);

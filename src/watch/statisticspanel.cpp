@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -113,7 +114,7 @@ void StatisticsPanel::show(const ReadingStatistics &statistics,
     set(Readings, QString::number(power.count()));
     set(Missed, QString::number(figures.missed));
     set(Since, figures.since.isValid()
-                   ? figures.since.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"))
+                   ? QLocale::c().toString(figures.since, QStringLiteral("yyyy-MM-dd hh:mm:ss"))
                    : QStringLiteral("-"));
 }
 

@@ -69,7 +69,7 @@ QString TrafficModel::cell(const Entry &entry, int column) const
 {
     switch (column) {
     case Time:
-        return entry.time.toString(QStringLiteral("hh:mm:ss.zzz"));
+        return QLocale::c().toString(entry.time, QStringLiteral("hh:mm:ss.zzz"));
     case Direction:
         return entry.isSent ? tr("to") : tr("from");
     case Wait:

@@ -198,8 +198,8 @@ void LineEdit::showLabel()
     setFocus();
 }
 
-/// The end of editing puts the focus on this frame, also when the operator is on the way to another
-/// widget: once that is done, the focus follows him there.
+/// The end of editing puts the focus on this frame, also when the user is on the way to another
+/// widget: once that is done, the focus follows there.
 void LineEdit::passFocusOn(Qt::FocusReason reason)
 {
     QWidget *target = QApplication::focusWidget();

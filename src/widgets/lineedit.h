@@ -30,7 +30,7 @@ public:
     void setIntegerMode(const int &mode);
 
 signals:
-    /// The operator has finished editing. A changed value is reported twice: as the editor
+    /// The user has finished editing. A changed value is reported twice: as the editor
     /// finishes, with the old value still in place, and once it is committed.
     void editingFinished();
 

@@ -60,8 +60,8 @@ void LoadingDialog::showEvent(QShowEvent *event)
 
 void LoadingDialog::keyPressEvent(QKeyEvent *event)
 {
-    // The instrument goes on with its task whatever the user presses: Escape must not let him think
-    // that it stopped.
+    // The instrument goes on with its task whatever the user presses; Escape must not make it look
+    // as if it had stopped.
     event->accept();
 }
 

@@ -27,10 +27,10 @@ public:
     /// Sets the value before the change.
     void setRawFrequency(const QString &text);
 
-    /// Sets the value that the operator is about to edit, and selects it.
+    /// Sets the value that the user is about to edit, and selects it.
     void setCurrentFrequency(const QString &text);
 
-    /// The value as edited by the operator.
+    /// The value as edited by the user.
     QString currentFrequency() const;
 
 private slots:

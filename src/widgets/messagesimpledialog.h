@@ -22,11 +22,11 @@ public:
     ~MessageSimpleDialog() override;
 
     /// Shows \a text with the picture of \a kind: 0 success, 1 failure, 2 an animation that says
-    /// "working" and cannot be dismissed by the operator. Any other kind changes the text alone and
+    /// "working" and cannot be dismissed by the user. Any other kind changes the text alone and
     /// takes the picture away.
     void setMessage(const QString &text, int kind);
 
-    /// Shows \a text with the picture of \a kind (0 or 1) until the operator has read it.
+    /// Shows \a text with the picture of \a kind (0 or 1) until the user has read it.
     static void showMessage(const QString &text, int kind, QWidget *parent);
 
 protected:

@@ -140,7 +140,7 @@ private slots:
             counts.append(rows().size());
         };
         const ModalScript script({readWait(seen, record), [&](QWidget *window) {
-                                      record(); // the operator may be away from the box for days
+                                      record(); // the user may be away from the box for days
                                       readBox(seen)(window);
                                   }});
         console.click("btnSetZero");

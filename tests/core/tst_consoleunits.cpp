@@ -74,7 +74,7 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<StartOptions::Wish>("wish");
-        QTest::addColumn<QString>("said"); // the road and its baud rate, or a part of the text
+        QTest::addColumn<QString>("said"); // the transport and its baud rate, or a part of the text
         using Wish = StartOptions::Wish;
         const auto row = [](const char *line, Wish wish, const char *said) {
             const QString words = QLatin1String("mz6218 ") + QLatin1String(line);
@@ -85,6 +85,8 @@ private slots:
         row("--serial=/dev/pts/3:9600", Wish::Run, "|/dev/pts/3|9600");
         row(ownColons, Wish::Run, "|/dev/serial/by-path/pci-0:2.0-port0|115200");
         row("--serial COM3:0", Wish::Refuse, "no baud rate");
+        row("--serial COM3:abc", Wish::Refuse, "'abc' is no baud rate");
+        row("--keep-logs 0", Wish::Refuse, "number of days");
         row("--lan a --serial b", Wish::Refuse, "exclude each other");
         row("--lan", Wish::Refuse, "--lan");
         row("--language de", Wish::Refuse, "'de'");

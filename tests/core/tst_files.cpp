@@ -128,6 +128,26 @@ private slots:
         QVERIFY2(lines.match(content).hasMatch(), qPrintable(content));
     }
 
+    void oldLogsGoWithoutWhatIsNotTheirs()
+    {
+        for (const char *path : {"Log/2026-03-01/10.txt", "Log/2026-03-02/10.txt",
+                                 "Log/2026-03-02/notes.md", "Log/2026-03-03/10.txt"}) {
+            const QString file = QLatin1String(path);
+            QVERIFY(QDir().mkpath(QFileInfo(file).path()) && write(file, "x"));
+        }
+        MessageLog::removeOld(QDate(2026, 3, 4), 0); // all are to be kept
+        QVERIFY(QFile::exists(QStringLiteral("Log/2026-03-01/10.txt")));
+        MessageLog::removeOld(QDate(2026, 3, 4), 2);
+        QStringList left;
+        QDirIterator files(QStringLiteral("Log"), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            left.append(files.next());
+        left.sort();
+        QCOMPARE(left, (QStringList{QStringLiteral("Log/2026-03-02/notes.md"),
+                                    QStringLiteral("Log/2026-03-03/10.txt")}));
+        QVERIFY(!QDir(QStringLiteral("Log/2026-03-01")).exists());
+    }
+
     void unwritableLogCostsOnlyTheMessage_data()
     {
         QTest::addColumn<QString>("obstacle");

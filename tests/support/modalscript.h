@@ -8,7 +8,7 @@
 #include <functional>
 
 /// Answers modal windows in the order in which they come up, one step a window. A window that no
-/// step is left for is closed and counted, so that a test fails instead of waiting for an operator.
+/// step is left for is closed and counted, so that a test fails instead of waiting for a user.
 class ModalScript
 {
 public:

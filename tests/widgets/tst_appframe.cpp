@@ -64,16 +64,6 @@ private slots:
         QCOMPARE(frame.way(), QPoint(30, -20));
     }
 
-    void doubleClickMaximises()
-    {
-        const Frameless frame;
-        frame.send(frame.title, QEvent::MouseButtonDblClick, {200, 150});
-        QVERIFY(frame.window.isMaximized());
-        frame.send(frame.title, QEvent::MouseButtonDblClick, {200, 150});
-        QVERIFY(!frame.window.isMaximized());
-        frame.send(frame.title, QEvent::MouseButtonRelease, {200, 150}, Qt::NoButton);
-    }
-
     /// Neither without the mark, nor without a grandparent to move, nor without any parent.
     void onlyMarkedWidgetsMove()
     {

@@ -117,17 +117,6 @@ private slots:
         m_overlaid->setPalette(white);
     }
 
-    void bands()
-    {
-        const Picture picture(*m_dial);
-        for (const int radius : {98, 90}) {
-            QVERIFY(isNear(picture.at(229.0, radius), 1, 0, 254));
-            QVERIFY(isNear(picture.at(90.5, radius), 127, 0, 127));
-            QVERIFY(isNear(picture.at(-49.0, radius), 254, 0, 1));
-            QVERIFY(isWhite(picture.at(-54.0, radius)));
-        }
-    }
-
     void ticksAndNumbers()
     {
         m_dial->setScaleRange(0, 10); // short numbers, which keep clear of the ticks
@@ -171,19 +160,6 @@ private slots:
         QVERIFY(pointsTo(90.0));
         m_dial->setValueRange(10, -20); // ends swapped: the upper one is applied last
         QVERIFY(pointsTo(90.0));
-    }
-
-    void hubAndNeedleLayers()
-    {
-        m_dial->setScaleRange(0, 100);
-        m_dial->setValue(50, QString()); // straight up
-        const Picture picture(*m_dial);
-        const auto grey = [&picture](double y) { return picture.pixel(0.0, y).lightness(); };
-        QVERIFY2(qAbs(grey(5) - 0) < 10, "inner disc");
-        QVERIFY2(qAbs(grey(10) - 128) < 10, "outer disc, half through");
-        QVERIFY2(qAbs(grey(-10) - 25) < 10, "needle over the outer disc");
-        QVERIFY2(qAbs(grey(-30) - 51) < 10, "needle");
-        QVERIFY2(grey(14) > 240, "nothing beyond the discs");
     }
 
     void captionAndValueText()
@@ -238,15 +214,6 @@ private slots:
         QVERIFY(isGreen(whole.at(238.0, 60)));
         QVERIFY(isGreen(whole.at(-58.0, 60)));
         QVERIFY(isWhite(whole.at(275.0, 60)));
-    }
-
-    void timeroutDrawsANumberAndNothingElse()
-    {
-        const QImage before = Picture(*m_dial).image();
-        int number = -1;
-        QVERIFY(QMetaObject::invokeMethod(m_dial.get(), "timerout", Q_RETURN_ARG(int, number)));
-        QVERIFY(number >= 0);
-        QCOMPARE(Picture(*m_dial).image(), before);
     }
 
 private:

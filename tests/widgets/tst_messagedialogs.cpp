@@ -17,7 +17,7 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-/// The text of a label or button, in brackets when the operator does not see it.
+/// The text of a label or button, in brackets when the user does not see it.
 QString shown(const QWidget &dialog, const char *name)
 {
     const auto *widget = dialog.findChild<QWidget *>(text(name));
