@@ -1,5 +1,7 @@
 #include "watch/trafficmodel.h"
 
+#include <QLocale>
+
 #include <utility>
 
 void TrafficModel::addSent(const QString &line)
