@@ -22,6 +22,7 @@ constexpr double keyStep = 0.1;         // of what is shown
 constexpr double reach = 6.0;           // pixels about a cursor in which it is taken hold of
 constexpr int labelRoom = 96;           // pixels for the label of a division
 constexpr int levelRoom = 40;
+constexpr int fittedDivisions = 10;
 constexpr int rightMargin = 24;
 
 /// \a low and \a high with a twentieth beside them, and not too close to each other.
@@ -126,8 +127,10 @@ void RecordChart::showRange(ViewRange range)
     double high = 0.0;
     if (m_fitsLevel && m_curve.levels(low, high)) {
         widen(low, high);
-        range.yMin = low;
-        range.yMax = high;
+        // Whole divisions, so that the axis stands still from one step of a zoom to the next.
+        const double step = ClockTicks::ofLevel(low, high, fittedDivisions).interval;
+        range.yMin = std::floor(low / step) * step;
+        range.yMax = std::ceil(high / step) * step;
     }
     m_shown = range;
     applyAxes();

@@ -98,9 +98,10 @@ void TestRecordView::zoomsAndPans()
     RecordChart *chart = m_view->chart();
     const ViewRange all = chart->shownRange();
     QVERIFY(all.xMin < m_view->reader()->data().begin());
-    QTest::keyClick(chart, Qt::Key_Plus);
+    for (int i = 0; i < 6; ++i)
+        QTest::keyClick(chart, Qt::Key_Plus);
     const ViewRange closer = chart->shownRange();
-    QVERIFY(closer.xMax - closer.xMin < 0.9 * (all.xMax - all.xMin));
+    QVERIFY(closer.xMax - closer.xMin < 0.3 * (all.xMax - all.xMin));
     QVERIFY(closer.yMax < all.yMax); // the level follows what is shown
     QTest::keyClick(chart, Qt::Key_Right);
     const double tenth = 0.1 * (closer.xMax - closer.xMin);
