@@ -49,6 +49,10 @@ CommonOptions commonOptions(CommonTexts texts, const QStringList &arguments)
         options.address = OptionValues::required(
             "--serial", texts.serial, MeterAddress::serial(QString::fromStdString(texts.serial)));
     options.name = texts.name.empty() ? options.address.name() : QString::fromStdString(texts.name);
+    const bool isOneLine =
+        std::all_of(options.name.begin(), options.name.end(), [](QChar c) { return c.isPrint(); });
+    if (!isOneLine)
+        throw CLI::ValidationError("--name", "holds what cannot be printed");
     return options;
 }
 

@@ -52,13 +52,18 @@ DayFiles::DayFiles(const QString &folder, const QString &name)
 
 DayFiles::~DayFiles() = default;
 
-std::optional<QString> DayFiles::open()
+std::optional<QString> DayFiles::open(const QStringList &names)
 {
     if (!QDir().mkpath(m_folder))
         return QStringLiteral("%1 cannot be made").arg(m_folder);
-    if (const auto obstacle = WriteCheck::obstacle(m_folder + QStringLiteral("/x")))
-        return QStringLiteral("%1: %2").arg(m_folder, *obstacle);
-    return lock();
+    if (auto obstacle = lock())
+        return obstacle;
+    for (const QString &name : names) {
+        const QString path = m_folder + QLatin1Char('/') + name;
+        if (const auto obstacle = WriteCheck::obstacle(path))
+            return QStringLiteral("%1: %2").arg(path, *obstacle);
+    }
+    return std::nullopt;
 }
 
 std::optional<QString> DayFiles::lock()

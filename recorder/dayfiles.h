@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -19,8 +20,8 @@ public:
     Q_DISABLE_COPY(DayFiles)
 
     /// Makes the folder and keeps every other program off these files for as long as this lives;
-    /// why that is not possible, or nothing.
-    std::optional<QString> open();
+    /// why that, or writing the files called \a names, is not possible, or nothing.
+    std::optional<QString> open(const QStringList &names = {});
 
     /// The name of the file of \a day; \a ending with its point.
     QString fileName(const QDate &day, const QString &ending) const;

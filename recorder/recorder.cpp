@@ -19,6 +19,7 @@ constexpr qint64 grace = 20000000;
 constexpr qint64 longestWait = second;
 
 constexpr std::size_t mostWaitingEvents = 10000;
+const QString eventsEnding = QStringLiteral(".events.jsonl");
 
 /// Writes \a text beside \a path and renames it. Readers of the folder pass over the first name.
 std::optional<QString> replaceBeside(const QString &path, const QByteArray &text)
@@ -27,17 +28,21 @@ std::optional<QString> replaceBeside(const QString &path, const QByteArray &text
     QFile file(temporary);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return file.errorString();
+    const auto failed = [&temporary](const QString &reason) {
+        QFile::remove(temporary);
+        return reason;
+    };
     if (file.write(text) != text.size() || !file.flush())
-        return file.errorString();
+        return failed(file.errorString());
     file.close();
 #ifdef Q_OS_WIN
     QFile::remove(path);
     if (!QFile::rename(temporary, path))
-        return QStringLiteral("cannot be replaced");
+        return failed(QStringLiteral("cannot be replaced"));
 #else
     if (std::rename(QFile::encodeName(temporary).constData(),
                     QFile::encodeName(path).constData()) != 0)
-        return qt_error_string(errno);
+        return failed(qt_error_string(errno));
 #endif
     return std::nullopt;
 }
@@ -83,7 +88,10 @@ void Recorder::connectMeter()
 std::optional<QString> Recorder::start()
 {
     if (!printsRows()) {
-        if (auto obstacle = m_files.open())
+        const QDate today = localDate(m_start.wall);
+        if (auto obstacle =
+                m_files.open({m_files.fileName(today, RowText::fileEnding(m_options.format)),
+                              m_files.fileName(today, eventsEnding)}))
             return obstacle;
     }
     if (!m_options.metricsFile.isEmpty()) {
@@ -169,7 +177,7 @@ void Recorder::takeEvent(const char *name, qint64 wall, const JsonLine &details)
     }
     if (qstrcmp(name, "link-lost") == 0 || qstrcmp(name, "link-up") == 0)
         printMessage(QString::fromUtf8(line.line()).trimmed());
-    const QString file = m_files.fileName(localDate(wall), QStringLiteral(".events.jsonl"));
+    const QString file = m_files.fileName(localDate(wall), eventsEnding);
     m_events.add({file, {}, line.line()});
 }
 
