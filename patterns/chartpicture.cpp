@@ -157,8 +157,8 @@ void paintOn(QPainter &painter, const ListChart &form)
     const Layout layout(form);
     const NoItemCaches noCaches({form.polarChart().scene(), form.cartesianChart().scene()});
     form.polarChart().paintPicture(painter, QRectF(layout.left), layout.left);
-    form.cartesianChart().render(&painter, QRectF(layout.right.translated(layout.left.width(), 0)),
-                                 layout.right);
+    form.cartesianChart().paintPicture(
+        painter, QRectF(layout.right.translated(layout.left.width(), 0)), layout.right);
     QFont font = form.font();
     font.setPixelSize(QFontInfo(font).pixelSize()); // paper has points of its own
     painter.setFont(font);

@@ -134,6 +134,8 @@ QVariant CurveTableModel::headerData(int section, Qt::Orientation orientation, i
 Qt::ItemFlags CurveTableModel::flags(const QModelIndex &index) const
 {
     Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (!index.isValid())
+        return flags;
     if (index.column() <= Material)
         flags |= Qt::ItemIsEditable;
     if (index.column() == Name)
