@@ -1,5 +1,6 @@
 #include "patterns/batch.h"
 #include "patterns/figuretable.h"
+#include "patterns/maskfile.h"
 #include "testmain.h"
 
 #include <QBuffer>
@@ -108,6 +109,32 @@ private slots:
         QCOMPARE(run(task("nobody"), files), int(Batch::Failed));
         QVERIFY2(m_messages.contains(text("nobody")), qPrintable(m_messages));
         QCOMPARE(content(text("o.msi")), written);
+    }
+
+    void masks_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("corners"); // 0: refused
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char *name, const QByteArray &bytes, int corners,
+                            const char *told = "") {
+            QTest::newRow(name) << bytes << corners << text(told);
+        };
+        row("any separator", "# limit\nAngle;Level\n-10;-3\n0, 0\r\n10\t-3\n20 -4", 4);
+        row("step", "0 0\n5 0\n5 -20\n", 3);
+        row("word within", "0 0\n5 x\n", 0, "Line 2: Not an angle");
+        row("going back", "0 0\n5 0\n\n4 0\n", 0, "Line 4: The angles");
+        row("one corner", "0 0\n", 0, "two rows");
+    }
+    void masks()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const int, corners);
+        QFETCH(const QString, told);
+        const Mask mask = readMask(bytes);
+        QCOMPARE(mask.corners.size(), corners);
+        QVERIFY2(told.isEmpty() ? mask.problem.isEmpty() : mask.problem.contains(told),
+                 qPrintable(mask.problem));
     }
 
     /// Started as a script does it on a machine without a screen.
