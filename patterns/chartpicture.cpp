@@ -76,12 +76,16 @@ void paintLegend(QPainter &painter, const QVector<LegendLine> &lines, const QRec
     }
 }
 
-/// What a view shows above its legend.
+/// What a view shows above its legend, or left of it.
 QRect chartArea(const GraphicsBase &view)
 {
     const QtCharts::QLegend *legend = view.chart()->legend();
-    const int bottom = legend->isVisible() ? qRound(legend->geometry().top()) : view.height();
-    return {0, 0, view.width(), qMin(bottom, view.height())};
+    if (!legend->isVisible())
+        return {QPoint(), view.size()};
+    const QRectF place = legend->geometry();
+    if (legend->alignment() == Qt::AlignRight)
+        return {0, 0, qMin(qRound(place.left()), view.width()), view.height()};
+    return {0, 0, view.width(), qMin(qRound(place.top()), view.height())};
 }
 
 /// Where the parts of the picture stand.

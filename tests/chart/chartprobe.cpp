@@ -39,10 +39,11 @@ void click(GraphicsBase &view, const QPointF &position)
     QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, position.toPoint());
 }
 
-void turnWheel(GraphicsBase &view, const QPointF &position, int delta)
+void turnWheel(GraphicsBase &view, const QPointF &position, int delta,
+               Qt::KeyboardModifiers modifiers)
 {
     QWheelEvent event(position, view.viewport()->mapToGlobal(position.toPoint()), QPoint(),
-                      QPoint(0, delta), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                      QPoint(0, delta), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(view.viewport(), &event);
 }
 

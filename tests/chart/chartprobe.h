@@ -34,7 +34,8 @@ void run(GraphicsBase &view, const char *slot);
 void click(GraphicsBase &view, const QPointF &position);
 
 /// A turn of the wheel by \a delta eighths of a degree at \a position of the scene.
-void turnWheel(GraphicsBase &view, const QPointF &position, int delta);
+void turnWheel(GraphicsBase &view, const QPointF &position, int delta,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 /// Drags \a data onto \a target, which has to take it.
 void dropOn(QWidget &target, const QMimeData &data);

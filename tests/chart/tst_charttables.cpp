@@ -35,14 +35,6 @@ QString rowText(const QTableWidget &table, int row)
     return texts.join(QLatin1Char('|'));
 }
 
-QString headings(const QTableWidget &table)
-{
-    QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column)
-        texts.append(table.horizontalHeaderItem(column)->text());
-    return texts.join(QLatin1Char('|'));
-}
-
 ParaInfo sampleInfo()
 {
     ParaInfo info;
@@ -65,13 +57,6 @@ void sendMouse(QGraphicsScene &scene, QEvent::Type type, const QPointF &position
     QCoreApplication::sendEvent(&scene, &event);
 }
 
-/// Angle and radius on a circle of a pixel a dB around the origin.
-QPointF onCircle(const QPointF &value)
-{
-    const double angle = value.x() * std::acos(-1.0) / 180.0;
-    return QPointF(std::sin(angle), -std::cos(angle)) * (value.y() + 40.0);
-}
-
 } // namespace
 
 /// The graph manager, the tables of figures, and the lines that show them in a chart.
@@ -80,19 +65,138 @@ class TestChartTables : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void managerShowsCurves();
-    void managerEditsAtOnce();
-    void managerAsksForColor();
-    void managerRestoresEverything();
-    void managerWritesNamesBack_data();
-    void managerWritesNamesBack();
-    void managerOpensFromTheView();
-    void floatingTableShowsFigures();
-    void panelFollowsItsTableAndTheMouse();
-    void frequencyTableGrowsShrinksAndResets();
-    void linesAreShownAndHidden();
+    void init()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_view = std::make_unique<GraphicsBase>(0);
+        m_view->resetChart({text("F1"), text("F2"), text("F3")});
+        curve(1)->setColor(QColor(10, 20, 30));
+        curve(2)->setHidden(true);
+        curve(3)->setLineWidth(7);
+        m_dialog = std::make_unique<ManagerGraph>();
+        m_dialog->updatePathInfo(m_view->paths());
+        m_dialog->show();
+    }
+
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_view.reset();
+    }
+
+    void managerEditsAtOnce()
+    {
+        cell<MyCheckBox>(StateRow, 0)->click();
+        cell<MyCheckBox>(StateRow, 1)->click();
+        QVERIFY(curve(1)->isHidden() && !curve(2)->isHidden());
+
+        auto *width = cell<MyComboBox>(WidthRow, 0);
+        QList<int> widths;
+        for (int i = width->count() - 1; i >= 0; --i) {
+            width->setCurrentIndex(i);
+            widths.append(curve(1)->lineWidth());
+        }
+        QCOMPARE(widths, QList<int>({9, 8, 9, 6, 5, 4, 3, 2, 1}));
+        QCOMPARE(curve(2)->lineWidth(), 2);
+    }
+
+    void managerAsksForColor()
+    {
+        auto *swatch = cell<MyPushButton>(ColorRow, 0);
+        const QColor before = curve(1)->color();
+        for (const bool accepted : {false, true}) {
+            const ModalScript script({[accepted](QWidget *window) {
+                auto *dialog = qobject_cast<QColorDialog *>(window);
+                QVERIFY(dialog);
+                QCOMPARE(dialog->currentColor(), QColor(Qt::white));
+                dialog->setCurrentColor(QColor(200, 0, 0));
+                static_cast<QDialog *>(dialog)->done(accepted);
+            }});
+            swatch->click();
+            QVERIFY(script.isDone());
+            const QColor expected = accepted ? QColor(200, 0, 0) : before;
+            QCOMPARE(curve(1)->color(), expected);
+            QCOMPARE(swatch->palette().button().color(), expected);
+        }
+    }
+
+    void managerRestoresEverything()
+    {
+        const QColor second = curve(2)->color();
+        for (int column = 0; column < 3; ++column) {
+            cell<MyCheckBox>(StateRow, column)->click();
+            m_dialog->colorSelected(column, QColor(1, 2, 3));
+            cell<MyComboBox>(WidthRow, column)->setCurrentIndex(8);
+        }
+        button("pushButtonDefault")->click();
+        for (int column = 0; column < 3; ++column) {
+            const bool isShown = column != 1;
+            QCOMPARE(curve(column + 1)->isHidden(), !isShown);
+            QCOMPARE(cell<MyCheckBox>(StateRow, column)->isChecked(), isShown);
+        }
+        QCOMPARE(curve(2)->color(), second);
+        QCOMPARE(cell<MyPushButton>(ColorRow, 1)->palette().button().color(), second);
+        QCOMPARE(curve(1)->lineWidth(), 2);
+        QCOMPARE(cell<MyComboBox>(WidthRow, 0)->currentText(), text("2"));
+        QCOMPARE(curve(3)->lineWidth(), 7); // not among the widths that are offered
+        QVERIFY(m_dialog->isVisible());
+    }
+
+    void managerWritesNamesBack_data()
+    {
+        QTest::addColumn<QString>("descriptions");
+        QTest::addColumn<Steps>("answers");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<bool>("closed");
+        const Steps none;
+        const Steps twice{rename("F1"), rename("B")};
+        const Steps cancel{rename(nullptr)};
+        QTest::newRow("untouched or emptied") << "F1||F3" << none << "F1|F2|F3" << true;
+        QTest::newRow("two curves swap names") << "F2|F1|F3" << none << "F2|F1|F3" << true;
+        QTest::newRow("a taken name is refused, and again")
+            << "F1|F3|F3" << twice << "F1|B|F3" << true;
+        QTest::newRow("cancelled: back to the table") << "A|F3|F3" << cancel << "F1|F2|F3" << false;
+    }
+
+    void managerWritesNamesBack()
+    {
+        QFETCH(const QString, descriptions);
+        QFETCH(const Steps, answers);
+        QFETCH(const bool, closed);
+        const QSignalSpy resized(m_dialog.get(), &ManagerGraph::updataResize);
+        const QStringList edited = descriptions.split(QLatin1Char('|'));
+        for (int column = 0; column < 3; ++column)
+            table()->item(DescriptionRow, column)->setText(edited[column]);
+        const ModalScript script(answers);
+        button("pushButtonOK")->click();
+        QVERIFY(script.isDone());
+        QTEST(names(*m_view), "expected");
+        QCOMPARE(m_dialog->isVisible(), !closed);
+        QCOMPARE(resized.size(), closed ? 1 : 0);
+    }
+
+    void panelFollowsItsTableAndTheMouse()
+    {
+        QGraphicsScene scene(0, 0, 800, 600);
+        auto *panel = new MyCustomProxy;
+        scene.addItem(panel);
+        for (const bool filled : {true, false, true}) {
+            QCOMPARE(panel->isVisible(), !filled);
+            if (filled)
+                panel->updateParaInfo(sampleInfo());
+            else
+                panel->clearParaInfo();
+            QCOMPARE(panel->getParaTableDataStatus(), filled);
+            QCOMPARE(panel->table()->item(0, 2)->text(), text("20.00"));
+        }
+        QCOMPARE(panel->size(), QSizeF(300, 220));
+        panel->setPos(50, 50);
+        sendMouse(scene, QEvent::GraphicsSceneMousePress, {60, 60});
+        sendMouse(scene, QEvent::GraphicsSceneMouseMove, {160, 90});
+        sendMouse(scene, QEvent::GraphicsSceneMouseRelease, {160, 90});
+        QCOMPARE(panel->pos(), QPointF(150, 80));
+        QVERIFY(!scene.mouseGrabberItem());
+    }
 
 private:
     QTableWidget *table() const { return m_dialog->findChild<QTableWidget *>(text("tableWidget")); }
@@ -112,243 +216,6 @@ private:
     std::unique_ptr<GraphicsBase> m_view;
     std::unique_ptr<ManagerGraph> m_dialog;
 };
-
-void TestChartTables::init()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_view = std::make_unique<GraphicsBase>(0);
-    m_view->resetChart({text("F1"), text("F2"), text("F3")});
-    curve(1)->setColor(QColor(10, 20, 30));
-    curve(2)->setHidden(true);
-    curve(3)->setLineWidth(7);
-    m_dialog = std::make_unique<ManagerGraph>();
-    m_dialog->updatePathInfo(m_view->paths());
-    m_dialog->show();
-}
-
-void TestChartTables::cleanup()
-{
-    m_dialog.reset();
-    m_view.reset();
-}
-
-void TestChartTables::managerShowsCurves()
-{
-    m_view->clearChart(2);
-    m_dialog->updatePathInfo(m_view->paths());
-    QCOMPARE(rowText(*table(), IdRow), text("1|3"));
-    QCOMPARE(rowText(*table(), DescriptionRow), text("F1|F3"));
-    QVERIFY(!table()->item(IdRow, 1)->flags().testFlag(Qt::ItemIsEditable));
-    QVERIFY(cell<MyCheckBox>(StateRow, 0)->isChecked());
-    auto *swatch = cell<MyPushButton>(ColorRow, 0);
-    QCOMPARE(swatch->grab().toImage().pixelColor(swatch->rect().center()), QColor(10, 20, 30));
-    QCOMPARE(cell<MyComboBox>(WidthRow, 0)->currentText(), text("2"));
-
-    QCOMPARE(table()->verticalHeaderItem(WidthRow)->text(), text("Line Width"));
-}
-
-void TestChartTables::managerEditsAtOnce()
-{
-    cell<MyCheckBox>(StateRow, 0)->click();
-    cell<MyCheckBox>(StateRow, 1)->click();
-    QVERIFY(curve(1)->isHidden() && !curve(2)->isHidden());
-
-    auto *width = cell<MyComboBox>(WidthRow, 0);
-    QList<int> widths;
-    for (int i = width->count() - 1; i >= 0; --i) {
-        width->setCurrentIndex(i);
-        widths.append(curve(1)->lineWidth());
-    }
-    QCOMPARE(widths, QList<int>({9, 8, 9, 6, 5, 4, 3, 2, 1}));
-    QCOMPARE(curve(2)->lineWidth(), 2);
-}
-
-void TestChartTables::managerAsksForColor()
-{
-    auto *swatch = cell<MyPushButton>(ColorRow, 0);
-    const QColor before = curve(1)->color();
-    for (const bool accepted : {false, true}) {
-        const ModalScript script({[accepted](QWidget *window) {
-            auto *dialog = qobject_cast<QColorDialog *>(window);
-            QVERIFY(dialog);
-            QCOMPARE(dialog->currentColor(), QColor(Qt::white));
-            dialog->setCurrentColor(QColor(200, 0, 0));
-            static_cast<QDialog *>(dialog)->done(accepted);
-        }});
-        swatch->click();
-        QVERIFY(script.isDone());
-        const QColor expected = accepted ? QColor(200, 0, 0) : before;
-        QCOMPARE(curve(1)->color(), expected);
-        QCOMPARE(swatch->palette().button().color(), expected);
-    }
-}
-
-void TestChartTables::managerRestoresEverything()
-{
-    const QColor second = curve(2)->color();
-    for (int column = 0; column < 3; ++column) {
-        cell<MyCheckBox>(StateRow, column)->click();
-        m_dialog->colorSelected(column, QColor(1, 2, 3));
-        cell<MyComboBox>(WidthRow, column)->setCurrentIndex(8);
-    }
-    button("pushButtonDefault")->click();
-    for (int column = 0; column < 3; ++column) {
-        const bool isShown = column != 1;
-        QCOMPARE(curve(column + 1)->isHidden(), !isShown);
-        QCOMPARE(cell<MyCheckBox>(StateRow, column)->isChecked(), isShown);
-    }
-    QCOMPARE(curve(2)->color(), second);
-    QCOMPARE(cell<MyPushButton>(ColorRow, 1)->palette().button().color(), second);
-    QCOMPARE(curve(1)->lineWidth(), 2);
-    QCOMPARE(cell<MyComboBox>(WidthRow, 0)->currentText(), text("2"));
-    QCOMPARE(curve(3)->lineWidth(), 7); // not among the widths that are offered
-    QVERIFY(m_dialog->isVisible());
-}
-
-void TestChartTables::managerWritesNamesBack_data()
-{
-    QTest::addColumn<QString>("descriptions");
-    QTest::addColumn<Steps>("answers");
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<bool>("closed");
-    const Steps none;
-    const Steps twice{rename("F1"), rename("B")};
-    const Steps cancel{rename(nullptr)};
-    QTest::newRow("untouched or emptied") << "F1||F3" << none << "F1|F2|F3" << true;
-    QTest::newRow("two curves swap names") << "F2|F1|F3" << none << "F2|F1|F3" << true;
-    QTest::newRow("a taken name is refused, and again") << "F1|F3|F3" << twice << "F1|B|F3" << true;
-    QTest::newRow("cancelled: back to the table") << "A|F3|F3" << cancel << "F1|F2|F3" << false;
-}
-
-void TestChartTables::managerWritesNamesBack()
-{
-    QFETCH(const QString, descriptions);
-    QFETCH(const Steps, answers);
-    QFETCH(const bool, closed);
-    const QSignalSpy resized(m_dialog.get(), &ManagerGraph::updataResize);
-    const QStringList edited = descriptions.split(QLatin1Char('|'));
-    for (int column = 0; column < 3; ++column)
-        table()->item(DescriptionRow, column)->setText(edited[column]);
-    const ModalScript script(answers);
-    button("pushButtonOK")->click();
-    QVERIFY(script.isDone());
-    QTEST(names(*m_view), "expected");
-    QCOMPARE(m_dialog->isVisible(), !closed);
-    QCOMPARE(resized.size(), closed ? 1 : 0);
-}
-
-void TestChartTables::managerOpensFromTheView()
-{
-    m_dialog->hide();
-    const ModalScript script({[](QWidget *window) {
-        QCOMPARE(window->windowTitle(), text("Manage Graph"));
-        QCOMPARE(window->findChild<QTableWidget *>(text("tableWidget"))->columnCount(), 3);
-        window->close();
-    }});
-    run(*m_view, "managerGraphicsSlot");
-    QVERIFY(script.isDone());
-}
-
-void TestChartTables::floatingTableShowsFigures()
-{
-    MyParaInfoTable figures;
-    figures.updateParaInfo(sampleInfo());
-    QCOMPARE(rowText(figures, 0), text("Gain|1.00|20.00"));
-    QCOMPARE(rowText(figures, 3), text("3dB Width|22.50|17.00"));
-    QCOMPARE(rowText(figures, 9), text("Axial Ratio||40.00"));
-    QCOMPARE(rowText(figures, 10), text("CrossPolarRatio||0.00"));
-}
-
-void TestChartTables::panelFollowsItsTableAndTheMouse()
-{
-    QGraphicsScene scene(0, 0, 800, 600);
-    auto *panel = new MyCustomProxy;
-    scene.addItem(panel);
-    for (const bool filled : {true, false, true}) {
-        QCOMPARE(panel->isVisible(), !filled);
-        if (filled)
-            panel->updateParaInfo(sampleInfo());
-        else
-            panel->clearParaInfo();
-        QCOMPARE(panel->getParaTableDataStatus(), filled);
-        QCOMPARE(panel->table()->item(0, 2)->text(), text("20.00"));
-    }
-    QCOMPARE(panel->size(), QSizeF(300, 220));
-    panel->setPos(50, 50);
-    sendMouse(scene, QEvent::GraphicsSceneMousePress, {60, 60});
-    sendMouse(scene, QEvent::GraphicsSceneMouseMove, {160, 90});
-    sendMouse(scene, QEvent::GraphicsSceneMouseRelease, {160, 90});
-    QCOMPARE(panel->pos(), QPointF(150, 80));
-    QVERIFY(!scene.mouseGrabberItem());
-}
-
-void TestChartTables::frequencyTableGrowsShrinksAndResets()
-{
-    const QString standard = text("Frequency(MHz)|Gain|3dB Width|First Side Lobe(L)|"
-                                  "First Side Lobe(R)|Before After Ratio|Axial Ratio|"
-                                  "CrossPolarRatio");
-    ParaInfoTable figures;
-    QCOMPARE(headings(figures), standard);
-    figures.updateParaInfo(sampleInfo(), 1, text("2450"));
-    figures.updateParaInfo(sampleInfo(), 3, text("10 GHz"));
-    QCOMPARE(figures.rowCount(), 3);
-    QCOMPARE(figures.maximumHeight(), figures.rowHeight(0) * 4);
-    QVERIFY(rowText(figures, 0).startsWith(text("2450|20.0000|22.5000|")));
-    QCOMPARE(rowText(figures, 2), text("10 GHz|20.0000|22.5000|0.0000|0.0000|25.1055|40.0000|"
-                                       "0.0000"));
-    figures.setColumns(ParaInfoTable::Columns::WithAmplitude);
-    QVERIFY(headings(figures).startsWith(text("Frequency(MHz)|Amplitude|Gain|")));
-    figures.updateParaInfo(sampleInfo(), 2, text("900"));
-    QVERIFY(rowText(figures, 0).startsWith(text("2450||20.0000|")));
-    QVERIFY(rowText(figures, 1).startsWith(text("900|10.0000|20.0000|")));
-    figures.setColumns(ParaInfoTable::Columns::Standard);
-    QCOMPARE(headings(figures), standard);
-    figures.updateParaInfo(sampleInfo(), 1, text("800"));
-    QCOMPARE(figures.rowCount(), 1);
-    QVERIFY(rowText(figures, 0).startsWith(text("800|20.0000|")));
-    figures.resetRows();
-    QCOMPARE(rowText(figures, 0), standard);
-}
-
-void TestChartTables::linesAreShownAndHidden()
-{
-    const PatternLineValues values{
-        {0, 0}, QPointF(-60, -3), QPointF(60, -3), {-30, -12}, {300, -12}};
-    const ViewRange axes{-180, 180, -40, 10};
-    PatternLines lines;
-    const QList<QGraphicsItem *> items = lines.items();
-    const auto visible = [&items] {
-        QString flags;
-        for (const QGraphicsItem *item : items)
-            flags += QLatin1Char(item->isVisible() ? 'v' : '-');
-        return flags;
-    };
-    const auto pathOf = [&items](int index) {
-        return qgraphicsitem_cast<QGraphicsPathItem *>(items[index])->path();
-    };
-    QCOMPARE(visible(), text("-------"));
-    lines.update(values, onCircle, axes, true);
-    QCOMPARE(visible(), text("vvvvv--"));
-    // From the centre out to the peak; and the level of the half power is an arc.
-    QCOMPARE(QPointF(pathOf(0).elementAt(0)), QPointF(0, 0));
-    QCOMPARE(pathOf(0).currentPosition(), QPointF(0, -40));
-    const QPainterPath arc = pathOf(3);
-    QVERIFY(arc.elementCount() > 100);
-    for (int i = 0; i < arc.elementCount(); ++i) {
-        const QPointF point = arc.elementAt(i);
-        QVERIFY(std::abs(std::hypot(point.x(), point.y()) - 37.0) < 1e-9);
-    }
-    lines.update(values, onCircle, axes, false);
-    QCOMPARE(visible(), text("-------"));
-    // A beam across the seam is drawn at both ends of the angle axis, none between them.
-    lines.updateBeams(
-        {{3.0, -3.0, 170.0, 190.0}}, [](const QPointF &value) { return value; }, axes);
-    QCOMPARE(visible(), text("------v"));
-    QCOMPARE(pathOf(6).boundingRect(), QRectF(-180, -40, 360, 37));
-    for (int i = 0; i < pathOf(6).elementCount(); ++i)
-        QVERIFY(std::abs(pathOf(6).elementAt(i).x) >= 170.0);
-    qDeleteAll(items);
-}
 
 MZ_TEST_MAIN(TestChartTables)
 

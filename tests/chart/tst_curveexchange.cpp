@@ -54,21 +54,138 @@ class TestCurveExchange : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup() { m_view.reset(); }
+    void init()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_view = std::make_unique<GraphicsBase>(0);
+        m_view->resize(600, 400);
+        m_view->chart()->setTitle(text("T"));
+        QGuiApplication::clipboard()->clear();
+    }
 
-    void givesAwaySelectedCurve();
-    void needsSelectedCurve();
-    void logsCancelledDialogs();
-    void tellsFailedExport();
-    void importsCurve();
-    void importRefusesFiles();
-    void importAsksForFreeName_data();
-    void importAsksForFreeName();
-    void pastesText_data();
-    void pastesText();
-    void dragsIntoAnotherView();
-    void picturesAlwaysSucceed();
+    void givesAwaySelectedCurve()
+    {
+        m_view->addCurve(text("other"), {{1, 1}});
+        selectCurve("F1");
+        runWith("copySlot", {});
+        QCOMPARE(QGuiApplication::clipboard()->text(), text("F1\nAngle,Power\n0,-3.5\n90,12\n"));
+        const QString path = file("曲线.csv");
+        runWith("exportGraphicsDataSlot", {choose(path), read("Export csv successfully")});
+        QCOMPARE(contentOf(path), QByteArray("T\nF1\nAngle,Power\n0,-3.5\n90,12\n"));
+        QVERIFY(remembersFolder());
+    }
+
+    void needsSelectedCurve()
+    {
+        m_view->addCurve(text("F1"), somePoints);
+        for (const char *slot : {"copySlot", "exportGraphicsDataSlot"}) {
+            QTest::ignoreMessage(QtWarningMsg, "No selected graphics can be exported");
+            runWith(slot, {read("No selected graphics can be exported")});
+        }
+        QVERIFY(QGuiApplication::clipboard()->text().isEmpty());
+    }
+
+    void importsCurve()
+    {
+        m_view->addCurve(text("there already"), {{1, 1}});
+        const QString path = write("F1.csv", "\xEF\xBB\xBFT\r\nF1\r\nAngle,Power\r\n"
+                                             "0,-3.5\r\nx\r\n1,nan\r\n90,12");
+        runWith("importGraphicsDataSlot", {choose(path)});
+        QCOMPARE(names(*m_view), text("there already|F1"));
+        QCOMPARE(m_view->paths()[2]->points(), somePoints);
+        QCOMPARE(m_view->seriesName(), text("F1"));
+        QVERIFY(remembersFolder());
+    }
+
+    void importRefusesFiles()
+    {
+        const QString gone = write("gone.csv", "T\nF1\nAngle,Power\n");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("^open file error: .+")));
+        runWith("importGraphicsDataSlot", {choose(gone, true)});
+        QCOMPARE(m_view->defaultDirectory(), text("./"));
+        const QString bad = write("bad.csv", "T\nF1\nangle,power\n0,-3.5\n");
+        runWith("importGraphicsDataSlot", {choose(bad), read("Incorrect file format")});
+        QVERIFY(m_view->paths().isEmpty());
+    }
+
+    void pastesText_data()
+    {
+        QTest::addColumn<QString>("clipboard");
+        QTest::addColumn<Steps>("answers");
+        QTest::addColumn<QString>("expected");
+        const Steps none;
+        const Steps cancelled{rename(nullptr)};
+        QTest::newRow("a copied curve") << "F2\nAngle,Power\n0,-3.5\n90,12\n" << none << "F1|F2";
+        QTest::newRow("two columns of a spreadsheet") << "Angle\tPower\n0\t-3,5\n90\t12\n"
+                                                      << none << "F1|Pasted curve";
+        QTest::newRow("name taken, cancelled") << "F1\nAngle,Power\n1,2\n" << cancelled << "F1";
+    }
+
+    /// By the clipboard and by drag and drop.
+    void pastesText()
+    {
+        QFETCH(const QString, clipboard);
+        QFETCH(const Steps, answers);
+        QMimeData data;
+        data.setText(clipboard);
+        QGuiApplication::clipboard()->setText(clipboard);
+        for (const bool dropped : {false, true}) {
+            m_view->clearChart();
+            m_view->addCurve(text("F1"), {{1, 1}});
+            const ModalScript script(answers);
+            if (answers.isEmpty())
+                QTest::ignoreMessage(QtDebugMsg,
+                                     QRegularExpression(text("^pointList = .*-3.5.*90")));
+            if (dropped)
+                dropOn(*m_view->viewport(), data);
+            else
+                run(*m_view, "pasteSlot");
+            QVERIFY(script.isDone());
+            QTEST(names(*m_view), "expected");
+            if (answers.isEmpty())
+                QCOMPARE(m_view->paths()[2]->points(), somePoints);
+        }
+    }
+
+    void dragsIntoAnotherView()
+    {
+        for (const int kind : {0, 1}) {
+            const std::unique_ptr<QMimeData> data(curveDragData(text("F1"), somePoints));
+            const QImage picture = curveDragPixmap(kind, Qt::blue, somePoints).toImage();
+            QVERIFY(picture != curveDragPixmap(kind, Qt::blue, {}).toImage());
+            GraphicsBase target(kind);
+            dropOn(*target.viewport(), *data);
+            QCOMPARE(names(target), text("F1"));
+            // A curve is not dropped on its own chart.
+            emit target.paths()[1]->setAcceptDropsStatus(false);
+            QVERIFY(!target.acceptDrops());
+            emit target.paths()[1]->setAcceptDropsStatus(true);
+            QVERIFY(target.acceptDrops());
+            QCOMPARE(target.paths()[1]->points(), somePoints);
+        }
+    }
+
+    void picturesAlwaysSucceed()
+    {
+        const auto exportTo = [this](const QString &path) {
+            runWith("exportGraphicsImageSlot", {choose(path), read("Export image successfully")});
+        };
+        selectCurve("F1"); // what shows a selection belongs to no picture
+        exportTo(file("chart.png"));
+        run(*m_view, "clearSelectionSlot");
+        QCOMPARE(QImage(file("chart.png")).convertToFormat(QImage::Format_RGB32),
+                 m_view->grab()
+                     .scaled(800, 800, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                     .toImage()
+                     .convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(QImage(file("chart.png")).size(), QSize(800, 533));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("^the image was not saved: ")));
+        exportTo(file("chart.nonsense"));
+        QVERIFY(!QFile::exists(file("chart.nonsense")));
+    }
+
+    void cleanup() { m_view.reset(); }
 
 private:
     /// Runs a slot of the view, which has to ask what \a steps answer.
@@ -98,174 +215,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<GraphicsBase> m_view;
 };
-
-void TestCurveExchange::init()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_view = std::make_unique<GraphicsBase>(0);
-    m_view->resize(600, 400);
-    m_view->chart()->setTitle(text("T"));
-    QGuiApplication::clipboard()->clear();
-}
-
-void TestCurveExchange::givesAwaySelectedCurve()
-{
-    m_view->addCurve(text("other"), {{1, 1}});
-    selectCurve("F1");
-    runWith("copySlot", {});
-    QCOMPARE(QGuiApplication::clipboard()->text(), text("F1\nAngle,Power\n0,-3.5\n90,12\n"));
-    const QString path = file("曲线.csv");
-    runWith("exportGraphicsDataSlot", {choose(path), read("Export csv successfully")});
-    QCOMPARE(contentOf(path), QByteArray("T\nF1\nAngle,Power\n0,-3.5\n90,12\n"));
-    QVERIFY(remembersFolder());
-}
-
-void TestCurveExchange::needsSelectedCurve()
-{
-    m_view->addCurve(text("F1"), somePoints);
-    for (const char *slot : {"copySlot", "exportGraphicsDataSlot"}) {
-        QTest::ignoreMessage(QtWarningMsg, "No selected graphics can be exported");
-        runWith(slot, {read("No selected graphics can be exported")});
-    }
-    QVERIFY(QGuiApplication::clipboard()->text().isEmpty());
-}
-
-void TestCurveExchange::logsCancelledDialogs()
-{
-    selectCurve("F1");
-    const auto cancelled = [this](const char *slot, const char *caption, const char *log) {
-        QTest::ignoreMessage(QtWarningMsg, log);
-        runWith(slot, {[caption](QWidget *dialog) {
-                    QCOMPARE(dialog->windowTitle(), text(caption));
-                    static_cast<QDialog *>(dialog)->reject();
-                }});
-    };
-    cancelled("exportGraphicsDataSlot", "Save As", "The export file directory is empty");
-    cancelled("exportGraphicsImageSlot", "Save As", "The export file directory is empty");
-    cancelled("importGraphicsDataSlot", "import data", "The import file directory is empty");
-    QCOMPARE(m_view->defaultDirectory(), text("./"));
-}
-
-void TestCurveExchange::tellsFailedExport()
-{
-    selectCurve("F1");
-    QVERIFY(QDir(m_folder->path()).mkdir(text("unplugged")));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("^Open file failed .+")));
-    const auto unplug = [this](QWidget *dialog) {
-        choose(file("unplugged/F1.csv"))(dialog);
-        QDir(m_folder->path()).rmdir(text("unplugged"));
-    };
-    runWith("exportGraphicsDataSlot", {unplug, read("Open file failed")});
-}
-
-void TestCurveExchange::importsCurve()
-{
-    m_view->addCurve(text("there already"), {{1, 1}});
-    const QString path = write("F1.csv", "\xEF\xBB\xBFT\r\nF1\r\nAngle,Power\r\n"
-                                         "0,-3.5\r\nx\r\n1,nan\r\n90,12");
-    runWith("importGraphicsDataSlot", {choose(path)});
-    QCOMPARE(names(*m_view), text("there already|F1"));
-    QCOMPARE(m_view->paths()[2]->points(), somePoints);
-    QCOMPARE(m_view->seriesName(), text("F1"));
-    QVERIFY(remembersFolder());
-}
-
-void TestCurveExchange::importRefusesFiles()
-{
-    const QString gone = write("gone.csv", "T\nF1\nAngle,Power\n");
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("^open file error: .+")));
-    runWith("importGraphicsDataSlot", {choose(gone, true)});
-    QCOMPARE(m_view->defaultDirectory(), text("./"));
-    const QString bad = write("bad.csv", "T\nF1\nangle,power\n0,-3.5\n");
-    runWith("importGraphicsDataSlot", {choose(bad), read("Incorrect file format")});
-    QVERIFY(m_view->paths().isEmpty());
-}
-
-void TestCurveExchange::importAsksForFreeName_data()
-{
-    QTest::addColumn<Steps>("answers");
-    QTest::addColumn<QString>("expected");
-    const Steps same{rename("F1"), rename("F3")};
-    const Steps third{rename("F2"), rename("f1")};
-    const Steps cancelled{rename("F2"), rename(nullptr)};
-    QTest::newRow("the same name asks again") << same << "F1|F2|F3";
-    QTest::newRow("a third one's name asks again") << third << "F1|F2|f1";
-    QTest::newRow("cancelled at the second question") << cancelled << "F1|F2";
-}
-
-void TestCurveExchange::importAsksForFreeName()
-{
-    QFETCH(const Steps, answers);
-    m_view->addCurve(text("F1"), {{1, 1}});
-    m_view->addCurve(text("F2"), {{2, 2}});
-    const QString path = write("F1.csv", "T\nF1\nAngle,Power\n0,-3.5\n90,12\n");
-    runWith("importGraphicsDataSlot", Steps{choose(path)} + answers);
-    QTEST(names(*m_view), "expected");
-}
-
-void TestCurveExchange::pastesText_data()
-{
-    QTest::addColumn<QString>("clipboard");
-    QTest::addColumn<Steps>("answers");
-    QTest::addColumn<QString>("expected");
-    const Steps none;
-    const Steps cancelled{rename(nullptr)};
-    QTest::newRow("a copied curve") << "F2\nAngle,Power\n0,-3.5\n90,12\n" << none << "F1|F2";
-    QTest::newRow("two columns of a spreadsheet") << "Angle\tPower\n0\t-3,5\n90\t12\n"
-                                                  << none << "F1|Pasted curve";
-    QTest::newRow("name taken, cancelled") << "F1\nAngle,Power\n1,2\n" << cancelled << "F1";
-}
-
-/// By the clipboard and by drag and drop.
-void TestCurveExchange::pastesText()
-{
-    QFETCH(const QString, clipboard);
-    QFETCH(const Steps, answers);
-    QMimeData data;
-    data.setText(clipboard);
-    QGuiApplication::clipboard()->setText(clipboard);
-    for (const bool dropped : {false, true}) {
-        m_view->clearChart();
-        m_view->addCurve(text("F1"), {{1, 1}});
-        const ModalScript script(answers);
-        if (answers.isEmpty())
-            QTest::ignoreMessage(QtDebugMsg, QRegularExpression(text("^pointList = .*-3.5.*90")));
-        if (dropped)
-            dropOn(*m_view->viewport(), data);
-        else
-            run(*m_view, "pasteSlot");
-        QVERIFY(script.isDone());
-        QTEST(names(*m_view), "expected");
-        if (answers.isEmpty())
-            QCOMPARE(m_view->paths()[2]->points(), somePoints);
-    }
-}
-
-void TestCurveExchange::dragsIntoAnotherView()
-{
-    for (const int kind : {0, 1}) {
-        const std::unique_ptr<QMimeData> data(curveDragData(text("F1"), somePoints));
-        const QImage picture = curveDragPixmap(kind, Qt::blue, somePoints).toImage();
-        QVERIFY(picture != curveDragPixmap(kind, Qt::blue, {}).toImage());
-        GraphicsBase target(kind);
-        dropOn(*target.viewport(), *data);
-        QCOMPARE(names(target), text("F1"));
-        QCOMPARE(target.paths()[1]->points(), somePoints);
-    }
-}
-
-void TestCurveExchange::picturesAlwaysSucceed()
-{
-    const auto exportTo = [this](const QString &path) {
-        runWith("exportGraphicsImageSlot", {choose(path), read("Export image successfully")});
-    };
-    exportTo(file("chart.png"));
-    QCOMPARE(QImage(file("chart.png")).size(), QSize(800, 533));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("^the image was not saved: ")));
-    exportTo(file("chart.nonsense"));
-    QVERIFY(!QFile::exists(file("chart.nonsense")));
-}
 
 MZ_TEST_MAIN(TestCurveExchange)
 
