@@ -8,7 +8,6 @@
 #include <QChart>
 #include <QFileInfo>
 #include <QFontInfo>
-#include <QGraphicsItem>
 #include <QImageWriter>
 #include <QLegend>
 #include <QPainter>
@@ -106,35 +105,6 @@ struct Layout
     QSize size;
 };
 
-/// Lets items paint themselves while it lives, not what they keep of their last painting: that has
-/// the pixels of the screen.
-class NoItemCaches
-{
-public:
-    explicit NoItemCaches(std::initializer_list<QGraphicsScene *> scenes)
-    {
-        for (const QGraphicsScene *scene : scenes) {
-            const QList<QGraphicsItem *> items = scene->items();
-            for (QGraphicsItem *item : items) {
-                if (item->cacheMode() == QGraphicsItem::NoCache)
-                    continue;
-                m_modes.append({item, item->cacheMode()});
-                item->setCacheMode(QGraphicsItem::NoCache);
-            }
-        }
-    }
-    ~NoItemCaches()
-    {
-        for (const auto &[item, mode] : qAsConst(m_modes))
-            item->setCacheMode(mode);
-    }
-    NoItemCaches(const NoItemCaches &) = delete;
-    NoItemCaches &operator=(const NoItemCaches &) = delete;
-
-private:
-    QVector<std::pair<QGraphicsItem *, QGraphicsItem::CacheMode>> m_modes;
-};
-
 } // namespace
 
 namespace ChartPicture {
@@ -159,7 +129,6 @@ QSize size(const ListChart &form)
 void paintOn(QPainter &painter, const ListChart &form)
 {
     const Layout layout(form);
-    const NoItemCaches noCaches({form.polarChart().scene(), form.cartesianChart().scene()});
     form.polarChart().paintPicture(painter, QRectF(layout.left), layout.left);
     form.cartesianChart().paintPicture(
         painter, QRectF(layout.right.translated(layout.left.width(), 0)), layout.right);

@@ -1,9 +1,6 @@
-#include "2d/data/patternanalysis.h"
 #include "2d/data/patternsupplement.h"
-#include "2d/form/parainfotable.h"
 #include "2d/scene/mycustomproxy.h"
 #include "2d/scene/myparainfotable.h"
-#include "2d/scene/patternlines.h"
 #include "2d/view/managergraph.h"
 #include "2d/view/mycheckbox.h"
 #include "2d/view/mycombobox.h"
@@ -13,10 +10,8 @@
 #include "testmain.h"
 
 #include <QColorDialog>
-#include <QGraphicsPathItem>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
-#include <QHeaderView>
 
 #include <cmath>
 
@@ -25,15 +20,6 @@ using namespace ChartProbe;
 namespace {
 
 enum Row { IdRow, DescriptionRow, StateRow, ColorRow, WidthRow };
-
-/// The cells of a row as "A|B".
-QString rowText(const QTableWidget &table, int row)
-{
-    QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column)
-        texts.append(table.item(row, column) ? table.item(row, column)->text() : QString());
-    return texts.join(QLatin1Char('|'));
-}
 
 ParaInfo sampleInfo()
 {
