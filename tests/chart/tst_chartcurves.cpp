@@ -169,7 +169,7 @@ private slots:
         QCOMPARE(view.paths()[1]->paraTablePanel()->pos().y(), 0.0);
         view.resize(1000, 600);
         QCOMPARE(panel->pos().x() + panel->size().width(), 1000.0);
-        // Where the operator has put it, it stays, as long as the view has room for it.
+        // Where the user has put it, it stays, as long as the view has room for it.
         panel->setPos(20, 30);
         view.resize(900, 600);
         QCOMPARE(panel->pos(), QPointF(20, 30));

@@ -40,7 +40,7 @@ QPointF place(const ChartBench &bench, const MyMarkItem *mark)
 
 } // namespace
 
-/// What the operator does to a chart with mouse, keyboard and menu, and to its markers.
+/// What the user does to a chart with mouse, keyboard and menu, and to its markers.
 class TestChartInteraction : public QObject
 {
     Q_OBJECT

@@ -121,7 +121,7 @@ private slots:
         view.setXRange(-180, 170);
         QCOMPARE(x->labelFormat(), text("%g"));
         view.setXRange(-171.31, 170.9);
-        QCOMPARE(x->labelFormat(), text("%.1f"));
+        QCOMPARE(x->labelFormat(), text("%.0f"));
         // Charts take their texts for rich ones.
         view.setChartTitle(text("a<b> & c"));
         QCOMPARE(view.chart()->title(), text("a&lt;b&gt; &amp; c"));

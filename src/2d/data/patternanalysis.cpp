@@ -51,7 +51,7 @@ std::optional<QPointF> halfPowerRight(const Points &points, int peak)
         ++j;
     if (j == points.size())
         return std::nullopt;
-    // Unlike the left side, a crossing at index 1 is not interpolated: intended.
+    // Unlike the left side, a crossing at index 1 is not interpolated: results stay comparable.
     if (j <= 1)
         return QPointF(points[j].x(), level);
     return QPointF(angleAtLevel(points[j - 1], points[j], level, points[j].x()), level);
@@ -99,7 +99,7 @@ int firstNullRight(const Points &points, int peak)
     return rightMinimum(points, std::min(peak + 1, points.size() - 1));
 }
 
-/// The scan starts at the first point of the null's *level*, which need not be the null: intended.
+/// The scan starts at the first point of the null's *level*, which need not be the null.
 int sideLobeLeft(const Points &points, double nullLevel)
 {
     const auto null = std::find_if(points.begin(), points.end(), [nullLevel](const QPointF &point) {
@@ -109,7 +109,7 @@ int sideLobeLeft(const Points &points, double nullLevel)
     return k > 1 ? leftMaximum(points, k - 1) : 0;
 }
 
-/// On this side alone the point of the null's level has to lie beyond the peak: intended.
+/// On this side alone the point of the null's level has to lie beyond the peak.
 int sideLobeRight(const Points &points, double nullLevel, double peakAngle)
 {
     const auto null =

@@ -84,17 +84,20 @@ QString fittingFormat(const QValueAxis &axis, const QString &format)
     if (!(step > 0.0) || !std::isfinite(step))
         return format;
     constexpr int mostDecimals = 9;
-    const bool isGeneral = format == QLatin1String("%g");
-    for (int decimals = isGeneral ? 0 : 1; decimals <= mostDecimals; ++decimals) {
-        const double unit = std::pow(10.0, decimals);
-        bool enough = true;
+    const auto strayFrom = [&](double unit) { // the most that a number differs, in steps
+        double most = 0.0;
         for (int tick = 0; tick < axis.tickCount(); ++tick) {
             const double number = (axis.min() + tick * step) * unit;
-            enough = enough && std::abs(number - std::round(number)) <= 0.05 * step * unit;
+            most = std::max(most, std::abs(number - std::round(number)) / (step * unit));
         }
-        if (enough && isGeneral && decimals == 0)
-            return format;
-        if (enough)
+        return most;
+    };
+    const bool isGeneral = format == QLatin1String("%g");
+    constexpr double exactly = 1e-9;
+    if (isGeneral && strayFrom(1.0) < exactly)
+        return format;
+    for (int decimals = isGeneral ? 0 : 1; decimals <= mostDecimals; ++decimals) {
+        if (strayFrom(std::pow(10.0, decimals)) <= 0.05)
             return QStringLiteral("%.%1f").arg(decimals);
     }
     return format;

