@@ -91,6 +91,8 @@ int main(int argc, char **argv)
         return print(
             {CommandLine::Wish::Refuse, Display::missingText(), {}, {}, false, {}, {}, {}});
 
+    // The link tells each line that it sends and reads.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
     Workbench workbench;
     onStopSignals([&workbench] { workbench.stop(); });
     if (!line.language.isEmpty())
