@@ -10,6 +10,7 @@
 #include <QGraphicsScene>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalSpy>
 
 #include <cmath>
@@ -112,6 +113,22 @@ private slots:
         const Ends after = shown(bench.view);
         QTest::mouseMove(bench.view.viewport(), QPoint(100, 100));
         QCOMPARE(shown(bench.view), after);
+    }
+
+    void letsTheTabulatorLeave()
+    {
+        QWidget window;
+        QLineEdit field(&window);
+        auto *view = new GraphicsBase(0, &window);
+        view->setFocusPolicy(Qt::StrongFocus);
+        view->addCurve(text("A"), flat());
+        window.show();
+        QApplication::setActiveWindow(&window);
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+            view->setFocus();
+            QTest::keyClick(view, key);
+            QVERIFY(field.hasFocus());
+        }
     }
 
     void doesAllWithoutAMouse()

@@ -76,6 +76,16 @@ QString shownAsText(const QString &text)
     return special ? text.toHtmlEscaped() : text;
 }
 
+/// A name as the legend shows it: long ones lose their middle, since they often differ at the end.
+QString legendLabel(const QString &name)
+{
+    constexpr int mostCharacters = 28;
+    if (name.size() <= mostCharacters)
+        return shownAsText(name);
+    constexpr int half = mostCharacters / 2 - 1;
+    return shownAsText(name.left(half) + QChar(0x2026) + name.right(half));
+}
+
 /// A format with the digits that the numbers at the ticks need: those of \a format as long as they
 /// tell every number to a twentieth of the step.
 QString fittingFormat(const QValueAxis &axis, const QString &format)
@@ -311,7 +321,7 @@ void ChartStage::setLegendEntry(const CurveSeries &series, const QString &name, 
     const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
     for (QLegendMarker *entry : entries) {
         entry->setVisible(true);
-        entry->setLabel(shownAsText(name));
+        entry->setLabel(legendLabel(name));
         entry->setBrush(shade);
         entry->setPen(QPen(shade));
         entry->setLabelBrush(greyed ? QColor(Qt::gray) : QColor(Qt::black));
@@ -324,7 +334,7 @@ bool ChartStage::hasLegendEntry(const CurveSeries &series, const QString &name) 
         return false;
     const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
     return !entries.isEmpty() &&
-           (entries.first()->label() == name || entries.first()->label() == shownAsText(name));
+           (entries.first()->label() == name || entries.first()->label() == legendLabel(name));
 }
 
 /// Below the chart a few names find room; more stand in a list beside it.

@@ -246,9 +246,14 @@ bool GraphicsBase::pressKey(int key)
 }
 
 /// The scene would keep the tabulator among its tables, none of which takes a key.
-bool GraphicsBase::focusNextPrevChild(bool next)
+bool GraphicsBase::event(QEvent *event)
 {
-    return QAbstractScrollArea::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+            return focusNextPrevChild(key == Qt::Key_Tab);
+    }
+    return QGraphicsView::event(event);
 }
 
 void GraphicsBase::focusInEvent(QFocusEvent *event)
