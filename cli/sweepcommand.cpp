@@ -48,6 +48,7 @@ private:
     SweepSession m_session; // goes before its devices
     bool m_isStopping = false;
     QString m_told;
+    bool m_isTold = false; ///< why the run cannot go on
 };
 
 void SweepCommand::start()
@@ -106,7 +107,7 @@ void SweepCommand::tellState()
     if (!told.isEmpty() && told != m_told)
         printMessage(told);
     m_told = told;
-    if (isPaused)
+    if (isPaused && !std::exchange(m_isTold, true))
         m_session.giveUp(); // nobody is here to put it right
 }
 
@@ -137,7 +138,7 @@ void SweepCommand::end()
     } else if (cause == SweepRun::Cause::User) {
         finish(ExitStatus::interrupted);
     } else {
-        if (m_told.isEmpty())
+        if (!m_isTold)
             printMessage(m_session.causeText());
         const bool isRefused = cause == SweepRun::Cause::OutOfLimits && !m_session.hasMoved();
         finish(isRefused ? ExitStatus::usage : ExitStatus::failed);
