@@ -40,6 +40,9 @@ PatternWindow::PatternWindow(WindowContext &context, QWidget *parent)
     m_measure = std::make_unique<MeasureMenu>(*ui->menuMeasure, *this);
     for (QAction *action : {ui->actionRemoveCurve, ui->actionCopyCurve, ui->actionSaveCurve})
         ui->listChart->addCurveAction(action);
+    // In the list alone: in the charts the key is the markers'.
+    ui->actionRemoveCurve->setShortcut(QKeySequence::Delete);
+    ui->actionRemoveCurve->setShortcutContext(Qt::WidgetShortcut);
     connect(ui->actionClose, &QAction::triggered, this, &QWidget::close);
     connect(ui->actionQuit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
     connect(ui->actionAboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);

@@ -451,7 +451,7 @@ void ListChart::setUpHint()
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setWordWrap(true);
     m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
-    layout->addWidget(m_hint);
+    layout->addWidget(m_hint, 0, Qt::AlignVCenter);
 }
 
 void ListChart::changeEvent(QEvent *event)
