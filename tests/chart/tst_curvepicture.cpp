@@ -162,6 +162,27 @@ private slots:
         QVERIFY2(missing * 100 <= covered, told("missing", missing).constData());
         QVERIFY2(beside * 50 <= covered, told("beside", beside).constData());
     }
+
+    void staysInItsRoom()
+    {
+        // A chart too small for a plot, and a large circle that the curve leaves.
+        for (const double side : {0.0, 1600.0}) {
+            const QRectF area(0, 0, side, side);
+            MyPathItem item(1);
+            item.adoptView(polarKind, {});
+            item.setPlotArea(area);
+            item.setColor(Qt::white);
+            item.setValuePoints({{0, 0}});
+            item.setDrawnPoints({{0, 0}, {1600, 1600}});
+            QImage picture(1600, 1600, QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::black);
+            QPainter painter(&picture);
+            item.paint(&painter, nullptr, nullptr);
+            painter.end();
+            QCOMPARE(qRed(picture.pixel(800, 800)), side > 0 ? 255 : 0);
+            QCOMPARE(qRed(picture.pixel(100, 100)), 0);
+        }
+    }
 };
 
 MZ_TEST_MAIN(TestCurvePicture)

@@ -105,6 +105,8 @@ StrokeMask::StrokeMask(int width, int height, double penWidth)
 
 void StrokeMask::add(const QVector<QLineF> &segments)
 {
+    if (m_cover.empty() || m_width == 0)
+        return;
     double cap = capOfTip;
     for (int i = 0; i < segments.size(); ++i) {
         const QLineF &segment = segments[i];
@@ -250,7 +252,8 @@ void StrokeMask::cutToCircle(const QPointF &centre, double radius)
             const double dx = x + 0.5 - centre.x();
             if (cover[x] == 0 || std::abs(dx) < inner)
                 continue;
-            cover[x] = std::min(cover[x], toCover(toFixed(radius + 0.5 - std::hypot(dx, dy))));
+            cover[x] = std::min(cover[x],
+                                toCover(toFixed(std::max(0.0, radius + 0.5 - std::hypot(dx, dy)))));
         }
     }
 }

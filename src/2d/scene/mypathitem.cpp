@@ -162,9 +162,10 @@ void MyPathItem::measure()
     }
     // A curve that just reaches the edge may differ from it by the last bit.
     constexpr double nearly = 1e-6;
-    m_clipped = !m_plotArea.adjusted(-nearly, -nearly, nearly, nearly)
-                     .contains(QRectF(m_extent.topLeft(),
-                                      m_extent.bottomRight() + QPointF(nearly, nearly)));
+    const QRectF room = m_plotArea.adjusted(-nearly, -nearly, nearly, nearly);
+    const QRectF extent(m_extent.topLeft(), m_extent.bottomRight() + QPointF(nearly, nearly));
+    const bool mayLeaveTheCircle = !m_outline.mapping && m_chartKind == polarKind;
+    m_clipped = mayLeaveTheCircle || !room.contains(extent);
 }
 
 void MyPathItem::setColor(const QColor &color)
