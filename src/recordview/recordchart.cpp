@@ -387,7 +387,9 @@ void RecordChart::drawClock(QPainter &painter, const ChartMapping &mapping) cons
     const AxisTicks ticks =
         ClockTicks::ofTime(m_shown.xMin, m_shown.xMax, std::max(1, int(area.width()) / labelRoom));
     painter.setPen(Qt::black);
-    for (double time = ticks.first; time <= m_shown.xMax; time += ticks.interval) {
+    const int count = static_cast<int>((m_shown.xMax - ticks.first) / ticks.interval);
+    for (int i = 0; i <= count; ++i) {
+        const double time = ticks.first + i * ticks.interval;
         if (time < m_shown.xMin)
             continue;
         const double x = mapping.toScene(QPointF(time - m_origin, 0.0)).x();

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 QT_BEGIN_NAMESPACE
 class QTcpSocket;
@@ -45,7 +46,10 @@ public:
     /// Lets a second last \a ms, for tests.
     void setSecond(int ms) { m_second.setInterval(ms); }
     /// Replaces the look at the list of serial ports.
-    void setPortLookup(std::function<bool(const QString &)> isThere) { m_isThere = isThere; }
+    void setPortLookup(std::function<bool(const QString &)> isThere)
+    {
+        m_isThere = std::move(isThere);
+    }
 
 signals:
     /// Another second, another state.
