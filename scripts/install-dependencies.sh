@@ -13,7 +13,7 @@ declare -A sets=(
     # Qt's own texts in Chinese, and fonts for both languages.
     [run]="qttranslations5-l10n fonts-dejavu-core fonts-wqy-microhei"
     [virtual]="xvfb xauth imagemagick"
-    [test]="xvfb locales mold xauth xclip xdotool imagemagick nec2c"
+    [test]="libhamlib-utils xvfb locales mold xauth xclip xdotool imagemagick nec2c"
     [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix desktop-file-utils git libclang-rt-dev
           llvm nsis prometheus shellcheck"
     [pictures]="xvfb xauth imagemagick xdotool poppler-utils"

@@ -77,7 +77,7 @@ MeasureDialog::MeasureDialog(const MeasureInputs &inputs, bool resumes, QWidget 
     auto *buttons = new QDialogButtonBox;
     m_check = buttons->addButton(tr("Chec&k"), QDialogButtonBox::ActionRole);
     m_start =
-        buttons->addButton(resumes ? tr("&Resume") : tr("&Start"), QDialogButtonBox::ActionRole);
+        buttons->addButton(resumes ? tr("Res&ume") : tr("&Start"), QDialogButtonBox::ActionRole);
     buttons->addButton(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
     m_start->setEnabled(false);
     m_check->setDefault(true);
@@ -99,11 +99,11 @@ MeasureDialog::~MeasureDialog() = default;
 
 void MeasureDialog::buildDevices(QFormLayout &form)
 {
-    m_link = add(form, tr("Meter &by:"), new QComboBox);
+    m_link = add(form, tr("Meter b&y:"), new QComboBox);
     m_link->addItems({tr("LAN"), tr("Serial port")});
     m_meter = add(form, tr("&Meter:"), new QLineEdit,
                   tr("HOST or HOST:PORT; with a serial port PORT or PORT:BAUD"));
-    m_rotator = add(form, tr("R&otator:"), new QLineEdit,
+    m_rotator = add(form, tr("&Rotator:"), new QLineEdit,
                     tr("HOST or HOST:PORT of rotctld, port 4533 unless given"));
 }
 
@@ -127,7 +127,7 @@ void MeasureDialog::buildPlan(QFormLayout &form)
     m_sense = add(form, tr("S&ense:"), new QComboBox,
                   tr("Whether the curve's angle grows as the table's does"));
     m_sense->addItems({tr("As the table"), tr("Opposite")});
-    m_tolerance = angleField(form, tr("Tolera&nce:"), 0.01, 45.0);
+    m_tolerance = angleField(form, tr("Toleran&ce:"), 0.01, 45.0);
     m_returns = new QCheckBox(tr("Turn &back at the end"));
     form.addRow(m_returns);
     m_planText = new QLabel;
@@ -139,7 +139,7 @@ void MeasureDialog::buildPlan(QFormLayout &form)
 
 void MeasureDialog::buildReading(QFormLayout &form)
 {
-    m_settle = add(form, tr("Sett&ling:"), new QSpinBox,
+    m_settle = add(form, tr("Settlin&g:"), new QSpinBox,
                    tr("From the table's arrival to the first reading"));
     m_settle->setRange(0, 3600000);
     m_settle->setSingleStep(100);
@@ -163,19 +163,19 @@ void MeasureDialog::buildReading(QFormLayout &form)
 void MeasureDialog::buildFile(QFormLayout &form)
 {
     m_title = add(form, tr("T&itle:"), new QLineEdit);
-    m_name = add(form, tr("N&ame:"), new QLineEdit, tr("The name of the curve"));
+    m_name = add(form, tr("&Name:"), new QLineEdit, tr("The name of the curve"));
     auto *row = new QHBoxLayout;
     m_file = new QLineEdit;
     m_file->setAccessibleName(tr("Curve file"));
     m_file->setToolTip(tr("Every point is kept at once in NAME.run.csv beside it"));
-    auto *browse = new QPushButton(tr("Br&owse..."));
+    auto *browse = new QPushButton(tr("Bro&wse..."));
     connect(browse, &QPushButton::clicked, this, &MeasureDialog::browse);
     row->addWidget(m_file);
     row->addWidget(browse);
     auto *label = new QLabel(tr("Fi&le:"));
     label->setBuddy(m_file);
     form.addRow(label, row);
-    m_diameter = add(form, tr("Antenna si&ze:"), new QDoubleSpinBox,
+    m_diameter = add(form, tr("&Antenna size:"), new QDoubleSpinBox,
                      tr("Its largest dimension, for the hint on the distance"));
     m_diameter->setRange(0.0, 100.0);
     m_diameter->setDecimals(3);
@@ -341,7 +341,7 @@ void MeasureDialog::tellFarField()
             tr("With the antenna's size, Check tells the far-field distance 2D²/λ."));
 }
 
-std::optional<RunStore::Mode> MeasureDialog::askMode() const
+std::optional<RunStore::Mode> MeasureDialog::askMode()
 {
     const MeasureInputs given = inputs();
     const bool hasRun = QFileInfo::exists(RunText::pathBeside(given.file));
@@ -353,7 +353,7 @@ std::optional<RunStore::Mode> MeasureDialog::askMode() const
                     hasRun
                         ? tr("A run into this file was begun before. Go on with it, or begin anew?")
                         : tr("The file exists already. Replace it at the end?"),
-                    QMessageBox::Cancel, const_cast<MeasureDialog *>(this));
+                    QMessageBox::Cancel, this);
     const QPushButton *resume =
         hasRun ? box.addButton(tr("&Go On"), QMessageBox::AcceptRole) : nullptr;
     const QPushButton *replace =

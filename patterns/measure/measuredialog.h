@@ -47,7 +47,7 @@ private:
     void tellPlan();
     void tellFarField();
     void start();
-    std::optional<RunStore::Mode> askMode() const;
+    std::optional<RunStore::Mode> askMode();
     void browse();
 
     bool m_resumes;

@@ -61,7 +61,7 @@ MeasureStrip::MeasureStrip(QWidget *parent)
 void MeasureStrip::retranslate()
 {
     m_pause->setText(tr("Pa&use"));
-    m_resume->setText(tr("Resu&me"));
+    m_resume->setText(tr("&Resume"));
     m_stop->setText(tr("Sto&p"));
     m_angle->setAccessibleName(tr("Angle"));
     m_level->setAccessibleName(tr("Level"));

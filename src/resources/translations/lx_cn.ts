@@ -1665,20 +1665,12 @@ correction</source>
         <translation>检查(&amp;K)</translation>
     </message>
     <message>
-        <source>&amp;Resume</source>
-        <translation>继续(&amp;R)</translation>
-    </message>
-    <message>
         <source>&amp;Start</source>
         <translation>开始(&amp;S)</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
-    </message>
-    <message>
-        <source>Meter &amp;by:</source>
-        <translation>功率计连接(&amp;B)：</translation>
     </message>
     <message>
         <source>LAN</source>
@@ -1695,10 +1687,6 @@ correction</source>
     <message>
         <source>HOST or HOST:PORT; with a serial port PORT or PORT:BAUD</source>
         <translation>HOST 或 HOST:PORT；串口时为 PORT 或 PORT:BAUD</translation>
-    </message>
-    <message>
-        <source>R&amp;otator:</source>
-        <translation>转台(&amp;O)：</translation>
     </message>
     <message>
         <source>HOST or HOST:PORT of rotctld, port 4533 unless given</source>
@@ -1741,16 +1729,8 @@ correction</source>
         <translation>与转台相反</translation>
     </message>
     <message>
-        <source>Tolera&amp;nce:</source>
-        <translation>容差(&amp;N)：</translation>
-    </message>
-    <message>
         <source>Turn &amp;back at the end</source>
         <translation>结束后转回(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Sett&amp;ling:</source>
-        <translation>稳定时间(&amp;L)：</translation>
     </message>
     <message>
         <source>From the table&apos;s arrival to the first reading</source>
@@ -1781,10 +1761,6 @@ correction</source>
         <translation>标题(&amp;I)：</translation>
     </message>
     <message>
-        <source>N&amp;ame:</source>
-        <translation>名称(&amp;A)：</translation>
-    </message>
-    <message>
         <source>The name of the curve</source>
         <translation>曲线的名称</translation>
     </message>
@@ -1797,16 +1773,8 @@ correction</source>
         <translation>每个点会立即保存在旁边的 NAME.run.csv 中</translation>
     </message>
     <message>
-        <source>Br&amp;owse...</source>
-        <translation>浏览(&amp;O)...</translation>
-    </message>
-    <message>
         <source>Fi&amp;le:</source>
         <translation>文件(&amp;L)：</translation>
-    </message>
-    <message>
-        <source>Antenna si&amp;ze:</source>
-        <translation>天线尺寸(&amp;Z)：</translation>
     </message>
     <message>
         <source>Its largest dimension, for the hint on the distance</source>
@@ -1892,6 +1860,38 @@ correction</source>
         <source>Curve files (*.csv)</source>
         <translation>曲线文件 (*.csv)</translation>
     </message>
+    <message>
+        <source>Res&amp;ume</source>
+        <translation>继续(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Meter b&amp;y:</source>
+        <translation>功率计连接(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>&amp;Rotator:</source>
+        <translation>转台(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Toleran&amp;ce:</source>
+        <translation>容差(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Settlin&amp;g:</source>
+        <translation>稳定时间(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>浏览(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>&amp;Antenna size:</source>
+        <translation>天线尺寸(&amp;A)：</translation>
+    </message>
 </context>
 <context>
     <name>MeasureMenu</name>
@@ -1921,10 +1921,6 @@ correction</source>
     <message>
         <source>Pa&amp;use</source>
         <translation>暂停(&amp;U)</translation>
-    </message>
-    <message>
-        <source>Resu&amp;me</source>
-        <translation>继续(&amp;M)</translation>
     </message>
     <message>
         <source>Sto&amp;p</source>
@@ -1985,6 +1981,10 @@ correction</source>
     <message>
         <source>The table turns back</source>
         <translation>转台正在转回</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>继续(&amp;R)</translation>
     </message>
 </context>
 <context>

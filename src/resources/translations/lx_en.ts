@@ -1665,20 +1665,12 @@ correction</translation>
         <translation>Chec&amp;k</translation>
     </message>
     <message>
-        <source>&amp;Resume</source>
-        <translation>&amp;Resume</translation>
-    </message>
-    <message>
         <source>&amp;Start</source>
         <translation>&amp;Start</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>Meter &amp;by:</source>
-        <translation>Meter &amp;by:</translation>
     </message>
     <message>
         <source>LAN</source>
@@ -1695,10 +1687,6 @@ correction</translation>
     <message>
         <source>HOST or HOST:PORT; with a serial port PORT or PORT:BAUD</source>
         <translation>HOST or HOST:PORT; with a serial port PORT or PORT:BAUD</translation>
-    </message>
-    <message>
-        <source>R&amp;otator:</source>
-        <translation>R&amp;otator:</translation>
     </message>
     <message>
         <source>HOST or HOST:PORT of rotctld, port 4533 unless given</source>
@@ -1741,16 +1729,8 @@ correction</translation>
         <translation>Opposite</translation>
     </message>
     <message>
-        <source>Tolera&amp;nce:</source>
-        <translation>Tolera&amp;nce:</translation>
-    </message>
-    <message>
         <source>Turn &amp;back at the end</source>
         <translation>Turn &amp;back at the end</translation>
-    </message>
-    <message>
-        <source>Sett&amp;ling:</source>
-        <translation>Sett&amp;ling:</translation>
     </message>
     <message>
         <source>From the table&apos;s arrival to the first reading</source>
@@ -1781,10 +1761,6 @@ correction</translation>
         <translation>T&amp;itle:</translation>
     </message>
     <message>
-        <source>N&amp;ame:</source>
-        <translation>N&amp;ame:</translation>
-    </message>
-    <message>
         <source>The name of the curve</source>
         <translation>The name of the curve</translation>
     </message>
@@ -1797,16 +1773,8 @@ correction</translation>
         <translation>Every point is kept at once in NAME.run.csv beside it</translation>
     </message>
     <message>
-        <source>Br&amp;owse...</source>
-        <translation>Br&amp;owse...</translation>
-    </message>
-    <message>
         <source>Fi&amp;le:</source>
         <translation>Fi&amp;le:</translation>
-    </message>
-    <message>
-        <source>Antenna si&amp;ze:</source>
-        <translation>Antenna si&amp;ze:</translation>
     </message>
     <message>
         <source>Its largest dimension, for the hint on the distance</source>
@@ -1892,6 +1860,38 @@ correction</translation>
         <source>Curve files (*.csv)</source>
         <translation>Curve files (*.csv)</translation>
     </message>
+    <message>
+        <source>Res&amp;ume</source>
+        <translation>Res&amp;ume</translation>
+    </message>
+    <message>
+        <source>Meter b&amp;y:</source>
+        <translation>Meter b&amp;y:</translation>
+    </message>
+    <message>
+        <source>&amp;Rotator:</source>
+        <translation>&amp;Rotator:</translation>
+    </message>
+    <message>
+        <source>Toleran&amp;ce:</source>
+        <translation>Toleran&amp;ce:</translation>
+    </message>
+    <message>
+        <source>Settlin&amp;g:</source>
+        <translation>Settlin&amp;g:</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>Bro&amp;wse...</translation>
+    </message>
+    <message>
+        <source>&amp;Antenna size:</source>
+        <translation>&amp;Antenna size:</translation>
+    </message>
 </context>
 <context>
     <name>MeasureMenu</name>
@@ -1921,10 +1921,6 @@ correction</translation>
     <message>
         <source>Pa&amp;use</source>
         <translation>Pa&amp;use</translation>
-    </message>
-    <message>
-        <source>Resu&amp;me</source>
-        <translation>Resu&amp;me</translation>
     </message>
     <message>
         <source>Sto&amp;p</source>
@@ -1985,6 +1981,10 @@ correction</translation>
     <message>
         <source>The table turns back</source>
         <translation>The table turns back</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>&amp;Resume</translation>
     </message>
 </context>
 <context>
