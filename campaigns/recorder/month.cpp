@@ -25,7 +25,7 @@ public:
         : m_random(seed)
         , m_wallStart(
               QDateTime(QDate::fromString(firstDay, Qt::ISODate), QTime(0, 0)).toMSecsSinceEpoch())
-        , m_end(days * 86400 * second)
+        , m_end(qint64(days) * 86400 * second)
         , m_box([this](const Outbox::Line &lines) { return append(lines); })
         , m_recording(
               {every, {}}, at(0), [this](const Row &row) { take(row); },
