@@ -20,6 +20,23 @@ QStringList faults()
     return all;
 }
 
+namespace {
+
+/// Has the recorder write \a rows rows of the instrument that \a simulator is.
+bool record(SimulatorProcess &simulator, const QString &folder, int rows)
+{
+    QProcess recorder;
+    recorder.start(QStringLiteral(MZ_BIN_DIR "/mz6218-cli"),
+                   {QStringLiteral("--lan"),
+                    QStringLiteral("%1:%2").arg(simulator.address()).arg(simulator.port()),
+                    QStringLiteral("record"), QStringLiteral("--every"), QStringLiteral("200ms"),
+                    QStringLiteral("--poll"), QStringLiteral("20ms"), QStringLiteral("--out"),
+                    folder, QStringLiteral("--count"), QString::number(rows)});
+    return recorder.waitForFinished(60000) && recorder.exitCode() == 0;
+}
+
+} // namespace
+
 Verdict runWithFault(const QString &fault)
 {
     constexpr int rows = 40;
@@ -31,15 +48,7 @@ Verdict runWithFault(const QString &fault)
         return verdict;
     }
     const QTemporaryDir folder;
-    QProcess recorder;
-    recorder.start(QStringLiteral(MZ_BIN_DIR "/mz6218-cli"),
-                   {QStringLiteral("--lan"),
-                    QStringLiteral("%1:%2").arg(simulator.address()).arg(simulator.port()),
-                    QStringLiteral("record"), QStringLiteral("--every"), QStringLiteral("200ms"),
-                    QStringLiteral("--poll"), QStringLiteral("20ms"), QStringLiteral("--out"),
-                    folder.path(), QStringLiteral("--count"), QString::number(rows)});
-    verdict.expect(recorder.waitForFinished(60000) && recorder.exitCode() == 0,
-                   QStringLiteral("did not end well"));
+    verdict.expect(record(simulator, folder.path(), rows), QStringLiteral("did not end well"));
     QStringList lines;
     const QDir files(folder.path());
     for (const QString &name :

@@ -390,10 +390,11 @@ std::optional<QString> SerialLogic::ask(const QByteArray &command)
     QString reply;
     m_wasOverlong = false;
     Outcome outcome = Outcome::Garbled;
-    if (readData(reply))
+    if (readData(reply)) {
         outcome = ReplyParser::outcome(command, reply);
-    else if (!m_wasOverlong)
+    } else if (!m_wasOverlong) {
         outcome = isUp() ? Outcome::Timeout : Outcome::Link;
+    }
     emit replied(command, reply, outcome);
     return reply;
 }
