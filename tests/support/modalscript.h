@@ -19,7 +19,7 @@ public:
     /// For a step to call: \a window is not to be closed, as it will be by the program itself.
     static void leaveOpen(QWidget *window);
 
-    /// Whether every step was taken and no window was left over.
+    /// Whether every step was taken and no window is still open.
     bool isDone() const { return m_steps.isEmpty() && m_unexpected == 0; }
 
 private:
