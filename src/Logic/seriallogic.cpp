@@ -3,15 +3,12 @@
 #include "Logic/commandtexts.h"
 #include "Logic/replyparser.h"
 
-#include <QDeadlineTimer>
 #include <QDebug>
-#include <QEventLoop>
 #include <QScopeGuard>
 #include <QSerialPort>
 #include <QTcpSocket>
 #include <QTimer>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -21,11 +18,6 @@ constexpr int tcpMode = 1;
 
 constexpr int tcpSendAttempts = 3;
 constexpr int tolerableUnconfirmedWrites = 3;
-
-// A wait that is shorter cannot be felt.
-constexpr int unfeltWait = 200; // ms
-// The longest part of a wait without a look at whether it is cancelled.
-constexpr int slice = 50; // ms
 
 } // namespace
 
@@ -97,7 +89,7 @@ bool SerialLogic::openTcp(const QString &host, int port)
     const auto waitUntilConnected = [this] {
         emit busy(true);
         const auto over = qScopeGuard([this] { emit busy(false); });
-        return waitForConnection();
+        return m_slices.waitForConnection(*m_socket, m_waits.connecting);
     };
 
     startClean();
@@ -184,8 +176,9 @@ bool SerialLogic::sendSerial(const QByteArray &cmd)
         return false;
     }
     m_port->write(cmd);
-    if (waitTelling(m_waits.serialWriting,
-                    [this](int ms) { return m_port->isOpen() && waitForWrite(*m_port, ms); }))
+    if (waitTelling(m_waits.serialWriting, [this](int ms) {
+            return m_port->isOpen() && m_slices.waitForWrite(*m_port, ms);
+        }))
         return true;
     emit errors(tr("Failed to send cmd."));
     return false;
@@ -202,7 +195,7 @@ bool SerialLogic::sendTcp(const QByteArray &cmd)
         m_socket->write(cmd);
         if (waitTelling(m_waits.tcpWriting, [this](int ms) {
                 return m_socket->state() == QAbstractSocket::ConnectedState &&
-                       waitForWrite(*m_socket, ms);
+                       m_slices.waitForWrite(*m_socket, ms);
             }))
             return true;
         if (++unconfirmedWrites > tolerableUnconfirmedWrites) {
@@ -222,55 +215,10 @@ bool SerialLogic::isUp() const
                                     : m_socket->state() == QAbstractSocket::ConnectedState;
 }
 
-bool SerialLogic::waitForConnection()
+bool SerialLogic::waitTelling(int total, const WaitSlices::Wait &wait)
 {
-    if (!m_isCancelled)
-        return m_socket->waitForConnected(m_waits.connecting);
-    QEventLoop loop;
-    const QDeadlineTimer limit(m_waits.connecting);
-    QTimer tick;
-    const auto isOver = [this, &limit] {
-        const QAbstractSocket::SocketState state = m_socket->state();
-        return state == QAbstractSocket::ConnectedState ||
-               state == QAbstractSocket::UnconnectedState || limit.hasExpired() || m_isCancelled();
-    };
-    const auto look = [&] {
-        if (isOver())
-            loop.quit();
-    };
-    connect(&tick, &QTimer::timeout, &loop, look);
-    connect(m_socket, &QTcpSocket::stateChanged, &loop, look);
-    tick.start(slice);
-    if (!isOver())
-        loop.exec();
-    return m_socket->state() == QAbstractSocket::ConnectedState;
-}
-
-/// Calls \a wait with times in ms that add up to \a total until it is true. A wait that can be felt
-/// is told of; the many short ones are not, so that the pointer does not flicker with every
-/// reading.
-template<typename Wait>
-bool SerialLogic::waitTelling(int total, Wait wait)
-{
-    const int unfelt = std::min(total, unfeltWait);
-    if (waitInSlices(unfelt, wait))
-        return true;
-    emit busy(true);
-    const auto over = qScopeGuard([this] { emit busy(false); });
-    return waitInSlices(total - unfelt, wait);
-}
-
-template<typename Wait>
-bool SerialLogic::waitInSlices(int total, Wait wait)
-{
-    if (!m_isCancelled)
-        return wait(total);
-    const QDeadlineTimer limit(total);
-    while (isUp() && !m_isCancelled() && !limit.hasExpired()) {
-        if (wait(int(std::min<qint64>(slice, limit.remainingTime()))))
-            return true;
-    }
-    return false;
+    return m_slices.wait(
+        total, wait, [this] { return isUp(); }, [this](bool isBusy) { emit busy(isBusy); });
 }
 
 QIODevice *SerialLogic::openDevice() const
@@ -293,15 +241,9 @@ bool SerialLogic::waitForNewBytes()
     if (device->bytesAvailable() > m_staleBytes)
         return true;
     return waitTelling(m_waits.reading, [this, device](int ms) {
-        const bool hasCome = m_isCancelled && device->bytesAvailable() > m_staleBytes;
+        const bool hasCome = m_slices.canBeCancelled() && device->bytesAvailable() > m_staleBytes;
         return device->isOpen() && (hasCome || device->waitForReadyRead(ms));
     });
-}
-
-bool SerialLogic::waitForWrite(QIODevice &device, int ms) const
-{
-    // Who looks whether to cancel may handle events, and with them what is waited for here.
-    return (m_isCancelled && device.bytesToWrite() == 0) || device.waitForBytesWritten(ms);
 }
 
 QByteArray SerialLogic::takeInput()
@@ -536,10 +478,13 @@ bool SerialLogic::dropInput(int ms)
 {
     m_buffer.clear();
     const bool came = !takeInput().isEmpty();
-    const bool comes = waitInSlices(ms, [this](int part) {
-        QIODevice *const device = openDevice();
-        return device && device->waitForReadyRead(part);
-    });
+    const bool comes = m_slices.wait(
+        ms,
+        [this](int part) {
+            QIODevice *const device = openDevice();
+            return device && device->waitForReadyRead(part);
+        },
+        [this] { return isUp(); });
     takeInput();
     return came || comes;
 }

@@ -3,6 +3,7 @@
 #include "Logic/linebuffer.h"
 #include "Logic/linkwaits.h"
 #include "Logic/outcome.h"
+#include "Logic/waitslices.h"
 
 #include <QObject>
 #include <QString>
@@ -60,7 +61,10 @@ public:
     /// had run out once that is true. Connecting then runs an event loop, since the socket's own
     /// wait cannot be cut short: in a thread with a window, for callers only that hold back what
     /// the user does meanwhile.
-    void setCancel(std::function<bool()> isCancelled) { m_isCancelled = std::move(isCancelled); }
+    void setCancel(std::function<bool()> isCancelled)
+    {
+        m_slices.setCancel(std::move(isCancelled));
+    }
     /// Lets everything that came before a command was sent be dropped, so that it is not taken for
     /// the reply.
     void setDropsLateInput(bool drops) { m_dropsLateInput = drops; }
@@ -156,15 +160,10 @@ private:
     bool sendSerial(const QByteArray &cmd);
     bool sendTcp(const QByteArray &cmd);
     bool waitForNewBytes();
-    bool waitForWrite(QIODevice &device, int ms) const;
     QByteArray takeInput();
     bool dropOverlongLine();
     bool isUp() const;
-    bool waitForConnection();
-    template<typename Wait>
-    bool waitTelling(int total, Wait wait);
-    template<typename Wait>
-    bool waitInSlices(int total, Wait wait);
+    bool waitTelling(int total, const WaitSlices::Wait &wait);
 
     std::optional<QString> ask(const QByteArray &command);
     bool confirm(const QByteArray &command);
@@ -186,6 +185,6 @@ private:
     QByteArray m_task;       // the command whose result is awaited
     bool m_wasOverlong = false;
     bool m_dropsLateInput = false;
-    std::function<bool()> m_isCancelled;
+    WaitSlices m_slices;
     LinkWaits m_waits;
 };

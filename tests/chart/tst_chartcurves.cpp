@@ -183,12 +183,12 @@ private slots:
         bench.view.addCurve(text("B"), pattern(181));
         bench.view.clearChart(1); // now ids and places in the legend differ
         PathInfo *path = bench.view.paths()[2];
-        QCOMPARE(bench.view.patternParameters(2).gain.second, -5.0);
+        QCOMPARE(bench.view.figures(2).gain.second, -5.0);
         bench.view.setParameterLinesVisible(true);
         const QGraphicsItem *peakLine = path->furtherItems().constFirst();
         QVERIFY(peakLine->isVisible());
         path->setHidden(true);
-        QCOMPARE(bench.view.patternParameters(2).gain.second, 0.0);
+        QCOMPARE(bench.view.figures(2).gain.second, 0.0);
         QVERIFY(!peakLine->isVisible());
         path->setHidden(false);
         QVERIFY(peakLine->isVisible());
@@ -196,9 +196,9 @@ private slots:
         QVERIFY(!peakLine->isVisible());
         path->setLineItemVisible(true);
         QVERIFY(peakLine->isVisible());
-        QCOMPARE(bench.view.patternParameters(99).gain.second, 0.0);
+        QCOMPARE(bench.view.figures(99).gain.second, 0.0);
         bench.view.createPath(text("empty"));
-        QCOMPARE(bench.view.patternParameters(1).axialRatio.second, 0.0);
+        QCOMPARE(bench.view.figures(1).axialRatio.second, 0.0);
     }
 
     void leavesNothingBehind()

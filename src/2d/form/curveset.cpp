@@ -24,6 +24,10 @@ CurveSet::CurveSet(GraphicsBase &polar, GraphicsBase &cartesian, QObject *parent
     connect(&m_polar, &GraphicsBase::curvesChanged, this, [this] { follow(m_polar, m_cartesian); });
     connect(&m_cartesian, &GraphicsBase::curvesChanged, this,
             [this] { follow(m_cartesian, m_polar); });
+    connect(&m_polar, &GraphicsBase::lookChanged, this,
+            [this](int id) { followLook(m_polar, m_cartesian, id); });
+    connect(&m_cartesian, &GraphicsBase::lookChanged, this,
+            [this](int id) { followLook(m_cartesian, m_polar, id); });
     connect(&m_polar, &GraphicsBase::selectionChanged, this, [this] { followSelection(m_polar); });
     connect(&m_cartesian, &GraphicsBase::selectionChanged, this,
             [this] { followSelection(m_cartesian); });
@@ -204,6 +208,17 @@ void CurveSet::follow(GraphicsBase &leader, GraphicsBase &follower)
         const QMap<int, PathInfo *> &curves = leader.paths();
         for (const PathInfo *curve : curves)
             followCurve(*curve, follower);
+    }
+    emit changed();
+}
+
+void CurveSet::followLook(const GraphicsBase &leader, GraphicsBase &follower, int id)
+{
+    if (m_following)
+        return;
+    {
+        const QScopedValueRollback<bool> ours(m_following, true);
+        followCurve(*leader.paths().value(id), follower);
     }
     emit changed();
 }

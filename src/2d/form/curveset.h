@@ -101,6 +101,7 @@ signals:
 private:
     const PathInfo *path(int id) const;
     void follow(GraphicsBase &leader, GraphicsBase &follower);
+    void followLook(const GraphicsBase &leader, GraphicsBase &follower, int id);
     void followCurve(const PathInfo &curve, GraphicsBase &follower);
     void followSelection(GraphicsBase &leader);
 

@@ -95,8 +95,8 @@ void CurveList::followLook(PathInfo &path)
     m_stage.setLegendEntry(path.curve(), path.name(), path.color(), path.isHidden());
     m_marks.recolor(path);
     if (m_parameterLinesVisible || !path.beamLevels().isEmpty())
-        recompute(path);
-    emit lookChanged();
+        placeLines(path);
+    emit lookChanged(path.pathId());
 }
 
 void CurveList::refresh(Panels panels)
@@ -105,22 +105,28 @@ void CurveList::refresh(Panels panels)
     for (PathInfo *path : qAsConst(m_paths)) {
         path->rebuild(m_stage);
         if (m_complete)
-            recompute(*path);
+            placeLines(*path);
         path->placeMarkTable();
         if (panels == Panels::AllTables)
             path->placeParaTable();
     }
 }
 
-ParaInfo CurveList::recompute(PathInfo &path)
+ParaInfo CurveList::figures(const PathInfo &path) const
+{
+    return hasFigures(path) ? path.analysis()->figures : ParaInfo();
+}
+
+bool CurveList::hasFigures(const PathInfo &path) const
+{
+    return path.analysis() && !path.isHidden() && m_stage.hasLegendEntry(path.curve(), path.name());
+}
+
+void CurveList::placeLines(PathInfo &path)
 {
     path.updateLines(m_stage, m_parameterLinesVisible);
-    const PatternAnalysis *analysis = path.analysis();
-    if (!analysis || path.isHidden() || !m_stage.hasLegendEntry(path.curve(), path.name()))
-        return {};
-    if (path.getParaTableDataStatus())
-        path.updateParaInfo(analysis->figures);
-    return analysis->figures;
+    if (path.getParaTableDataStatus() && hasFigures(path))
+        path.updateParaInfo(path.analysis()->figures);
 }
 
 void CurveList::catchUpLater()
@@ -138,7 +144,7 @@ void CurveList::catchUp()
     for (PathInfo *path : qAsConst(m_paths)) {
         path->catchUp(m_stage);
         if (m_complete)
-            recompute(*path);
+            placeLines(*path);
     }
 }
 
@@ -146,7 +152,7 @@ void CurveList::setParameterLinesVisible(bool visible)
 {
     m_parameterLinesVisible = visible;
     for (PathInfo *path : qAsConst(m_paths))
-        recompute(*path);
+        placeLines(*path);
 }
 
 void CurveList::setBeamLevels(int pathId, const QVector<double> &drops)
@@ -155,7 +161,7 @@ void CurveList::setBeamLevels(int pathId, const QVector<double> &drops)
     if (!path || path->beamLevels() == drops)
         return;
     path->setBeamLevels(drops);
-    recompute(*path);
+    placeLines(*path);
 }
 
 void CurveList::setMarkTablesShown(bool shown)

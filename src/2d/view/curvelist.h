@@ -43,8 +43,10 @@ public:
     void refresh(Panels panels);
     /// Asks for a redrawing of what the chart has moved by itself, as soon as control is back.
     void catchUpLater();
-    /// Analyses the pattern of \a path and places its lines. All zero for an empty or hidden curve.
-    ParaInfo recompute(PathInfo &path);
+    /// The figures of the pattern of \a path; all zero for an empty or hidden curve.
+    ParaInfo figures(const PathInfo &path) const;
+    /// Places the lines of the pattern of \a path, and refills its table if that is shown.
+    void placeLines(PathInfo &path);
 
     /// Whether the data of all curves are complete, so that their patterns can be analysed.
     bool areComplete() const { return m_complete; }
@@ -75,9 +77,10 @@ signals:
     /// A curve is dragged out of the chart (false), or no longer.
     void acceptDropsAsked(bool accept);
     /// A curve looks, is shown or is called otherwise.
-    void lookChanged();
+    void lookChanged(int pathId);
 
 private:
+    bool hasFigures(const PathInfo &path) const;
     void followLook(PathInfo &path);
     void catchUp();
 

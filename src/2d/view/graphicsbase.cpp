@@ -3,6 +3,7 @@
 #include "2d/scene/chartstage.h"
 #include "2d/scene/mycustomproxy.h"
 #include "2d/view/curvelist.h"
+#include "2d/view/markediting.h"
 #include "2d/view/pathinfo.h"
 
 #include <QChart>
@@ -19,32 +20,19 @@ using namespace QtCharts;
 using Panels = CurveList::Panels;
 
 GraphicsBase::GraphicsBase(int kind, QWidget *parent)
-    : QGraphicsView(parent)
-    , m_scene(std::make_unique<QGraphicsScene>())
-    , m_stage(std::make_unique<ChartStage>(kind, *m_scene))
-    , m_curves(std::make_unique<CurveList>(*m_stage, *m_scene, m_ranges))
+    : ChartCanvas(parent)
+    , m_stage(std::make_unique<ChartStage>(kind, *scene()))
+    , m_curves(std::make_unique<CurveList>(*m_stage, *scene(), m_ranges))
+    , m_markEditing(std::make_unique<MarkEditing>(*m_stage, *m_curves, m_ranges))
     , m_exchange(*this)
 {
-    // Few items, most of which move with every change: an index would only have to be kept up.
-    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex);
-    // One plain ground below everything, instead of those of window, viewport and chart: a fifth of
-    // the cost of a tick of the time chart.
-    m_scene->setBackgroundBrush(Qt::white);
-    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-    setScene(m_scene.get());
     retitle();
 
     m_tableProxy = new MyCustomProxy;
-    m_scene->addItem(m_tableProxy);
+    scene()->addItem(m_tableProxy);
     m_tableProxy->hide();
 
-    setFocusPolicy(Qt::ClickFocus);
-    setAttribute(Qt::WA_MouseTracking);
-    setRenderHint(QPainter::Antialiasing);
     setAcceptDrops(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setStyleSheet(QStringLiteral("border-width: 1px;border-style: none;"));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connectParts();
 }
@@ -58,7 +46,7 @@ void GraphicsBase::connectParts()
     connect(m_curves.get(), &CurveList::selectionAsked, this, &GraphicsBase::updatePathSelection);
     connect(m_curves.get(), &CurveList::acceptDropsAsked, this,
             &GraphicsBase::setAcceptDropsStatus);
-    connect(m_curves.get(), &CurveList::lookChanged, this, &GraphicsBase::curvesChanged);
+    connect(m_curves.get(), &CurveList::lookChanged, this, &GraphicsBase::lookChanged);
     connect(this, &QWidget::customContextMenuRequested, this, &GraphicsBase::showMenu);
     if (QChart *current = chart())
         connect(current, &QChart::plotAreaChanged, m_curves.get(), &CurveList::catchUpLater);
@@ -152,8 +140,7 @@ void GraphicsBase::retitle()
         m_ranges.startPeriod();
     setScaleLevel(5, 20.0, -30.0);
     m_curves->setComplete(false);
-    m_zoomMode = false;
-    m_panMode = false;
+    m_steering.stop();
     m_offset = {};
 }
 
@@ -342,10 +329,6 @@ void GraphicsBase::clearChartData(int index)
     path.setPoints({});
     path.rebuild(*m_stage);
     m_curves->removeMarks(path); // they would float over an empty chart
-    // Without a curve to sit on, a marker would float.
-    const QList<int> marks = path.markIds();
-    for (const int mark : marks)
-        m_curves->marks().remove(mark);
     m_curves->catchUpLater();
 }
 
@@ -383,10 +366,10 @@ void GraphicsBase::rebuildPath(int pathId)
         path->rebuild(*m_stage);
 }
 
-ParaInfo GraphicsBase::patternParameters(int pathId)
+ParaInfo GraphicsBase::figures(int pathId) const
 {
-    PathInfo *path = paths().value(pathId);
-    return path ? m_curves->recompute(*path) : ParaInfo();
+    const PathInfo *path = paths().value(pathId);
+    return path ? m_curves->figures(*path) : ParaInfo();
 }
 
 bool GraphicsBase::parameterLinesVisible() const

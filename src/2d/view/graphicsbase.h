@@ -3,16 +3,17 @@
 #include "2d/data/markjump.h"
 #include "2d/data/parainfo.h"
 #include "2d/view/axisranges.h"
+#include "2d/view/chartcanvas.h"
+#include "2d/view/chartsteering.h"
 #include "2d/view/curveexchange.h"
 
-#include <QGraphicsView>
 #include <QMap>
 
 #include <memory>
-#include <optional>
 
 class ChartStage;
 class CurveList;
+class MarkEditing;
 class MyCustomProxy;
 class MyMarkItem;
 class PathInfo;
@@ -33,7 +34,7 @@ QT_END_NAMESPACE
 ///
 /// Public functions take chart values unless they say "scene"; the scene's coordinates are the
 /// pixels of the view. Curves are known by their path id, markers by their number, both from 1.
-class GraphicsBase : public QGraphicsView, private ExchangeTarget
+class GraphicsBase : public ChartCanvas, private ExchangeTarget
 {
     Q_OBJECT
 
@@ -64,8 +65,8 @@ public:
     bool hasCurve(const QString &name) const override;
     /// Draws the curve \a pathId anew from its series.
     void rebuildPath(int pathId);
-    /// The figures of the curve's pattern; all zero when it is empty or hidden. Places its lines.
-    ParaInfo patternParameters(int pathId);
+    /// The figures of the curve's pattern; all zero when it is empty or hidden.
+    ParaInfo figures(int pathId) const;
     /// Whether the marker lines of the patterns may be shown.
     bool parameterLinesVisible() const;
     void setParameterLinesVisible(bool visible);
@@ -106,9 +107,10 @@ signals:
     void clearParaInfoToTable();
     /// The chart's size less 60 in width, plus 10 in height.
     void updataSize(QSizeF size);
-    /// A curve came, went, or looks, is shown or is called otherwise: for forms that show the same
-    /// curves elsewhere too.
+    /// A curve came or went: for forms that show the same curves elsewhere too.
     void curvesChanged();
+    /// A curve looks, is shown or is called otherwise.
+    void lookChanged(int pathId);
     /// Another curve, or none, is selected now.
     void selectionChanged();
     /// The user shows another range.
@@ -164,10 +166,6 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    bool event(QEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -197,34 +195,29 @@ private:
     QPixmap picture() override;
 
     void connectParts();
+    void showFigures(PathInfo &path);
     bool needsXRange(const char *operation) const;
     PathInfo &existingPath(int index, const char *operation) const;
     void deselect();
     bool pressControlKey(int key);
     bool pressKey(int key);
-    void panTo(const QPointF &position);
     void placeFigures();
-    void addMarkAtHighest();
-    void addMarkAt(PathInfo &path, double x);
     void pressCurves(const QPoint &position);
     void zoomAbout(const QPointF &centre, double factor);
     void showRange(const ViewRange &range);
     ChartSituation situation() const;
     void showMenu(const QPoint &position);
 
-    std::unique_ptr<QGraphicsScene> m_scene;
     std::unique_ptr<ChartStage> m_stage;
     AxisRanges m_ranges;
     std::unique_ptr<CurveList> m_curves;
+    std::unique_ptr<MarkEditing> m_markEditing;
+    ChartSteering m_steering;
     CurveExchange m_exchange;
     MyCustomProxy *m_tableProxy = nullptr; ///< the figures of the selected curve
     QPointF m_offset;                      ///< added to every point of the time chart
     QString m_seriesName;
-    QPointF m_menuPosition;             ///< where the context menu was opened, on the scene
-    std::optional<QPointF> m_panAnchor; ///< the value that a middle button holds
-    bool m_focusShown = false;          ///< the keyboard brought the focus here
-    bool m_zoomMode = false;
-    bool m_panMode = false;
+    QPointF m_menuPosition; ///< where the context menu was opened, on the scene
     bool m_nudging = false; ///< inside the smaller of the two sizes of a nudge
     bool m_resized = false; ///< a resize event has brought everything to its place
 };

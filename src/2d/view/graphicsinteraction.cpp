@@ -7,7 +7,9 @@
 #include "2d/view/curvelist.h"
 #include "2d/view/graphicsbase.h"
 #include "2d/view/managergraph.h"
+#include "2d/view/markediting.h"
 #include "2d/view/pathinfo.h"
+#include "widgets/messagesimpledialog.h"
 
 #include <QApplication>
 #include <QChart>
@@ -17,20 +19,11 @@
 #include <QGraphicsScene>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 #include <array>
 
 using Panels = CurveList::Panels;
-
-namespace {
-
-constexpr double zoomStep = 1.05;
-constexpr double keyStep = 0.1;
-
-} // namespace
 
 void GraphicsBase::setLimitXY(const QPointF &centre, const double &factor)
 {
@@ -42,14 +35,11 @@ void GraphicsBase::setLimitXY(const QPointF &centre, const double &factor)
 void GraphicsBase::wheelEvent(QWheelEvent *event)
 {
     event->accept();
-    const bool zooms = m_zoomMode || event->modifiers().testFlag(Qt::ControlModifier);
-    if (!zooms || !chart())
+    if (!m_steering.wheelZooms(event->modifiers()) || !chart())
         return;
     const QPointF centre = toValue(event->position().toPoint());
-    // Turning the wheel forward zooms out, as in map programs.
-    const double factor = event->angleDelta().y() >= 1 ? zoomStep : 1.0 / zoomStep;
     qWarning() << "point .." << centre;
-    zoomAbout(centre, factor);
+    zoomAbout(centre, ChartSteering::zoomFactorOfWheel(event->angleDelta().y()));
 }
 
 void GraphicsBase::zoomAbout(const QPointF &centre, double factor)
@@ -72,52 +62,37 @@ void GraphicsBase::showRange(const ViewRange &range)
 
 void GraphicsBase::zoomSlot()
 {
-    m_zoomMode = true;
+    m_steering.startZooming();
     viewport()->setCursor(Qt::CrossCursor);
 }
 
 void GraphicsBase::panSlot()
 {
-    m_panMode = true;
+    m_steering.startPanning();
     viewport()->setCursor(Qt::OpenHandCursor);
 }
 
 void GraphicsBase::resetSlot()
 {
-    m_zoomMode = false;
-    m_panMode = false;
+    m_steering.stop();
     showRange(m_ranges.home);
     viewport()->setCursor(Qt::ArrowCursor);
 }
 
 void GraphicsBase::panResetSlot()
 {
-    m_panMode = false;
+    m_steering.stopPanning();
     showRange(m_ranges.shown);
-}
-
-/// Moves the range so that the value held is under \a position.
-void GraphicsBase::panTo(const QPointF &position)
-{
-    const QPointF way = *m_panAnchor - toValue(position);
-    ViewRange range = m_ranges.shown;
-    if (m_stage->hasXRange()) {
-        range.xMin += way.x();
-        range.xMax += way.x();
-    }
-    range.yMin += way.y();
-    range.yMax += way.y();
-    showRange(range);
 }
 
 void GraphicsBase::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::MiddleButton && chart()) {
-        m_panAnchor = toValue(event->localPos());
+        m_steering.hold(toValue(event->localPos()));
         viewport()->setCursor(Qt::ClosedHandCursor);
         return;
     }
-    if (!m_panMode) {
+    if (!m_steering.isPanning()) {
         QGraphicsView::mousePressEvent(event);
         pressCurves(event->pos());
         return;
@@ -145,22 +120,20 @@ void GraphicsBase::pressCurves(const QPoint &position)
 // out, a table that is moved. The view itself does nothing with them.
 void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::MiddleButton && m_panAnchor) {
-        m_panAnchor.reset();
-        viewport()->setCursor(m_panMode    ? Qt::OpenHandCursor
-                              : m_zoomMode ? Qt::CrossCursor
-                                           : Qt::ArrowCursor);
+    if (event->button() == Qt::MiddleButton && m_steering.release()) {
+        viewport()->setCursor(m_steering.cursor());
         return;
     }
-    if (!m_panMode && scene()->mouseGrabberItem())
+    if (!m_steering.isPanning() && scene()->mouseGrabberItem())
         QGraphicsView::mouseReleaseEvent(event);
 }
 
 void GraphicsBase::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_panAnchor)
-        panTo(event->localPos());
-    else if (!m_panMode && scene()->mouseGrabberItem())
+    if (m_steering.holds())
+        showRange(
+            m_steering.pulled(m_ranges.shown, toValue(event->localPos()), m_stage->hasXRange()));
+    else if (!m_steering.isPanning() && scene()->mouseGrabberItem())
         QGraphicsView::mouseMoveEvent(event);
 }
 
@@ -206,26 +179,15 @@ bool GraphicsBase::pressControlKey(int key)
 bool GraphicsBase::pressKey(int key)
 {
     const ViewRange range = m_ranges.shown;
-    const QPointF centre((range.xMin + range.xMax) * 0.5, (range.yMin + range.yMax) * 0.5);
+    if (const std::optional<ViewRange> moved = ChartSteering::movedBy(key, range)) {
+        showRange(*moved);
+        return true;
+    }
+    if (const std::optional<double> factor = ChartSteering::zoomFactor(key)) {
+        zoomAbout({(range.xMin + range.xMax) * 0.5, (range.yMin + range.yMax) * 0.5}, *factor);
+        return true;
+    }
     switch (key) {
-    case Qt::Key_Left:
-        showRange(range.movedBy(-keyStep, 0.0));
-        return true;
-    case Qt::Key_Right:
-        showRange(range.movedBy(keyStep, 0.0));
-        return true;
-    case Qt::Key_Down:
-        showRange(range.movedBy(0.0, -keyStep));
-        return true;
-    case Qt::Key_Up:
-        showRange(range.movedBy(0.0, keyStep));
-        return true;
-    case Qt::Key_Plus:
-        zoomAbout(centre, 1.0 / zoomStep);
-        return true;
-    case Qt::Key_Minus:
-        zoomAbout(centre, zoomStep);
-        return true;
     case Qt::Key_Home:
         resetSlot();
         return true;
@@ -233,7 +195,7 @@ bool GraphicsBase::pressKey(int key)
         deleteMarkSlot();
         return true;
     case Qt::Key_Insert:
-        addMarkAtHighest();
+        m_markEditing->addAtHighest();
         return true;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
@@ -245,44 +207,6 @@ bool GraphicsBase::pressKey(int key)
     }
 }
 
-/// The scene would keep the tabulator among its tables, none of which takes a key.
-bool GraphicsBase::event(QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
-            return focusNextPrevChild(key == Qt::Key_Tab);
-    }
-    return QGraphicsView::event(event);
-}
-
-void GraphicsBase::focusInEvent(QFocusEvent *event)
-{
-    QGraphicsView::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    m_focusShown = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                   reason == Qt::ShortcutFocusReason;
-    viewport()->update();
-}
-
-void GraphicsBase::focusOutEvent(QFocusEvent *event)
-{
-    QGraphicsView::focusOutEvent(event);
-    m_focusShown = false;
-    viewport()->update();
-}
-
-void GraphicsBase::paintEvent(QPaintEvent *event)
-{
-    QGraphicsView::paintEvent(event);
-    if (!m_focusShown)
-        return;
-    constexpr double width = 2.0;
-    QPainter painter(viewport());
-    painter.setPen(QPen(QColor(10, 134, 214), width));
-    painter.drawRect(QRectF(viewport()->rect()).adjusted(1.0, 1.0, -1.0, -1.0));
-}
-
 void GraphicsBase::paintPicture(QPainter &painter, const QRectF &target, const QRect &source)
 {
     const PlainLook look(*m_curves);
@@ -292,8 +216,7 @@ void GraphicsBase::paintPicture(QPainter &painter, const QRectF &target, const Q
 QPixmap GraphicsBase::picture()
 {
     const PlainLook look(*m_curves);
-    const QScopedValueRollback<bool> withoutFocus(m_focusShown, false);
-    return grab();
+    return unfocusedPicture();
 }
 
 void GraphicsBase::updatePathSelection(int pathId)
@@ -301,10 +224,10 @@ void GraphicsBase::updatePathSelection(int pathId)
     const PathInfo *before = selectedPath();
     for (PathInfo *path : paths())
         path->setSelected(path->pathId() == pathId);
-    const PathInfo *now = selectedPath();
+    PathInfo *now = selectedPath();
     if (m_tableProxy->getParaTableDataStatus()) {
         if (now && !now->isHidden())
-            emit updateParaInfoToTable(patternParameters(pathId));
+            showFigures(*now);
         else
             emit clearParaInfoToTable();
     } else if (before && before != now) {
@@ -335,11 +258,17 @@ void GraphicsBase::showOrHideParameterTableSlot()
         emit clearParaInfoToTable();
         return;
     }
-    const PathInfo *path = selectedPath();
+    PathInfo *path = selectedPath();
     if (!path)
         return;
     placeFigures();
-    emit updateParaInfoToTable(patternParameters(path->pathId()));
+    showFigures(*path);
+}
+
+void GraphicsBase::showFigures(PathInfo &path)
+{
+    m_curves->placeLines(path);
+    emit updateParaInfoToTable(m_curves->figures(path));
 }
 
 /// Keeps the figures of the selected curve at the right of the plot area, or where the user has
@@ -367,8 +296,7 @@ ChartSituation GraphicsBase::situation() const
 void GraphicsBase::showMenu(const QPoint &position)
 {
     viewport()->setCursor(Qt::ArrowCursor);
-    m_zoomMode = false;
-    m_panMode = false;
+    m_steering.stop();
     m_menuPosition = mapToScene(position);
 
     using Entry = ChartMenu::Entry;
@@ -452,4 +380,45 @@ void GraphicsBase::dropEvent(QDropEvent *event)
     m_exchange.drop(event->mimeData()->text());
     reconnectLegendMarkers();
     event->acceptProposedAction();
+}
+
+MyMarkItem *GraphicsBase::addMark(const QPointF &position, const QColor &color)
+{
+    return m_curves->marks().add(position, color);
+}
+
+void GraphicsBase::addMarkSlot()
+{
+    if (!chart() || paths().isEmpty())
+        return;
+    const double x = toValue(m_menuPosition).x();
+    const ViewRange axes = m_stage->axisRange();
+    if (!axes.isRound && (x < axes.xMin || x > axes.xMax))
+        return;
+    PathInfo *path = selectedPath();
+    if (!path) {
+        MessageSimpleDialog::showMessage(tr("Please select the target graph"), 1, window());
+        return;
+    }
+    m_markEditing->add(*path, x);
+}
+
+bool GraphicsBase::jumpMark(MarkJump jump)
+{
+    return m_markEditing->jump(jump);
+}
+
+void GraphicsBase::setMarkDeltas(bool on)
+{
+    m_curves->setMarkDeltas(on);
+}
+
+void GraphicsBase::deleteMarkSlot()
+{
+    m_markEditing->removeSelected();
+}
+
+void GraphicsBase::showOrHideMarkTableSlot()
+{
+    m_curves->setMarkTablesShown(!m_curves->markTablesShown());
 }

@@ -180,7 +180,7 @@ void PathInfo::placeDisplayItem()
     m_displayItem->setAnchor(m_pathItem->highestPoint().value_or(area.center()), area);
 }
 
-const PatternAnalysis *PathInfo::analysis()
+const PatternAnalysis *PathInfo::analysis() const
 {
     const QVector<QPointF> values = points();
     if (!isShared(values, m_analysedValues) || values.isEmpty()) {

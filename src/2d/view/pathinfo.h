@@ -86,7 +86,7 @@ public:
     void redrawOutline();
 
     /// The figures of the pattern, computed once for the same data. Nothing for an empty curve.
-    const PatternAnalysis *analysis();
+    const PatternAnalysis *analysis() const;
     /// Places the marker lines of the pattern, and shows them if \a shown.
     void updateLines(const ChartStage &stage, bool shown);
     /// Shows the edges of the main lobe at so many dB below the peak at the next updateLines().
@@ -140,8 +140,8 @@ private:
     QVector<QPointF> m_mirrored;    ///< the images drawn instead of the points, if any
     QVector<QPointF> m_drawnValues; ///< what the outline shows, shared with the series
     ChartMapping m_drawnMapping;    ///< and how it was mapped
-    QVector<QPointF> m_analysedValues;
-    std::unique_ptr<PatternAnalysis> m_analysis;
     QVector<double> m_beamDrops;
-    QVector<BeamWidth> m_beams; ///< of the analysed values
+    mutable QVector<QPointF> m_analysedValues;
+    mutable std::unique_ptr<PatternAnalysis> m_analysis; ///< of those values, as the beams
+    mutable QVector<BeamWidth> m_beams;
 };
