@@ -175,7 +175,10 @@ RecordReader::Outcome RecordReader::follow()
     if (m_sources.empty())
         return Outcome::Unchanged;
     for (const Source &source : m_sources) {
-        if (QFileInfo(source.path).size() < source.position)
+        const QFileInfo file(source.path);
+        if (!file.exists())
+            return Outcome::Unchanged; // what was read of it stays
+        if (file.size() < source.position)
             return Outcome::Replaced;
     }
     const auto goOn = [](double) { return true; };

@@ -182,6 +182,8 @@ void RecordView::finishLoading()
     loader->deleteLater();
     m_progress->hide();
     m_cancel->hide();
+    if (loader->outcome() != RecordReader::Outcome::Read && !m_followTimer->isActive())
+        m_follow->setChecked(false); // else it would be read again every second
     switch (loader->outcome()) {
     case RecordReader::Outcome::Cancelled:
         return;
@@ -195,6 +197,8 @@ void RecordView::finishLoading()
     m_reader = loader->takeReader();
     const bool isSame = before && before->paths() == m_reader->paths();
     m_chart->setData(&m_reader->data(), isSame);
+    if (m_follow->isChecked())
+        m_followTimer->start(followPeriod);
     showState();
 }
 
@@ -206,6 +210,7 @@ void RecordView::follow()
     const bool wasEmpty = m_reader->data().isEmpty();
     switch (m_reader->follow()) {
     case RecordReader::Outcome::Replaced:
+        m_followTimer->stop(); // until it has been read again
         open(m_reader->paths());
         return;
     case RecordReader::Outcome::Read:
