@@ -130,7 +130,7 @@ int main(int argc, char **argv)
         const bool isMissing = i % 9973 == 0;
         const Reading reading = isMissing ? Reading::missing() : Reading::of(level, {});
         const double position = double(i % 36000) / 600.0; // minutes; the chart runs for an hour
-        traffic.addSent(QStringLiteral("GET?"));
+        traffic.addSent(QStringLiteral("GET?\n"));
         traffic.addReceived(reading.text, {});
         statistics.add(reading, false, start.addMSecs(100 * i), position);
         watch.take(reading);

@@ -39,12 +39,13 @@ void LimitLines::place()
     const bool isResting = m_watch->state() == LimitWatch::State::Resting;
     for (const LimitAlarm::Limit limit : {LimitAlarm::High, LimitAlarm::Low}) {
         const std::optional<double> &level = limit == LimitAlarm::High ? limits.high : limits.low;
-        place(m_lines[limit], level.value_or(0.0), level && !isResting);
+        place(limit, level.value_or(0.0), level && !isResting);
     }
 }
 
-void LimitLines::place(const Line &line, double level, bool isShown) const
+void LimitLines::place(LimitAlarm::Limit limit, double level, bool isShown) const
 {
+    const Line &line = m_lines[limit];
     const QRectF area = m_view->chart()->plotArea();
     const ViewRange range = m_view->shownRange();
     const bool isInView = isShown && level >= range.yMin && level <= range.yMax;
@@ -56,5 +57,7 @@ void LimitLines::place(const Line &line, double level, bool isShown) const
     line.line->setLine(QLineF(area.left(), y, area.right(), y));
     line.label->setText(QStringLiteral("%1 dBm").arg(level, 0, 'f', 2));
     const QRectF text = line.label->boundingRect();
-    line.label->setPos(area.right() - text.width() - 4.0, y - text.height());
+    // Outside of both, so that they can be read where the lines are close.
+    line.label->setPos(area.right() - text.width() - 4.0,
+                       limit == LimitAlarm::High ? y - text.height() : y);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "measure/limits.h"
+
 #include <QObject>
 
 #include <array>
@@ -28,7 +30,7 @@ private:
     };
 
     void place();
-    void place(const Line &line, double level, bool isShown) const;
+    void place(LimitAlarm::Limit limit, double level, bool isShown) const;
 
     LimitWatch *m_watch;
     GraphicsBase *m_view;

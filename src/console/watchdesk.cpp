@@ -1,6 +1,7 @@
 #include "console/watchdesk.h"
 
 #include "2d/view/graphicsbase.h"
+#include "Logic/replyparser.h"
 #include "Logic/seriallogic.h"
 #include "console/limitlines.h"
 #include "console/linksession.h"
@@ -21,6 +22,7 @@
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QFile>
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QMimeData>
 #include <QScopedValueRollback>
@@ -79,7 +81,7 @@ WatchDesk::WatchDesk(const Console &console)
     connectReadings();
     connectTraffic();
     connectReconnector();
-    console.form->layoutPower->addWidget(m_alarm, 0, Qt::AlignLeft);
+    placeAlarm();
     new LimitLines(m_limits, console.chart->view(), this);
     console.window->setAcceptDrops(true);
     console.window->installEventFilter(this);
@@ -117,8 +119,22 @@ void WatchDesk::createMenus()
     form->menuBar->insertMenu(form->menuLanuage->menuAction(), m_viewMenu);
 }
 
+/// At the end of the line that tells how the reading stands.
+void WatchDesk::placeAlarm()
+{
+    Ui::MainWindow *form = m_console.form;
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, form->horizontalLayoutPower->contentsMargins().right(), 0);
+    form->layoutPower->removeWidget(form->labelReadingState);
+    row->addWidget(form->labelReadingState, 1);
+    row->addWidget(m_alarm);
+    form->layoutPower->addLayout(row);
+}
+
 void WatchDesk::createPanels()
 {
+    // The panels at the right have more rows to show than the one below has columns.
+    m_console.window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_statisticsDock = addPanel("dockStatistics", m_statisticsPanel, Qt::RightDockWidgetArea);
     m_limitsDock = addPanel("dockLimits", m_limitsPanel, Qt::RightDockWidgetArea);
     m_trafficDock = addPanel("dockTraffic", m_trafficPanel, Qt::BottomDockWidgetArea);
@@ -153,8 +169,11 @@ void WatchDesk::connectReadings()
     connect(link, &SerialLogic::updateSetZeroSuccess, this, &WatchDesk::beginAnew);
     connect(link, &SerialLogic::updateCalibrationSuccess, this, &WatchDesk::beginAnew);
     connect(session, &LinkSession::stateChanged, this, [this](LinkSession::State state) {
-        if (state == LinkSession::State::Closed)
-            m_limits->take(Reading::missing());
+        if (state != LinkSession::State::Closed)
+            return;
+        m_limits->take(Reading::missing());
+        m_statistics.forgetLatest();
+        showStatistics();
     });
     connect(m_console.form->btnResetChart, &QAbstractButton::clicked, this, [this] {
         m_statistics.forgetChart();
@@ -213,8 +232,12 @@ void WatchDesk::takeReading(const Reading &reading)
 {
     if (reading.state == Reading::State::None)
         return;
-    m_statistics.add(reading, m_isRelative, QDateTime::currentDateTime(),
-                     m_console.chart->position());
+    // During a relative measurement the level is told in dBm all the same; its text is in dB.
+    const auto relative = ReplyParser::relativeLevel(reading.text);
+    const bool isRelative = reading.isValid() ? relative.has_value() : m_statistics.isRelative();
+    const bool isShownInstead = reading.isValid() && relative;
+    m_statistics.add(isShownInstead ? Reading::of(*relative, reading.text) : reading, isRelative,
+                     QDateTime::currentDateTime(), m_console.chart->position());
     m_limits->take(reading);
     showStatistics();
 }

@@ -75,6 +75,7 @@ public:
 
 private:
     void createMenus();
+    void placeAlarm();
     void createPanels();
     QDockWidget *addPanel(const char *name, QWidget *panel, Qt::DockWidgetArea area);
     void connectReadings();

@@ -20,18 +20,22 @@ AlarmNotice::~AlarmNotice() = default;
 
 void AlarmNotice::showState()
 {
-    const bool isResting = m_watch->state() == LimitWatch::State::Resting;
-    setVisible(m_watch->isAlarm() || isResting);
+    const LimitWatch::State state = m_watch->state();
+    // Its place is kept while limits are watched, so that nothing moves when an alarm begins.
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(state != LimitWatch::State::Off);
+    setSizePolicy(policy);
+    setVisible(m_watch->isAlarm() || state == LimitWatch::State::Resting);
     if (m_watch->isAlarm()) {
         const QString shape = m_watch->isAlarm(LimitAlarm::High) ? QStringLiteral("\u25b2")
                                                                  : QStringLiteral("\u25bc");
         setText(QStringLiteral("%1 %2").arg(shape, tr("Alarm: %1").arg(m_watch->alarmText())));
         setStyleSheet(QStringLiteral("QLabel{border:2px solid #B3261E;border-radius:4px;"
-                                     "padding:2px 8px;color:#B3261E;font-weight:bold;}"));
+                                     "padding:0px 8px;color:#B3261E;font-weight:bold;}"));
     } else {
         setText(tr("The limits rest"));
-        setStyleSheet(QStringLiteral("QLabel{border:1px solid #BCC6CF;border-radius:4px;"
-                                     "padding:2px 8px;color:#46535F;}"));
+        setStyleSheet(QStringLiteral("QLabel{border:2px solid #BCC6CF;border-radius:4px;"
+                                     "padding:0px 8px;color:#46535F;}"));
     }
     setAccessibleName(text());
 }

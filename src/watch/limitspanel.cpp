@@ -135,12 +135,12 @@ void LimitsPanel::apply()
 void LimitsPanel::retranslate()
 {
     m_hasHigh->setText(tr("&Upper limit"));
-    m_hasLow->setText(tr("&Lower limit"));
+    m_hasLow->setText(tr("Lo&wer limit"));
     m_high->setAccessibleName(tr("Upper limit"));
     m_low->setAccessibleName(tr("Lower limit"));
-    m_hysteresisLabel->setText(tr("&Hysteresis"));
+    m_hysteresisLabel->setText(tr("Hys&teresis"));
     m_hysteresis->setToolTip(tr("An alarm ends once the level is back by as much"));
-    m_inARowLabel->setText(tr("Readings in a &row"));
+    m_inARowLabel->setText(tr("Readings i&n a row"));
     m_inARow->setToolTip(tr("So many readings beyond a limit, one after the other, are an alarm"));
     m_latched->setText(tr("L&atched"));
     m_latched->setToolTip(tr("An alarm stays until it is acknowledged"));

@@ -11,6 +11,11 @@ QString levelText(double level)
 
 } // namespace
 
+LimitWatch::~LimitWatch()
+{
+    startAnew(QStringLiteral("the watch is over"));
+}
+
 void LimitWatch::setLimits(const Limits &limits)
 {
     startAnew(QStringLiteral("the limits were changed"));

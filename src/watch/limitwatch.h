@@ -24,6 +24,8 @@ public:
     Q_ENUM(State)
 
     using QObject::QObject;
+    /// Alarms that stand end with it.
+    ~LimitWatch() override;
 
     const Limits &limits() const { return m_limits; }
     /// Watches \a limits from the next reading on; an alarm of the former ones ends.

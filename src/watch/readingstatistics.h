@@ -27,6 +27,9 @@ public:
     /// The time chart begins again at 0; what it showed is no part of it any more.
     void forgetChart() { m_recent.clear(); }
 
+    /// There is no reading of now any more; the figures stay.
+    void forgetLatest() { m_latest = {}; }
+
     const Reading &latest() const { return m_latest; }
     bool isRelative() const { return m_isRelative; }
     const Figures &sinceRestart() const { return m_all; }

@@ -42,6 +42,7 @@ void Reconnector::begin(const Target &target)
     m_target = target;
     m_since = QDateTime::currentDateTime();
     m_pause = 0;
+    m_isAway = false;
     m_second.start();
     wait();
 }

@@ -37,6 +37,7 @@ StatisticsPanel::StatisticsPanel(QWidget *parent)
     m_table->setObjectName(QStringLiteral("tableStatistics"));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setTabKeyNavigation(false);
+    m_table->setWordWrap(false);
     m_table->horizontalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
@@ -89,7 +90,7 @@ void StatisticsPanel::retranslate()
     for (int row = 0; row < RowCount; ++row)
         m_table->verticalHeaderItem(row)->setText(names[row]);
     m_reset->setText(tr("&Reset"));
-    m_copy->setText(tr("&Copy"));
+    m_copy->setText(tr("Cop&y"));
 }
 
 void StatisticsPanel::show(const ReadingStatistics &statistics,

@@ -6,15 +6,17 @@
 
 void TrafficModel::addSent(const QString &line)
 {
-    m_sinceSent.start();
-    add({QDateTime::currentDateTime(), true, -1, line.trimmed()});
+    const bool isCommand = line.endsWith(QLatin1Char('\n'));
+    if (isCommand)
+        m_sinceSent.start();
+    add({QDateTime::currentDateTime(), isCommand ? Way::To : Way::None, -1, line.trimmed()});
 }
 
 void TrafficModel::addReceived(const QString &line, const QString &remark)
 {
     const qint64 wait = m_sinceSent.isValid() ? m_sinceSent.elapsed() : -1;
     const QString text = line.trimmed();
-    add({QDateTime::currentDateTime(), false, wait,
+    add({QDateTime::currentDateTime(), Way::From, wait,
          text.isEmpty() || remark.isEmpty() ? text + remark
                                             : QStringLiteral("%1 (%2)").arg(text, remark)});
 }
@@ -73,7 +75,9 @@ QString TrafficModel::cell(const Entry &entry, int column) const
     case Time:
         return QLocale::c().toString(entry.time, QStringLiteral("hh:mm:ss.zzz"));
     case Direction:
-        return entry.isSent ? tr("to") : tr("from");
+        if (entry.way == Way::None)
+            return {};
+        return entry.way == Way::To ? tr("to") : tr("from");
     case Wait:
         return entry.wait < 0 ? QString() : QString::number(entry.wait);
     default:

@@ -17,7 +17,7 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// A line on its way to the instrument.
+    /// A line on its way to the instrument; without a line end it is what the link does itself.
     void addSent(const QString &line);
     /// What came of it: the reply, or \a remark where none came.
     void addReceived(const QString &line, const QString &remark);
@@ -37,10 +37,11 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    enum class Way { To, From, None };
     struct Entry
     {
         QDateTime time;
-        bool isSent;
+        Way way;
         qint64 wait; ///< ms since the line before was sent, -1 for none
         QString text;
     };

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -22,6 +23,7 @@ TrafficPanel::TrafficPanel(TrafficModel *model, QWidget *parent)
     , m_shown(new QSortFilterProxyModel(this))
     , m_view(new QTableView(this))
     , m_scroll(new QTimer(this))
+    , m_filterLabel(new QLabel(this))
     , m_filter(new QLineEdit(this))
     , m_pause(new QPushButton(this))
     , m_copy(new QPushButton(this))
@@ -40,11 +42,13 @@ TrafficPanel::TrafficPanel(TrafficModel *model, QWidget *parent)
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_filter->setObjectName(QStringLiteral("lineEditTrafficFilter"));
     m_filter->setClearButtonEnabled(true);
+    m_filterLabel->setBuddy(m_filter);
     m_pause->setObjectName(QStringLiteral("btnTrafficPause"));
     m_pause->setCheckable(true);
     m_copy->setObjectName(QStringLiteral("btnTrafficCopy"));
 
     auto *row = new QHBoxLayout;
+    row->addWidget(m_filterLabel);
     row->addWidget(m_filter, 1);
     for (QPushButton *button : {m_pause, m_copy, m_clear})
         row->addWidget(button);
@@ -77,11 +81,10 @@ void TrafficPanel::showEvent(QShowEvent *event)
 
 void TrafficPanel::retranslate()
 {
-    m_filter->setPlaceholderText(tr("Lines that hold …"));
-    m_filter->setAccessibleName(tr("Filter"));
+    m_filterLabel->setText(tr("L&ines that hold"));
     m_pause->setText(tr("&Pause"));
-    m_copy->setText(tr("&Copy"));
-    m_clear->setText(tr("C&lear"));
+    m_copy->setText(tr("Copy Line&s"));
+    m_clear->setText(tr("Cl&ear"));
     m_view->setAccessibleName(tr("Traffic"));
     m_model->retranslate();
 }

@@ -5,6 +5,7 @@
 class TrafficModel;
 
 QT_BEGIN_NAMESPACE
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSortFilterProxyModel;
@@ -35,6 +36,7 @@ private:
     QSortFilterProxyModel *m_shown;
     QTableView *m_view;
     QTimer *m_scroll; // once for many lines
+    QLabel *m_filterLabel;
     QLineEdit *m_filter;
     QPushButton *m_pause;
     QPushButton *m_copy;

@@ -752,10 +752,6 @@ correction</source>
         <translation>上限(&amp;U)</translation>
     </message>
     <message>
-        <source>&amp;Lower limit</source>
-        <translation>下限(&amp;L)</translation>
-    </message>
-    <message>
         <source>Upper limit</source>
         <translation>上限</translation>
     </message>
@@ -764,16 +760,8 @@ correction</source>
         <translation>下限</translation>
     </message>
     <message>
-        <source>&amp;Hysteresis</source>
-        <translation>回差(&amp;H)</translation>
-    </message>
-    <message>
         <source>An alarm ends once the level is back by as much</source>
         <translation>电平回到限值内这么多时报警结束</translation>
-    </message>
-    <message>
-        <source>Readings in a &amp;row</source>
-        <translation>连续读数(&amp;R)</translation>
     </message>
     <message>
         <source>So many readings beyond a limit, one after the other, are an alarm</source>
@@ -822,6 +810,18 @@ correction</source>
     <message>
         <source>Alarm: %1</source>
         <translation>报警：%1</translation>
+    </message>
+    <message>
+        <source>Lo&amp;wer limit</source>
+        <translation>下限(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Hys&amp;teresis</source>
+        <translation>回差(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Readings i&amp;n a row</source>
+        <translation>连续读数(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -3562,8 +3562,8 @@ Replace it?</source>
         <translation>重置(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
+        <source>Cop&amp;y</source>
+        <translation>复制(&amp;Y)</translation>
     </message>
 </context>
 <context>
@@ -3788,28 +3788,24 @@ Replace it?</source>
 <context>
     <name>TrafficPanel</name>
     <message>
-        <source>Lines that hold …</source>
-        <translation>包含 … 的行</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-    <message>
         <source>&amp;Pause</source>
         <translation>暂停(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
-        <source>C&amp;lear</source>
-        <translation>清除(&amp;L)</translation>
-    </message>
-    <message>
         <source>Traffic</source>
         <translation>通信</translation>
+    </message>
+    <message>
+        <source>L&amp;ines that hold</source>
+        <translation>包含文字的行(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Copy Line&amp;s</source>
+        <translation>复制行(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear</source>
+        <translation>清除(&amp;E)</translation>
     </message>
 </context>
 <context>

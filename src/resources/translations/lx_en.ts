@@ -752,10 +752,6 @@ correction</translation>
         <translation>&amp;Upper limit</translation>
     </message>
     <message>
-        <source>&amp;Lower limit</source>
-        <translation>&amp;Lower limit</translation>
-    </message>
-    <message>
         <source>Upper limit</source>
         <translation>Upper limit</translation>
     </message>
@@ -764,16 +760,8 @@ correction</translation>
         <translation>Lower limit</translation>
     </message>
     <message>
-        <source>&amp;Hysteresis</source>
-        <translation>&amp;Hysteresis</translation>
-    </message>
-    <message>
         <source>An alarm ends once the level is back by as much</source>
         <translation>An alarm ends once the level is back by as much</translation>
-    </message>
-    <message>
-        <source>Readings in a &amp;row</source>
-        <translation>Readings in a &amp;row</translation>
     </message>
     <message>
         <source>So many readings beyond a limit, one after the other, are an alarm</source>
@@ -822,6 +810,18 @@ correction</translation>
     <message>
         <source>Alarm: %1</source>
         <translation>Alarm: %1</translation>
+    </message>
+    <message>
+        <source>Lo&amp;wer limit</source>
+        <translation>Lo&amp;wer limit</translation>
+    </message>
+    <message>
+        <source>Hys&amp;teresis</source>
+        <translation>Hys&amp;teresis</translation>
+    </message>
+    <message>
+        <source>Readings i&amp;n a row</source>
+        <translation>Readings i&amp;n a row</translation>
     </message>
 </context>
 <context>
@@ -3562,8 +3562,8 @@ Replace it?</translation>
         <translation>&amp;Reset</translation>
     </message>
     <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copy</translation>
+        <source>Cop&amp;y</source>
+        <translation>Cop&amp;y</translation>
     </message>
 </context>
 <context>
@@ -3788,28 +3788,24 @@ Replace it?</translation>
 <context>
     <name>TrafficPanel</name>
     <message>
-        <source>Lines that hold …</source>
-        <translation>Lines that hold …</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>&amp;Pause</source>
         <translation>&amp;Pause</translation>
     </message>
     <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copy</translation>
-    </message>
-    <message>
-        <source>C&amp;lear</source>
-        <translation>C&amp;lear</translation>
-    </message>
-    <message>
         <source>Traffic</source>
         <translation>Traffic</translation>
+    </message>
+    <message>
+        <source>L&amp;ines that hold</source>
+        <translation>L&amp;ines that hold</translation>
+    </message>
+    <message>
+        <source>Copy Line&amp;s</source>
+        <translation>Copy Line&amp;s</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear</source>
+        <translation>Cl&amp;ear</translation>
     </message>
 </context>
 <context>
