@@ -48,8 +48,11 @@ void GraphicsBase::connectParts()
             &GraphicsBase::setAcceptDropsStatus);
     connect(m_curves.get(), &CurveList::lookChanged, this, &GraphicsBase::lookChanged);
     connect(this, &QWidget::customContextMenuRequested, this, &GraphicsBase::showMenu);
-    if (QChart *current = chart())
+    if (QChart *current = chart()) {
         connect(current, &QChart::plotAreaChanged, m_curves.get(), &CurveList::catchUpLater);
+        // Axes that make room for a title do not repaint all of the place where they were.
+        connect(current, &QChart::plotAreaChanged, viewport(), qOverload<>(&QWidget::update));
+    }
 }
 
 GraphicsBase::~GraphicsBase()
