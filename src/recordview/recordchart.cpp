@@ -24,6 +24,8 @@ constexpr int labelRoom = 96;           // pixels for the label of a division
 constexpr int levelRoom = 40;
 constexpr int fittedDivisions = 10;
 constexpr int rightMargin = 24;
+constexpr double widestInterval = 1e9; // one division at most
+constexpr double farAnchor = 1e6;      // divisions
 
 /// \a low and \a high with a twentieth beside them, and not too close to each other.
 void widen(double &low, double &high)
@@ -61,7 +63,7 @@ RecordChart::RecordChart(QWidget *parent)
     m_xAxis->setLabelsVisible(false);
     m_xAxis->setTitleVisible(false);
     for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
-        axis->setTickInterval(1e9); // before any range is known: one division at most
+        axis->setTickInterval(widestInterval); // before any range is known
         axis->setTickType(QValueAxis::TicksDynamic);
         axis->setGridLinePen(QPen(QColor(0xe2, 0xe6, 0xea), 0.0));
     }
@@ -117,6 +119,13 @@ void RecordChart::setFitsLevel(bool fits)
 
 void RecordChart::showRange(ViewRange range)
 {
+    if (hasData()) {
+        // The record does not leave the middle of the view.
+        const double centre = 0.5 * (range.xMin + range.xMax);
+        const double shift = std::clamp(centre, m_data->begin(), m_data->end()) - centre;
+        range.xMin += shift;
+        range.xMax += shift;
+    }
     if (range.xMax - range.xMin < shortestTime)
         range.xMax = range.xMin + shortestTime;
     if (range.yMax - range.yMin < smallestLevels)
@@ -148,13 +157,15 @@ void RecordChart::applyAxes()
     const ChartStage::LayoutGuard guard(m_stage);
     const auto apply = [](QValueAxis *axis, double anchor, double interval, const auto &setRange) {
         // With a wide step first, the axis never has to place more divisions than it will have.
-        const bool grows = interval > axis->tickInterval();
-        if (grows)
-            axis->setTickInterval(interval);
+        // It counts those from its anchor to the range as an int.
+        const double way = std::abs(anchor - axis->tickAnchor());
+        const bool isFar = way > farAnchor * std::min(interval, axis->tickInterval());
+        const double wide = isFar ? widestInterval : interval;
+        if (wide > axis->tickInterval())
+            axis->setTickInterval(wide);
         setRange();
         axis->setTickAnchor(anchor);
-        if (!grows)
-            axis->setTickInterval(interval);
+        axis->setTickInterval(interval);
     };
     apply(m_xAxis, time.first - m_origin, time.interval,
           [this] { m_stage.setXRange(m_shown.xMin - m_origin, m_shown.xMax - m_origin); });

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QVector>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +20,9 @@ constexpr double dotWidth = 4.0;
 void RecordCurve::show(const RecordData *data, double from, double to, int width)
 {
     m_data = data;
+    m_from = from;
+    m_to = to;
+    m_width = width;
     m_columns.clear();
     if (data && !data->isEmpty())
         m_columns = data->columns(from, to, width);
@@ -65,6 +69,11 @@ void RecordCurve::drawBars(QPainter &painter, const ChartMapping &mapping, doubl
     const auto place = [&](int point) {
         return mapping.toScene(QPointF(m_data->time(point) - origin, m_data->level(point)));
     };
+    // Where points lie within their columns must not leave a pixel out between two of these.
+    const int left = qRound(mapping.plotArea.left());
+    const auto pixel = [&](int point) {
+        return left + qFloor((m_data->time(point) - m_from) / (m_to - m_from) * m_width);
+    };
     for (const RecordData::Column &column : m_columns) {
         const QPointF first = place(column.first);
         double top = place(column.high).y();
@@ -76,7 +85,7 @@ void RecordCurve::drawBars(QPainter &painter, const ChartMapping &mapping, doubl
             lines.append(QLineF(before, first));
         }
         const int from = qRound(top);
-        bars.append(QRect(qRound(first.x()), from, 1, qRound(bottom) - from + 1));
+        bars.append(QRect(pixel(column.first), from, 1, qRound(bottom) - from + 1));
         before = column.last == column.first ? first : place(column.last);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);

@@ -24,5 +24,8 @@ private:
     void drawLines(QPainter &painter, const ChartMapping &mapping, double origin) const;
 
     const RecordData *m_data = nullptr;
+    double m_from = 0.0;
+    double m_to = 1.0;
+    int m_width = 1; ///< pixels
     std::vector<RecordData::Column> m_columns;
 };

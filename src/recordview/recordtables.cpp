@@ -59,8 +59,8 @@ RecordTables::RecordTables(QWidget *parent)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_rows, 3);
-    layout->addWidget(m_span, 2);
+    layout->addWidget(m_rows, 1);
+    layout->addWidget(m_span, 1);
     retranslate();
 }
 

@@ -100,10 +100,9 @@ void RecordView::createMenus()
     m_viewMenu = menuBar()->addMenu(QString());
     m_showAll = m_viewMenu->addAction(QString(), m_chart, &RecordChart::showAll,
                                       QKeySequence(Qt::CTRL + Qt::Key_0));
-    m_zoomIn =
-        m_viewMenu->addAction(QString(), m_chart, &RecordChart::zoomIn, QKeySequence::ZoomIn);
-    m_zoomOut =
-        m_viewMenu->addAction(QString(), m_chart, &RecordChart::zoomOut, QKeySequence::ZoomOut);
+    // With Ctrl they are the chart's, for the level.
+    m_zoomIn = m_viewMenu->addAction(QString(), m_chart, &RecordChart::zoomIn, Qt::Key_Plus);
+    m_zoomOut = m_viewMenu->addAction(QString(), m_chart, &RecordChart::zoomOut, Qt::Key_Minus);
     m_viewMenu->addSeparator();
     m_fitLevel = m_viewMenu->addAction(QString());
     m_follow = m_viewMenu->addAction(QString());
@@ -219,7 +218,9 @@ void RecordView::follow()
         return;
     }
     const ViewRange shown = m_chart->shownRange();
-    if (wasEmpty || (shown.xMin <= m_reader->data().begin() && shown.xMax >= endBefore))
+    if (wasEmpty)
+        m_chart->setData(&m_reader->data(), false);
+    else if (shown.xMin <= m_reader->data().begin() && shown.xMax >= endBefore)
         m_chart->showAll(); // who looks at all of it goes on looking at all of it
     else
         m_chart->refresh();
@@ -252,11 +253,11 @@ void RecordView::showState()
                        ? tr("Record - %1").arg(first)
                        : tr("Record - %1 and %2 more").arg(first).arg(paths.size() - 1));
     const RecordData &record = m_reader->data();
-    QString text = tr("%1 rows with a level, %2 gaps")
+    QString text = tr("Rows with a level: %1, gaps: %2")
                        .arg(record.size())
                        .arg(record.gaps({0, record.size() - 1}));
     if (m_reader->linesLeftOut() > 0)
-        text += tr(", %1 lines not understood").arg(m_reader->linesLeftOut());
+        text += tr(", lines not understood: %1").arg(m_reader->linesLeftOut());
     m_state->setText(text);
 }
 

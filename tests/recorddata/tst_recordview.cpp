@@ -132,8 +132,17 @@ void TestRecordView::followsAndTellsErrors()
     const RecordChart *chart = m_view->chart();
     QVERIFY(chart->shownRange().xMax > m_view->reader()->data().end()); // all is shown still
 
-    write("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n" + consoleRows(0, 5));
+    const QByteArray header("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n");
+    write(header + consoleRows(0, 5));
     QTRY_COMPARE(m_view->reader()->data().size(), 5); // replaced by a shorter one
+
+    m_path = m_folder.filePath(QStringLiteral("new.csv"));
+    write(header);
+    m_view->open({m_path});
+    QTRY_VERIFY(m_view->reader()->data().isEmpty());
+    write(consoleRows(0, 5), QFile::Append);
+    QTRY_COMPARE(m_view->reader()->data().size(), 5);
+    QVERIFY(chart->shownRange().xMin < m_view->reader()->data().begin());
 
     // its own file is not overwritten
     QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });

@@ -3125,14 +3125,6 @@ correction</source>
         <translation>记录 - %1 及另外 %2 个</translation>
     </message>
     <message>
-        <source>%1 rows with a level, %2 gaps</source>
-        <translation>%1 行有电平，%2 处间断</translation>
-    </message>
-    <message>
-        <source>, %1 lines not understood</source>
-        <translation>，%1 行无法识别</translation>
-    </message>
-    <message>
         <source>Open Record</source>
         <translation>打开记录</translation>
     </message>
@@ -3163,6 +3155,14 @@ correction</source>
     <message>
         <source>%1 is a file of this record: choose another name.</source>
         <translation>%1 是此记录的文件，请另选名称。</translation>
+    </message>
+    <message>
+        <source>Rows with a level: %1, gaps: %2</source>
+        <translation>有电平的行：%1，间断：%2</translation>
+    </message>
+    <message>
+        <source>, lines not understood: %1</source>
+        <translation>，无法识别的行：%1</translation>
     </message>
 </context>
 <context>

@@ -3125,14 +3125,6 @@ correction</translation>
         <translation>Record - %1 and %2 more</translation>
     </message>
     <message>
-        <source>%1 rows with a level, %2 gaps</source>
-        <translation>%1 rows with a level, %2 gaps</translation>
-    </message>
-    <message>
-        <source>, %1 lines not understood</source>
-        <translation>, %1 lines not understood</translation>
-    </message>
-    <message>
         <source>Open Record</source>
         <translation>Open Record</translation>
     </message>
@@ -3163,6 +3155,14 @@ correction</translation>
     <message>
         <source>%1 is a file of this record: choose another name.</source>
         <translation>%1 is a file of this record: choose another name.</translation>
+    </message>
+    <message>
+        <source>Rows with a level: %1, gaps: %2</source>
+        <translation>Rows with a level: %1, gaps: %2</translation>
+    </message>
+    <message>
+        <source>, lines not understood: %1</source>
+        <translation>, lines not understood: %1</translation>
     </message>
 </context>
 <context>
