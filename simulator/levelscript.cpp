@@ -1,6 +1,5 @@
 #include "levelscript.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QStringList>
 
@@ -8,15 +7,6 @@
 #include <tuple>
 
 namespace sim {
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("sim::LevelScript", text);
-}
-
-} // namespace
 
 std::optional<LevelScript> LevelScript::fromFile(const QString &path, QString *error)
 {

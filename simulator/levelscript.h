@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QVector>
 
@@ -20,6 +21,8 @@ constexpr double noiseFloor = -70.0;
 /// A level that changes by the clock.
 class LevelScript
 {
+    Q_DECLARE_TR_FUNCTIONS(sim::LevelScript)
+
 public:
     /// Reads a script, a step a line: "SECONDS level DBM", "SECONDS ramp FROM TO OVER" (dBm and
     /// seconds), "SECONDS overload" or "SECONDS off". Blank lines and those that begin with "#" do

@@ -10,14 +10,11 @@ namespace sim {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("sim::Options", text);
-}
-
 /// The command line's options and the reading of their values; the first mistake is kept.
 class Reader
 {
+    Q_DECLARE_TR_FUNCTIONS(sim::Options)
+
 public:
     Reader()
     {

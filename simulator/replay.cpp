@@ -1,6 +1,5 @@
 #include "replay.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -11,11 +10,6 @@
 namespace sim {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("sim::Replay", text);
-}
 
 /// The bytes of the escape sequence behind the backslash at \a i, which is moved to its last
 /// character.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -12,6 +13,8 @@ namespace sim {
 /// The replies that an instrument gave a console, out of the console's log.
 class Replay
 {
+    Q_DECLARE_TR_FUNCTIONS(sim::Replay)
+
 public:
     /// What followed a command.
     struct Reply

@@ -1,12 +1,11 @@
 #include "patterns/formats/circle.h"
 
+#include "2d/data/polarorientation.h"
 #include "patterns/formats/textfields.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr double fullCircle = 360.0;
 
 /// From point \a i of \a cut to the next one round the circle, degrees.
 double stepAfter(const QVector<QPointF> &cut, int i)

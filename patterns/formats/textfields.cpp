@@ -1,6 +1,7 @@
 #include "patterns/formats/textfields.h"
 
 #include "2d/data/curvetext.h"
+#include "2d/data/polarorientation.h"
 
 #include <QTextCodec>
 
@@ -10,7 +11,6 @@
 
 namespace {
 
-constexpr double fullCircle = 360.0;
 constexpr double halfCircle = 180.0;
 
 constexpr std::string_view blanks = " \t\r\v\f";

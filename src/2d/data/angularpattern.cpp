@@ -1,18 +1,12 @@
 #include "2d/data/angularpattern.h"
 
+#include "2d/data/polarorientation.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
 namespace {
-
-constexpr double fullCircle = 360.0;
-constexpr double sameDirection = 1e-6; // degrees
-
-bool byAngle(const QPointF &a, const QPointF &b)
-{
-    return a.x() < b.x();
-}
 
 double median(std::vector<double> values)
 {
@@ -61,14 +55,14 @@ void AngularPattern::sort(const QVector<QPointF> &points)
         std::stable_sort(m_points.begin(), m_points.end(), byAngle);
     int kept = 0;
     for (int i = 1; i < m_points.size(); ++i) {
-        if (m_points[i].x() - m_points[kept].x() > sameDirection)
+        if (m_points[i].x() - m_points[kept].x() > sameAngle)
             m_points[++kept] = m_points[i];
         else
             m_points[kept].setY(std::max(m_points[kept].y(), m_points[i].y()));
     }
     m_points.resize(std::min(kept + 1, m_points.size()));
     if (m_points.size() > 1 &&
-        m_points.first().x() + fullCircle - m_points.last().x() <= sameDirection) {
+        m_points.first().x() + fullCircle - m_points.last().x() <= sameAngle) {
         m_points.first().setY(std::max(m_points.first().y(), m_points.last().y()));
         m_points.removeLast();
     }
@@ -129,7 +123,7 @@ std::optional<double> AngularPattern::levelAt(double wanted) const
                          [](double x, const QPointF &point) { return x < point.x(); });
     const int next = static_cast<int>(after - m_points.begin());
     const int before = next - 1;
-    if (before >= 0 && wanted - angle(before) <= sameDirection)
+    if (before >= 0 && wanted - angle(before) <= sameAngle)
         return level(before);
     if (!has(before) || !has(next))
         return std::nullopt;

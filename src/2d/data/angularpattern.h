@@ -5,6 +5,13 @@
 
 #include <optional>
 
+constexpr double halfPowerDrop = 3.0; ///< dB
+
+inline bool byAngle(const QPointF &a, const QPointF &b)
+{
+    return a.x() < b.x();
+}
+
 /// A pattern by ascending angle, directions compared modulo 360 degrees: order, duplicates and the
 /// turn in which its file counts make no difference.
 ///

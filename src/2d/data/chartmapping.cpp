@@ -1,13 +1,13 @@
 #include "2d/data/chartmapping.h"
 
+#include "2d/data/polarorientation.h"
+
 #include <QtMath>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-constexpr double fullCircle = 360.0;
 
 // Every expression below keeps the order of operations of the chart's own domains: another order
 // would differ in the last bit.

@@ -1,6 +1,7 @@
 #include "2d/data/curvealgebra.h"
 
 #include "2d/data/angularpattern.h"
+#include "2d/data/polarorientation.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,15 +10,6 @@
 namespace {
 
 using CurveAlgebra::Points;
-
-constexpr double fullCircle = 360.0;
-constexpr double halfCircle = 180.0;
-constexpr double sameAngle = 1e-6; // degrees
-
-bool byAngle(const QPointF &a, const QPointF &b)
-{
-    return a.x() < b.x();
-}
 
 bool byLevel(const QPointF &a, const QPointF &b)
 {

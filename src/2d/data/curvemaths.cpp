@@ -1,5 +1,7 @@
 #include "2d/data/curvemaths.h"
 
+#include "2d/data/polarorientation.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -24,9 +26,10 @@ std::optional<QPointF> pointInDirection(const QVector<QPointF> &points, double x
     const std::optional<HorizontalExtent> extent = horizontalExtent(points);
     if (!extent)
         return std::nullopt;
-    constexpr double fullCircle = 360.0;
-    double turned = x - fullCircle * std::floor((x - extent->least) / fullCircle);
-    for (; turned <= extent->greatest; turned += fullCircle) {
+    const double first = x - fullCircle * std::floor((x - extent->least) / fullCircle);
+    const int turns = int(std::floor((extent->greatest - first) / fullCircle));
+    for (int turn = 0; turn <= turns; ++turn) {
+        const double turned = first + turn * fullCircle;
         if (const std::optional<double> y = interpolateAt(points, turned))
             return QPointF(turned, *y);
     }

@@ -2,18 +2,16 @@
 
 #include "2d/data/angularpattern.h"
 #include "2d/data/patternsupplement.h"
+#include "2d/data/polarorientation.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr double halfPowerDrop = 3.0;
-constexpr double sameAngle = 1e-6; // degrees
-
 bool isSameDirection(double a, double b)
 {
-    return std::abs(std::remainder(a - b, 360.0)) < sameAngle;
+    return std::abs(std::remainder(a - b, fullCircle)) < sameAngle;
 }
 
 /// Whether the level falls by the prominence of a lobe before it rises above that at \a top, going

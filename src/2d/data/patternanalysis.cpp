@@ -1,5 +1,6 @@
 #include "2d/data/patternanalysis.h"
 
+#include "2d/data/angularpattern.h"
 #include "2d/data/viewrange.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@ using Points = QVector<QPointF>;
 
 constexpr QPointF missingOnTheLeft{-100.0, -100.0};
 constexpr QPointF missingOnTheRight{10000.0, 10000.0};
-constexpr double halfPowerDrop = 3.0;
 
 QPair<double, double> toPair(const QPointF &point)
 {

@@ -2,6 +2,7 @@
 
 #include "2d/data/angularpattern.h"
 #include "2d/data/leastsquares.h"
+#include "2d/data/polarorientation.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,8 +11,6 @@
 
 namespace {
 
-constexpr double halfCircle = 180.0;
-constexpr double halfPowerDrop = 3.0;
 /// Below so many dB of noise the samples themselves are nearer to the truth than any fit.
 constexpr double noticeableNoise = 0.03;
 

@@ -2,12 +2,6 @@
 
 #include <cmath>
 
-namespace {
-
-constexpr double fullCircle = 360.0;
-
-} // namespace
-
 double wrappedAngle(double angle)
 {
     return angle - fullCircle * std::floor(angle / fullCircle + 0.5);

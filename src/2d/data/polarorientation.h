@@ -2,6 +2,10 @@
 
 #include <QString>
 
+constexpr double fullCircle = 360.0; ///< degrees
+constexpr double halfCircle = 180.0; ///< degrees
+constexpr double sameAngle = 1e-6;   ///< degrees; two angles that differ by less are one
+
 /// Where a polar chart has its 0 degrees, and which way its angles run.
 enum class PolarOrientation {
     DownClockwise,         ///< -180 degrees at the top, as the chart class is built

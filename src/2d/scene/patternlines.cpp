@@ -2,6 +2,7 @@
 
 #include "2d/data/patternanalysis.h"
 #include "2d/data/patternsupplement.h"
+#include "2d/data/polarorientation.h"
 #include "2d/data/viewrange.h"
 
 #include <QGraphicsPathItem>
@@ -14,7 +15,6 @@ namespace {
 
 constexpr qreal belowTheCurves = 4.0;
 constexpr double greatestSteps = 360.0;
-constexpr double fullCircle = 360.0;
 
 /// Dashes for what belongs to the main lobe, dots for the side lobes: told apart without colours.
 Qt::PenStyle styleOf(PatternLine line)
