@@ -37,16 +37,16 @@ QString textOf(const std::optional<Value> &value)
     return value ? CurveText::number(double(*value)) : QString();
 }
 
-std::optional<double> finite(const QString &text)
+std::optional<double> finiteNumber(const QString &text)
 {
     bool ok = false;
     const double value = text.toDouble(&ok);
     return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-std::optional<double> finite(const QByteArray &text)
+std::optional<double> finiteNumber(const QByteArray &text)
 {
-    return finite(QString::fromUtf8(text));
+    return finiteNumber(QString::fromUtf8(text));
 }
 
 /// Nothing for a name that is unknown, as a torn one is.
@@ -69,7 +69,7 @@ std::optional<RunFlags> readFlags(const QByteArray &text)
 /// An optional number of a row: false when the field holds something else.
 bool readLevel(const QByteArray &field, std::optional<double> &value)
 {
-    value = finite(field);
+    value = finiteNumber(field);
     return field.isEmpty() || value.has_value();
 }
 
@@ -80,9 +80,9 @@ std::optional<RunRow> readRow(const QByteArray &line)
         return std::nullopt;
     RunRow row;
     row.time = QString::fromUtf8(fields.at(0));
-    const std::optional<double> wanted = finite(fields.at(1));
-    const std::optional<double> read = finite(fields.at(2));
-    const std::optional<double> theta = finite(fields.at(3));
+    const std::optional<double> wanted = finiteNumber(fields.at(1));
+    const std::optional<double> read = finiteNumber(fields.at(2));
+    const std::optional<double> theta = finiteNumber(fields.at(3));
     const std::optional<RunFlags> flags = readFlags(fields.at(7));
     bool counted = false;
     row.count = fields.at(6).toInt(&counted);
@@ -103,8 +103,8 @@ using Values = QMap<QString, QString>;
 std::optional<TableLimits> readLimits(const QString &text)
 {
     const QStringList ends = text.split(QStringLiteral(".."));
-    const std::optional<double> min = finite(ends.first());
-    const std::optional<double> max = finite(ends.last());
+    const std::optional<double> min = finiteNumber(ends.first());
+    const std::optional<double> max = finiteNumber(ends.last());
     return min && max ? std::optional(TableLimits{*min, *max}) : std::nullopt;
 }
 
@@ -114,19 +114,19 @@ bool readHeader(const Values &values, RunHeader &header)
     const auto text = [&](const char *key) { return values.value(QLatin1String(key)); };
     header.version = text("version");
     header.identity = text("identity");
-    header.frequency = finite(text("frequency_hz"));
-    header.offset = finite(text("offset_db"));
-    if (const std::optional<double> count = finite(text("averaging")))
+    header.frequency = finiteNumber(text("frequency_hz"));
+    header.offset = finiteNumber(text("offset_db"));
+    if (const std::optional<double> count = finiteNumber(text("averaging")))
         header.averaging = int(*count);
     header.rotator = text("rotator");
     header.limits = readLimits(text("limits"));
-    header.floor = finite(text("floor_dbm"));
+    header.floor = finiteNumber(text("floor_dbm"));
     header.title = text("title");
     header.curve = text("curve");
     header.zone = text("zone");
     header.started = text("started");
     const auto read = [&](const char *key, auto &value) {
-        const std::optional<double> found = finite(text(key));
+        const std::optional<double> found = finiteNumber(text(key));
         if (found)
             value = static_cast<std::decay_t<decltype(value)>>(*found);
         return found.has_value();

@@ -48,7 +48,7 @@ struct Section
     QVector<QPointF> rows;
 };
 
-class Reader
+class MsiReader
 {
     Q_DECLARE_TR_FUNCTIONS(MsiFormat)
 
@@ -88,7 +88,7 @@ private:
     std::optional<double> m_gain;
 };
 
-PatternFile Reader::read(const QByteArray &text, const QString &fileName)
+PatternFile MsiReader::read(const QByteArray &text, const QString &fileName)
 {
     m_file.format = Format::Msi;
     TextLines lines(text);
@@ -109,7 +109,7 @@ PatternFile Reader::read(const QByteArray &text, const QString &fileName)
     return m_file;
 }
 
-void Reader::takeLine(const TextLines &lines)
+void MsiReader::takeLine(const TextLines &lines)
 {
     const std::vector<std::string_view> fields = fieldsOf(lines.line());
     const std::string_view key = fields.front();
@@ -131,7 +131,7 @@ void Reader::takeLine(const TextLines &lines)
         takeHeader(lines.number(), key, trimmed(lines.line().substr(key.size())));
 }
 
-void Reader::takeRow(const TextLines &lines, const std::vector<std::string_view> &fields)
+void MsiReader::takeRow(const TextLines &lines, const std::vector<std::string_view> &fields)
 {
     if (m_current == nullptr) {
         fail(lines.number(), tr("A row of numbers before HORIZONTAL and VERTICAL."));
@@ -156,7 +156,7 @@ void Reader::takeRow(const TextLines &lines, const std::vector<std::string_view>
                                  .arg(m_current->declared));
 }
 
-void Reader::open(int line, const std::vector<std::string_view> &fields)
+void MsiReader::open(int line, const std::vector<std::string_view> &fields)
 {
     const std::size_t which = equalsIgnoringCase(fields.front(), sections[0]) ? 0 : 1;
     const std::optional<int> declared = fields.size() == 2 ? toCount(fields[1]) : std::nullopt;
@@ -175,7 +175,7 @@ void Reader::open(int line, const std::vector<std::string_view> &fields)
     m_current = &section;
 }
 
-void Reader::close(int line)
+void MsiReader::close(int line)
 {
     const Section *section = m_current;
     m_current = nullptr;
@@ -191,7 +191,7 @@ void Reader::close(int line)
         remark(section->line, text);
 }
 
-void Reader::takeHeader(int line, std::string_view key, std::string_view value)
+void MsiReader::takeHeader(int line, std::string_view key, std::string_view value)
 {
     const QString text = toText(value);
     if (equalsIgnoringCase(key, "NAME")) {
@@ -207,7 +207,7 @@ void Reader::takeHeader(int line, std::string_view key, std::string_view value)
     }
 }
 
-void Reader::takeGain(int line, const QString &value)
+void MsiReader::takeGain(int line, const QString &value)
 {
     QString number = value;
     double offset = dipoleGain;
@@ -228,7 +228,7 @@ void Reader::takeGain(int line, const QString &value)
         m_gain = *gain + offset;
 }
 
-void Reader::takeFrequency(int line, const QString &value)
+void MsiReader::takeFrequency(int line, const QString &value)
 {
     if (const std::optional<QString> frequency = readFrequency(value))
         m_frequency = *frequency;
@@ -237,7 +237,7 @@ void Reader::takeFrequency(int line, const QString &value)
 }
 
 /// A first line that is no key is the name where no other line tells it.
-void Reader::settleName(const QString &fileName)
+void MsiReader::settleName(const QString &fileName)
 {
     const bool isName = m_name.isEmpty() || m_firstKey.isEmpty();
     if (!m_firstLine.isEmpty() && !isName)
@@ -250,7 +250,7 @@ void Reader::settleName(const QString &fileName)
     m_name = fileName;
 }
 
-void Reader::addCut(const Section &section, const QString &letter)
+void MsiReader::addCut(const Section &section, const QString &letter)
 {
     if (section.rows.isEmpty()) {
         remark(0, letter == QStringLiteral("H") ? tr("There is no HORIZONTAL cut.")
@@ -331,7 +331,7 @@ bool matches(const QByteArray &text, bool bySections)
 
 PatternFile read(const QByteArray &text, const QString &fileName)
 {
-    return Reader().read(text, fileName);
+    return MsiReader().read(text, fileName);
 }
 
 Written write(const Pattern &pattern)

@@ -127,7 +127,7 @@ double peakOf(const Cut &cut)
     return peak;
 }
 
-class Reader
+class NecReader
 {
     Q_DECLARE_TR_FUNCTIONS(NecFormat)
 
@@ -158,7 +158,7 @@ private:
     DecimalsWatch m_decimals;
 };
 
-PatternFile Reader::read(const QByteArray &text, const QString &title)
+PatternFile NecReader::read(const QByteArray &text, const QString &title)
 {
     m_file.format = Format::Nec;
     TextLines lines(text);
@@ -178,7 +178,7 @@ PatternFile Reader::read(const QByteArray &text, const QString &title)
     return m_file;
 }
 
-void Reader::takeLine(const TextLines &lines)
+void NecReader::takeLine(const TextLines &lines)
 {
     const std::string_view line = lines.line();
     if (line.empty()) {
@@ -195,7 +195,7 @@ void Reader::takeLine(const TextLines &lines)
 }
 
 /// False for a line that is no row: a heading, or what follows the block.
-bool Reader::takeRow(const TextLines &lines)
+bool NecReader::takeRow(const TextLines &lines)
 {
     const std::vector<std::string_view> fields = rowFields(lines.line());
     if (!toNumber(fields.front())) {
@@ -218,7 +218,7 @@ bool Reader::takeRow(const TextLines &lines)
     return true;
 }
 
-void Reader::takeHeading(const TextLines &lines)
+void NecReader::takeHeading(const TextLines &lines)
 {
     static const QRegularExpression frequency(
         QStringLiteral("FREQUENCY\\s*[:=]?\\s*([-+.0-9E]+)\\s*MHZ"),
@@ -238,7 +238,7 @@ void Reader::takeHeading(const TextLines &lines)
 }
 
 /// A listing that was cut off lacks rows of its last block.
-void Reader::checkEnd()
+void NecReader::checkEnd()
 {
     for (const Block &block : m_blocks) {
         const int rows = block.rows.size();
@@ -255,7 +255,7 @@ void Reader::checkEnd()
             tr("The listing ends with a row of the pattern: it may have been cut off."));
 }
 
-void Reader::addCuts(const Block &block, const QString &title, bool severalFrequencies)
+void NecReader::addCuts(const Block &block, const QString &title, bool severalFrequencies)
 {
     const bool overTheta =
         distinct(block.rows, &Row::theta).size() >= distinct(block.rows, &Row::phi).size();
@@ -281,7 +281,7 @@ void Reader::addCuts(const Block &block, const QString &title, bool severalFrequ
     }
 }
 
-void Reader::choosePrincipal()
+void NecReader::choosePrincipal()
 {
     QVector<Cut> &cuts = m_file.cuts;
     if (cuts.size() <= cutsWithoutAsking) {
@@ -313,7 +313,7 @@ bool matches(const QByteArray &text)
 
 PatternFile read(const QByteArray &text, const QString &title)
 {
-    return Reader().read(text, title);
+    return NecReader().read(text, title);
 }
 
 QByteArray write(const QVector<Cut> &cuts)

@@ -54,7 +54,7 @@ struct RawCut
     QVector<QPointF> rows;
 };
 
-class Reader
+class NsmaReader
 {
     Q_DECLARE_TR_FUNCTIONS(NsmaFormat)
 
@@ -92,7 +92,7 @@ private:
     double m_gain = 0.0;       ///< dBi
 };
 
-PatternFile Reader::read(const QByteArray &text, const QString &fileName)
+PatternFile NsmaReader::read(const QByteArray &text, const QString &fileName)
 {
     m_file.format = Format::Nsma;
     TextLines lines(text);
@@ -118,7 +118,7 @@ PatternFile Reader::read(const QByteArray &text, const QString &fileName)
     return m_file;
 }
 
-void Reader::takeKey(int line, const QString &key, const QString &value)
+void NsmaReader::takeKey(int line, const QString &key, const QString &value)
 {
     m_values.insert(key, value);
     m_linesOf.insert(key, line);
@@ -138,7 +138,7 @@ void Reader::takeKey(int line, const QString &key, const QString &value)
     }
 }
 
-void Reader::takeUnits(int line, const QString &value)
+void NsmaReader::takeUnits(int line, const QString &value)
 {
     const QStringList units = value.toUpper().split(QLatin1Char('/'));
     const QString gain = units.first().trimmed();
@@ -156,7 +156,7 @@ void Reader::takeUnits(int line, const QString &value)
     m_scale = scales.value(rows);
 }
 
-void Reader::takeRow(const TextLines &lines)
+void NsmaReader::takeRow(const TextLines &lines)
 {
     const QString line = toText(lines.line());
     const QStringList fields = line.split(QLatin1Char(','));
@@ -174,7 +174,7 @@ void Reader::takeRow(const TextLines &lines)
         m_cuts.last().rows.append({*angle, *value});
 }
 
-void Reader::settleGain()
+void NsmaReader::settleGain()
 {
     if (!m_values.contains(QStringLiteral("GUNITS")))
         remark(0, tr("There are no GUNITS: DBI/DBR is taken."));
@@ -195,7 +195,7 @@ void Reader::settleGain()
 }
 
 /// The end mark is missing: all that was announced has to be there all the same.
-void Reader::checkEnd(int lastLine)
+void NsmaReader::checkEnd(int lastLine)
 {
     const QString frequencies = m_values.value(QStringLiteral("NOFREQ"));
     const int groups = std::max(1, frequencies.toInt());
@@ -209,7 +209,7 @@ void Reader::checkEnd(int lastLine)
         fail(lastLine, tr("The file ends before ENDFIL: it has been cut off."));
 }
 
-void Reader::checkCounts()
+void NsmaReader::checkCounts()
 {
     for (const RawCut &cut : m_cuts) {
         if (cut.announced >= 0 && cut.announced != cut.rows.size())
@@ -220,7 +220,7 @@ void Reader::checkCounts()
 }
 
 /// MHz as text: that of the pattern, or the only one that the antenna is for.
-QString Reader::frequency() const
+QString NsmaReader::frequency() const
 {
     const auto number = [this](const QString &key) {
         return toNumber(m_values.value(key).toStdString()).value_or(0.0);
@@ -232,7 +232,7 @@ QString Reader::frequency() const
     return megahertz > 0.0 ? CurveText::number(megahertz) : QString();
 }
 
-double Reader::level(double value) const
+double NsmaReader::level(double value) const
 {
     switch (m_scale) {
     case Scale::BelowGain:
@@ -246,7 +246,7 @@ double Reader::level(double value) const
     }
 }
 
-void Reader::addCut(const RawCut &raw, const QString &fileName)
+void NsmaReader::addCut(const RawCut &raw, const QString &fileName)
 {
     Cut cut;
     QString model = m_values.value(QStringLiteral("MODNUM"));
@@ -342,7 +342,7 @@ bool matches(const QByteArray &text)
 
 PatternFile read(const QByteArray &text, const QString &fileName)
 {
-    return Reader().read(text, fileName);
+    return NsmaReader().read(text, fileName);
 }
 
 QByteArray write(const QVector<Cut> &cuts)

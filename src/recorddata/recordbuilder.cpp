@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr double secondsPerMinute = 60.0;
+constexpr double oneMinute = 60.0;
 constexpr double suspicious = 1.5; // of the usual step: worth a look at the interval's begin
 constexpr double longPause = 2.0;  // of the usual step, for the console's rows
 
@@ -76,14 +76,14 @@ void RecordBuilder::placeMinute()
         const bool isPause = m_state.step > 0.0 && step > longPause * m_state.step;
         if (isPause || step < 0.0)
             m_state.isBroken = true;
-        m_state.step = std::max(step, secondsPerMinute);
+        m_state.step = std::max(step, oneMinute);
     }
     m_state.hasRow = true;
     m_state.time = m_minute;
     const auto count = static_cast<double>(m_minuteRows.size());
     for (std::size_t i = 0; i < m_minuteRows.size(); ++i)
-        addPoint(m_minute + secondsPerMinute * static_cast<double>(i) / count,
-                 m_minuteRows[i].level, false, m_minuteRows[i].place);
+        addPoint(m_minute + oneMinute * static_cast<double>(i) / count, m_minuteRows[i].level,
+                 false, m_minuteRows[i].place);
 }
 
 void RecordBuilder::show()

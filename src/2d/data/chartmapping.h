@@ -7,6 +7,10 @@
 #include <QRectF>
 #include <QVector>
 
+/// The kinds of chart as numbers, which travel with a dragged curve.
+constexpr int cartesianKind = 0;
+constexpr int polarKind = 1;
+
 /// The way from chart values to scene positions in closed form: what QChart::mapToPosition()
 /// computes with one virtual call a point, to the last bit.
 struct ChartMapping

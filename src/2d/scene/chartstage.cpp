@@ -1,5 +1,6 @@
 #include "2d/scene/chartstage.h"
 
+#include "2d/data/chartmapping.h"
 #include "2d/scene/curveseries.h"
 #include "2d/scene/directionlabels.h"
 
@@ -20,9 +21,6 @@
 using namespace QtCharts;
 
 namespace {
-
-constexpr int cartesianKind = 0;
-constexpr int polarKind = 1;
 
 constexpr int cartesianXTicks = 11;
 constexpr int cartesianYTicks = 6;

@@ -1,5 +1,6 @@
 #include "2d/scene/curvedrag.h"
 
+#include "2d/data/chartmapping.h"
 #include "2d/data/curvetext.h"
 
 #include <QChartView>
@@ -18,7 +19,6 @@ namespace {
 
 constexpr QSize pictureSize(180, 140);
 constexpr int enoughPoints = 720; // half a degree each: more than the small picture can show
-constexpr int polarKind = 1;
 
 QVector<QPointF> thinned(const QVector<QPointF> &points)
 {

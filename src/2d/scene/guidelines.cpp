@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qreal belowTheCurves = 3.0;
+constexpr qreal guideLevel = 3.0;
 constexpr int stepsRoundTheCircle = 360;
 
 QPainterPath pathOf(const QLineF &values, const ChartStage &stage)
@@ -26,7 +26,7 @@ QPainterPath pathOf(const QLineF &values, const ChartStage &stage)
 GuideLine::GuideLine(const QString &name)
 {
     setObjectName(name);
-    setZValue(belowTheCurves);
+    setZValue(guideLevel);
     setAcceptedMouseButtons(Qt::NoButton);
     setVisible(false);
 }

@@ -1,6 +1,7 @@
 #include "2d/scene/marktable.h"
 
 #include "2d/scene/mymarkitem.h"
+#include "2d/scene/tablepanel.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -9,11 +10,10 @@
 
 namespace {
 
-constexpr int heightOfRow = 20;
 constexpr int headerHeight = 24;
-constexpr int tableWidth = 210;
+constexpr int markTableWidth = 210;
 
-enum Column { NumberColumn, XColumn, YColumn, ColumnCount };
+enum MarkColumn { NumberColumn, XColumn, YColumn, ColumnCount };
 
 QTableWidgetItem *cell(const QString &text, Qt::Alignment alignment)
 {
@@ -47,8 +47,8 @@ MarkTable::MarkTable(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalHeader()->setVisible(false);
-    verticalHeader()->setMinimumSectionSize(heightOfRow);
-    verticalHeader()->setDefaultSectionSize(heightOfRow);
+    verticalHeader()->setMinimumSectionSize(floatingRowHeight);
+    verticalHeader()->setDefaultSectionSize(floatingRowHeight);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setTextElideMode(Qt::ElideRight);
@@ -104,7 +104,7 @@ void MarkTable::setMarks(const QList<int> &numbers, const QMap<int, MyMarkItem *
 
 QSize MarkTable::fittingSize() const
 {
-    return {tableWidth, headerHeight + rowCount() * heightOfRow + 2 * frameWidth()};
+    return {markTableWidth, headerHeight + rowCount() * floatingRowHeight + 2 * frameWidth()};
 }
 
 void MarkTable::changeEvent(QEvent *event)

@@ -1,14 +1,14 @@
 #include "2d/scene/myparainfotable.h"
 
 #include "2d/data/paratabletext.h"
+#include "2d/scene/tablepanel.h"
 
 #include <QEvent>
 #include <QHeaderView>
 
 namespace {
 
-constexpr int heightOfRow = 20;
-constexpr int tableWidth = 300;
+constexpr int figuresTableWidth = 300;
 constexpr int columns = 3;
 
 enum Column { NameColumn, AngleColumn, LevelColumn };
@@ -26,7 +26,7 @@ MyParaInfoTable::MyParaInfoTable(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setStyleSheet(QStringLiteral("QTableView::item {height: 20px;}"));
-    setFixedSize(tableWidth, floatingTableRows * heightOfRow);
+    setFixedSize(figuresTableWidth, floatingTableRows * floatingRowHeight);
     setFrameShape(NoFrame);
     QFont small = font();
     small.setPixelSize(10); // the longest name just fits its third of the width
@@ -48,9 +48,9 @@ void MyParaInfoTable::setUpHeaders()
         header->setHighlightSections(false);
     }
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    verticalHeader()->setMinimumSectionSize(heightOfRow);
+    verticalHeader()->setMinimumSectionSize(floatingRowHeight);
     for (int row = 0; row < floatingTableRows; ++row)
-        setRowHeight(row, heightOfRow);
+        setRowHeight(row, floatingRowHeight);
 }
 
 void MyParaInfoTable::updateParaInfo(ParaInfo paraInfo)

@@ -1,5 +1,6 @@
 #include "2d/scene/mypathitem.h"
 
+#include "2d/data/chartmapping.h"
 #include "2d/data/curvemaths.h"
 #include "2d/data/polylinedecimation.h"
 #include "2d/scene/curvedrag.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr int polarKind = 1;
 constexpr qreal curveLevel = 5.0;
 constexpr qreal selectedCurveLevel = 6.0;
 constexpr double extraWidthWhenSelected = 1.0;

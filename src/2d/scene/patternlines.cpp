@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qreal belowTheCurves = 4.0;
+constexpr qreal patternLineLevel = 4.0;
 constexpr double greatestSteps = 360.0;
 
 /// Dashes for what belongs to the main lobe, dots for the side lobes: told apart without colours.
@@ -66,7 +66,7 @@ PatternLines::PatternLines()
         auto *item = new QGraphicsPathItem;
         const bool isBeam = i == allPatternLines.size();
         item->setPen(QPen(Qt::black, 1.0, isBeam ? Qt::DashLine : styleOf(allPatternLines[i])));
-        item->setZValue(belowTheCurves);
+        item->setZValue(patternLineLevel);
         item->setAcceptedMouseButtons(Qt::NoButton);
         item->setVisible(false);
         m_lines[i] = item;

@@ -4,6 +4,8 @@
 
 class QWidget;
 
+constexpr int floatingRowHeight = 20; ///< pixels
+
 /// A small table that floats on the chart's scene above the curves and is moved with the mouse.
 class TablePanel : public QGraphicsProxyWidget
 {
