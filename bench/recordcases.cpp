@@ -39,7 +39,7 @@ void writeRecord(const QString &path)
                        .toLatin1());
 }
 
-int readBySplit(const QString &path)
+int readRecordBySplit(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -74,7 +74,7 @@ void records(const DuelSink &add)
             qFatal("the record was not read");
     });
     opening.rivalTime = Measure::medianMs([&path] {
-        if (readBySplit(path) != rowsOfFile)
+        if (readRecordBySplit(path) != rowsOfFile)
             qFatal("the record was not read");
     });
     add(opening);

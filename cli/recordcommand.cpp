@@ -1,11 +1,11 @@
 #include "cli/recordcommand.h"
 
 #include "cli/optionvalues.h"
+#include "cli/values.h"
 #include "recorder/recorder.h"
 
 namespace {
 
-constexpr qint64 millisecond = 1000000;
 constexpr qint64 shortestInterval = 10 * millisecond;
 
 class RecordCommand : public Command
@@ -42,7 +42,7 @@ private:
     const bool m_hasEnd;
 };
 
-struct Texts
+struct RecordTexts
 {
     std::string every{"1min"};
     std::string out{"."};
@@ -68,7 +68,7 @@ RowFormat rowFormat(const std::string &name)
     throw CLI::ValidationError("--format", "takes csv, jsonl or influx");
 }
 
-Limits limits(const Texts &texts)
+Limits limits(const RecordTexts &texts)
 {
     Limits limits;
     if (!texts.high.empty())
@@ -83,7 +83,7 @@ Limits limits(const Texts &texts)
     return limits;
 }
 
-RecordOptions recordOptions(const CommonOptions &common, const Texts &texts)
+RecordOptions recordOptions(const CommonOptions &common, const RecordTexts &texts)
 {
     RecordOptions options;
     options.name = common.name;
@@ -117,7 +117,7 @@ SubCommand recordSubCommand(CLI::App &app)
 {
     CLI::App *const parser =
         app.add_subcommand("record", "Measure unattended: a row for every interval");
-    auto texts = std::make_shared<Texts>();
+    auto texts = std::make_shared<RecordTexts>();
     const auto option = [parser](const char *name, std::string &text, const char *type,
                                  const char *description) {
         parser->add_option(name, text, description)->type_name(type);

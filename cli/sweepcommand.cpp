@@ -2,6 +2,7 @@
 
 #include "2d/data/curvetext.h"
 #include "cli/optionvalues.h"
+#include "cli/values.h"
 #include "sweep/sweepsession.h"
 
 #include <QFile>
@@ -11,8 +12,6 @@
 #include <utility>
 
 namespace {
-
-constexpr qint64 millisecond = 1000000; // ns
 
 /// One run: tells its progress on standard error.
 class SweepCommand : public Command
@@ -147,7 +146,7 @@ void SweepCommand::end()
 
 /// The options as they were given; what was not is taken from the run that is resumed, else it has
 /// its usual value.
-struct Texts
+struct SweepTexts
 {
     std::string rotator;
     std::string out;
@@ -183,7 +182,7 @@ void takeNumber(const char *option, const std::string &text, double &value)
         value = OptionValues::number(option, text);
 }
 
-void takePlan(const Texts &texts, bool isNew, SweepPlan &plan)
+void takePlan(const SweepTexts &texts, bool isNew, SweepPlan &plan)
 {
     const auto required = [isNew](const char *option, const std::string &text, double &value) {
         if (text.empty() && isNew)
@@ -202,7 +201,7 @@ void takePlan(const Texts &texts, bool isNew, SweepPlan &plan)
         throw CLI::ValidationError("--sense", "takes 1 or -1");
 }
 
-SweepJob jobOf(const Texts &texts)
+SweepJob jobOf(const SweepTexts &texts)
 {
     SweepJob job;
     job.curve = QString::fromStdString(texts.out);
@@ -235,7 +234,7 @@ SweepJob jobOf(const Texts &texts)
     return job;
 }
 
-SweepAddresses addressesOf(const CommonOptions &common, const Texts &texts)
+SweepAddresses addressesOf(const CommonOptions &common, const SweepTexts &texts)
 {
     SweepAddresses addresses;
     addresses.meter = common.address;
@@ -250,7 +249,7 @@ SubCommand sweepSubCommand(CLI::App &app)
 {
     CLI::App *const parser =
         app.add_subcommand("sweep", "Measure a radiation pattern with a turntable");
-    auto texts = std::make_shared<Texts>();
+    auto texts = std::make_shared<SweepTexts>();
     const auto option = [parser](const char *name, std::string &text, const char *type,
                                  const char *description) {
         return parser->add_option(name, text, description)->type_name(type);

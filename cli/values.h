@@ -4,6 +4,8 @@
 
 #include <optional>
 
+constexpr qint64 millisecond = 1000000; ///< ns
+
 /// Values as they stand on a command line. What is none gives nothing.
 namespace Values {
 

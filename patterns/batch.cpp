@@ -15,7 +15,7 @@
 
 namespace {
 
-struct Text
+struct BatchText
 {
     Q_DECLARE_TR_FUNCTIONS(Batch)
 };
@@ -54,7 +54,7 @@ bool printFigures(const QVector<ReadCurve> &curves, QIODevice &results, QTextStr
         table += FigureTable::row(curve.given, curve.name, curve.frequency, curve.points);
     const bool written = results.write(table) == table.size();
     if (!written)
-        messages << Text::tr("The results cannot be written: %1").arg(results.errorString())
+        messages << BatchText::tr("The results cannot be written: %1").arg(results.errorString())
                  << '\n';
     return written;
 }
@@ -62,7 +62,7 @@ bool printFigures(const QVector<ReadCurve> &curves, QIODevice &results, QTextStr
 bool exportCurves(const QVector<ReadCurve> &curves, const QString &folder, QTextStream &messages)
 {
     if (!QDir().mkpath(folder)) {
-        messages << Text::tr("The folder cannot be made: %1").arg(folder) << '\n';
+        messages << BatchText::tr("The folder cannot be made: %1").arg(folder) << '\n';
         return false;
     }
     FreeNames names(Qt::CaseInsensitive); // as some file systems are
@@ -86,7 +86,7 @@ const ReadCurve *curveNamed(const QVector<ReadCurve> &curves, const QString &nam
     QStringList names;
     for (const ReadCurve &curve : curves)
         names.append(curve.name);
-    messages << Text::tr("There is no curve \"%1\" among these: %2")
+    messages << BatchText::tr("There is no curve \"%1\" among these: %2")
                     .arg(name, names.join(QStringLiteral(", ")))
              << '\n';
     return nullptr;
@@ -143,7 +143,7 @@ bool write(const QString &path, const QByteArray &content, QTextStream &messages
     const FileOutcome outcome = replaceFile(path, content);
     if (outcome.kind == FileOutcome::Kind::Written)
         return true;
-    messages << Text::tr("The file could not be written, what was there is unchanged: %1: %2")
+    messages << BatchText::tr("The file could not be written, what was there is unchanged: %1: %2")
                     .arg(path, outcome.reason)
              << '\n';
     return false;

@@ -9,6 +9,9 @@ class QPainter;
 /// The charts of a form as one picture.
 namespace ChartPicture {
 
+/// Pixels of a saved picture for each one on the screen, a measure for prints.
+constexpr qreal savedScale = 2.0;
+
 /// Both charts side by side as they are shown, above one legend of all shown curves; \a scale times
 /// as many pixels as on the screen.
 QImage paint(const ListChart &form, qreal scale);

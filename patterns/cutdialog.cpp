@@ -13,7 +13,7 @@ namespace {
 
 using PatternFormats::Component;
 
-struct Text
+struct CutText
 {
     Q_DECLARE_TR_FUNCTIONS(CutDialog)
 };
@@ -53,21 +53,21 @@ std::optional<CutChoice> ask(QWidget *parent, const QString &file,
                              const PatternFormats::PatternFile &pattern)
 {
     QDialog dialog(parent);
-    dialog.setWindowTitle(Text::tr("Open %1").arg(file));
+    dialog.setWindowTitle(CutText::tr("Open %1").arg(file));
     QListWidget *list = cutList(&dialog, pattern);
     auto *component = new QComboBox(&dialog);
-    component->addItem(Text::tr("total"), int(Component::Total));
-    component->addItem(Text::tr("vertical"), int(Component::Vertical));
-    component->addItem(Text::tr("horizontal"), int(Component::Horizontal));
+    component->addItem(CutText::tr("total"), int(Component::Total));
+    component->addItem(CutText::tr("vertical"), int(Component::Vertical));
+    component->addItem(CutText::tr("horizontal"), int(Component::Horizontal));
     component->setEnabled(pattern.hasComponents());
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    QPushButton *all = buttons->addButton(Text::tr("&All"), QDialogButtonBox::ActionRole);
-    QPushButton *none = buttons->addButton(Text::tr("&None"), QDialogButtonBox::ActionRole);
+    QPushButton *all = buttons->addButton(CutText::tr("&All"), QDialogButtonBox::ActionRole);
+    QPushButton *none = buttons->addButton(CutText::tr("&None"), QDialogButtonBox::ActionRole);
 
     auto *layout = new QFormLayout(&dialog);
-    layout->addRow(new QLabel(Text::tr("The file holds %1 cuts.").arg(pattern.cuts.size())));
+    layout->addRow(new QLabel(CutText::tr("The file holds %1 cuts.").arg(pattern.cuts.size())));
     layout->addRow(list);
-    layout->addRow(Text::tr("&Field:"), component);
+    layout->addRow(CutText::tr("&Field:"), component);
     layout->addRow(buttons);
 
     for (const int row : checkedOf(*list).mid(0, 1))

@@ -15,7 +15,7 @@ namespace {
 
 using PatternFormats::Format;
 
-struct Text
+struct ExportText
 {
     Q_DECLARE_TR_FUNCTIONS(ExportDialog)
 };
@@ -23,7 +23,7 @@ struct Text
 QComboBox *curveBox(QWidget *parent, const CurveSet &curves)
 {
     auto *box = new QComboBox(parent);
-    box->addItem(Text::tr("none"), 0);
+    box->addItem(ExportText::tr("none"), 0);
     for (const int id : curves.ids())
         box->addItem(curveSwatch(curves.color(id)), curves.name(id), id);
     return box;
@@ -48,26 +48,27 @@ namespace ExportDialog {
 std::optional<PatternChoice> ask(QWidget *parent, const CurveSet &curves)
 {
     QDialog dialog(parent);
-    dialog.setWindowTitle(Text::tr("Export Pattern"));
+    dialog.setWindowTitle(ExportText::tr("Export Pattern"));
     auto *format = new QComboBox(&dialog);
-    format->addItem(Text::tr("MSI or Planet"), int(Format::Msi));
-    format->addItem(Text::tr("NSMA (WG16.99.050)"), int(Format::Nsma));
-    format->addItem(Text::tr("NEC2 listing"), int(Format::Nec));
+    format->addItem(ExportText::tr("MSI or Planet"), int(Format::Msi));
+    format->addItem(ExportText::tr("NSMA (WG16.99.050)"), int(Format::Nsma));
+    format->addItem(ExportText::tr("NEC2 listing"), int(Format::Nec));
     QComboBox *horizontal = curveBox(&dialog, curves);
     QComboBox *vertical = curveBox(&dialog, curves);
     propose(*horizontal, QStringLiteral(" H"), 1);
     propose(*vertical, QStringLiteral(" V"), 2);
 
-    auto *hint = new QLabel(Text::tr("The curves go out as they stand; MSI takes whole circles, on "
-                                     "whole degrees. Edit - Mirror Curve turns the sense of the "
-                                     "angles."),
-                            &dialog);
+    auto *hint =
+        new QLabel(ExportText::tr("The curves go out as they stand; MSI takes whole circles, on "
+                                  "whole degrees. Edit - Mirror Curve turns the sense of the "
+                                  "angles."),
+                   &dialog);
     hint->setWordWrap(true);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     auto *layout = new QFormLayout(&dialog);
-    layout->addRow(Text::tr("&Format:"), format);
-    layout->addRow(Text::tr("&Horizontal cut:"), horizontal);
-    layout->addRow(Text::tr("&Vertical cut:"), vertical);
+    layout->addRow(ExportText::tr("&Format:"), format);
+    layout->addRow(ExportText::tr("&Horizontal cut:"), horizontal);
+    layout->addRow(ExportText::tr("&Vertical cut:"), vertical);
     layout->addRow(hint);
     layout->addRow(buttons);
 

@@ -12,7 +12,7 @@ namespace {
 /// Columns of a loss table before the first frequency.
 constexpr int descriptiveColumns = 4;
 
-struct Text
+struct CorrectionText
 {
     Q_DECLARE_TR_FUNCTIONS(LossCorrection)
 };
@@ -34,10 +34,10 @@ bool isHeader(const QStringList &fields)
 QString problemOf(const QString &path)
 {
     if (QFileInfo(path).isDir())
-        return Text::tr("This is a folder.");
+        return CorrectionText::tr("This is a folder.");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return Text::tr("The file cannot be opened: %1").arg(file.errorString());
+        return CorrectionText::tr("The file cannot be opened: %1").arg(file.errorString());
     QTextStream stream(&file);
     bool header = false;
     QString line;
@@ -50,8 +50,9 @@ QString problemOf(const QString &path)
                   line.contains(QStringLiteral("downside"), Qt::CaseInsensitive)))
             return {};
     }
-    return header ? Text::tr("The table has no \"upside\" and no \"downside\" row.")
-                  : Text::tr("This is no loss table: it has no header row with \"category\".");
+    return header ? CorrectionText::tr("The table has no \"upside\" and no \"downside\" row.")
+                  : CorrectionText::tr(
+                        "This is no loss table: it has no header row with \"category\".");
 }
 
 } // namespace

@@ -9,7 +9,7 @@ using namespace PatternFormats;
 
 namespace {
 
-struct Text
+struct MaskText
 {
     Q_DECLARE_TR_FUNCTIONS(Mask)
 };
@@ -42,12 +42,14 @@ Mask readMask(const QByteArray &bytes)
         if (!corner && mask.corners.isEmpty())
             continue;
         if (!corner)
-            return {{}, Problem{lines.number(), Text::tr("Not an angle and a level.")}.sentence()};
+            return {{},
+                    Problem{lines.number(), MaskText::tr("Not an angle and a level.")}.sentence()};
         if (!mask.corners.isEmpty() && corner->x() < mask.corners.last().x())
-            return {{}, Problem{lines.number(), Text::tr("The angles do not ascend.")}.sentence()};
+            return {{},
+                    Problem{lines.number(), MaskText::tr("The angles do not ascend.")}.sentence()};
         mask.corners.append(*corner);
     }
     if (mask.corners.size() < 2)
-        return {{}, Text::tr("A mask takes two rows of an angle and a level at least.")};
+        return {{}, MaskText::tr("A mask takes two rows of an angle and a level at least.")};
     return mask;
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double levelLimit = 1000.0; // dB
 
-struct Text
+struct OperationText
 {
     Q_DECLARE_TR_FUNCTIONS(OperationDialogs)
 };
@@ -77,10 +77,10 @@ std::optional<double> askNumber(QWidget *parent, const NumberQuestion &question)
 
 std::optional<double> askOffset(QWidget *parent, double peak)
 {
-    Question dialog(parent, Text::tr("Normalise"));
+    Question dialog(parent, OperationText::tr("Normalise"));
     const QString unit = QStringLiteral(" dB");
-    auto *toPeak = new QRadioButton(Text::tr("&Peak to"), &dialog);
-    auto *byOffset = new QRadioButton(Text::tr("&Add"), &dialog);
+    auto *toPeak = new QRadioButton(OperationText::tr("&Peak to"), &dialog);
+    auto *byOffset = new QRadioButton(OperationText::tr("&Add"), &dialog);
     QDoubleSpinBox *wanted = numberBox(&dialog, 0.0, -levelLimit, levelLimit, unit);
     QDoubleSpinBox *offset = numberBox(&dialog, 0.0, -levelLimit, levelLimit, unit);
     dialog.rows().addRow(toPeak, wanted);
@@ -97,7 +97,7 @@ std::optional<double> askOffset(QWidget *parent, double peak)
 std::optional<std::pair<int, int>> askPair(QWidget *parent, const CurveSet &curves,
                                            const QList<int> &ids)
 {
-    Question dialog(parent, Text::tr("Compare"));
+    Question dialog(parent, OperationText::tr("Compare"));
     auto *first = new QComboBox(&dialog);
     auto *second = new QComboBox(&dialog);
     for (const int id : ids) {
@@ -105,8 +105,8 @@ std::optional<std::pair<int, int>> askPair(QWidget *parent, const CurveSet &curv
             box->addItem(curveSwatch(curves.color(id)), curves.name(id), id);
     }
     second->setCurrentIndex(1);
-    dialog.rows().addRow(Text::tr("&Curve:"), first);
-    dialog.rows().addRow(Text::tr("&minus:"), second);
+    dialog.rows().addRow(OperationText::tr("&Curve:"), first);
+    dialog.rows().addRow(OperationText::tr("&minus:"), second);
     const auto check = [&] {
         dialog.okButton()->setEnabled(first->currentIndex() != second->currentIndex());
     };

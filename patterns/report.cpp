@@ -8,12 +8,12 @@
 
 namespace {
 
-struct Text
+struct ReportText
 {
     Q_DECLARE_TR_FUNCTIONS(Report)
 };
 
-QString cell(const QString &content)
+QString tableCell(const QString &content)
 {
     return QStringLiteral("<td>%1</td>")
         .arg(content.isEmpty() ? QStringLiteral("&nbsp;") : content);
@@ -23,7 +23,7 @@ QString cells(const QStringList &texts)
 {
     QString html;
     for (const QString &text : texts)
-        html += cell(text.toHtmlEscaped());
+        html += tableCell(text.toHtmlEscaped());
     return html;
 }
 
@@ -59,7 +59,7 @@ QString angles(const ReportCurve &curve)
     if (curve.points == 0)
         return {};
     const QLocale c = QLocale::c();
-    return Text::tr("%1° to %2°")
+    return ReportText::tr("%1° to %2°")
         .arg(c.toString(curve.firstAngle, 'g', 6), c.toString(curve.lastAngle, 'g', 6));
 }
 
@@ -74,17 +74,19 @@ struct Column
 QString descriptions(const Report &report)
 {
     const QVector<Column> all{
-        {Text::tr("Frequency (MHz)"), [](const ReportCurve &curve) { return curve.frequency; }},
-        {Text::tr("Material"), [](const ReportCurve &curve) { return curve.material; }},
-        {Text::tr("Points"),
+        {ReportText::tr("Frequency (MHz)"),
+         [](const ReportCurve &curve) { return curve.frequency; }},
+        {ReportText::tr("Material"), [](const ReportCurve &curve) { return curve.material; }},
+        {ReportText::tr("Points"),
          [](const ReportCurve &curve) { return QString::number(curve.points); }},
-        {Text::tr("Angles"), angles},
-        {Text::tr("Loss correction"), [](const ReportCurve &curve) { return curve.correction; }},
-        {Text::tr("File"), [](const ReportCurve &curve) { return curve.file; }},
-        {Text::tr("Notes"),
+        {ReportText::tr("Angles"), angles},
+        {ReportText::tr("Loss correction"),
+         [](const ReportCurve &curve) { return curve.correction; }},
+        {ReportText::tr("File"), [](const ReportCurve &curve) { return curve.file; }},
+        {ReportText::tr("Notes"),
          [](const ReportCurve &curve) { return curve.notes.join(QLatin1Char('\n')); }}};
     QVector<Column> columns;
-    QStringList names{Text::tr("Curve")};
+    QStringList names{ReportText::tr("Curve")};
     for (const Column &column : all) {
         const bool isUsed =
             std::any_of(report.curves.begin(), report.curves.end(),
@@ -98,8 +100,8 @@ QString descriptions(const Report &report)
     for (const ReportCurve &curve : report.curves) {
         QString texts;
         for (const Column &column : qAsConst(columns)) {
-            texts += cell(column.text(curve).toHtmlEscaped().replace(QLatin1Char('\n'),
-                                                                     QStringLiteral("<br>")));
+            texts += tableCell(column.text(curve).toHtmlEscaped().replace(QLatin1Char('\n'),
+                                                                          QStringLiteral("<br>")));
         }
         rows += QStringLiteral("<tr>%1%2</tr>\n").arg(nameCell(curve), texts);
     }
@@ -109,7 +111,7 @@ QString descriptions(const Report &report)
 QString figures(const QVector<ReportCurve> &curves, const QStringList &columns,
                 QStringList ReportCurve::*values)
 {
-    QString rows = headings(QStringList(Text::tr("Curve")) + columns);
+    QString rows = headings(QStringList(ReportText::tr("Curve")) + columns);
     for (const ReportCurve &curve : curves) {
         if (!(curve.*values).isEmpty())
             rows += QStringLiteral("<tr>%1%2</tr>\n").arg(nameCell(curve), cells(curve.*values));
@@ -119,12 +121,13 @@ QString figures(const QVector<ReportCurve> &curves, const QStringList &columns,
 
 QString verdicts(const Report &report)
 {
-    QString rows = headings({Text::tr("Curve"), Text::tr("Mask"), Text::tr("Result"),
-                             Text::tr("Worst margin (dB)"), Text::tr("At (°)")});
+    QString rows =
+        headings({ReportText::tr("Curve"), ReportText::tr("Mask"), ReportText::tr("Result"),
+                  ReportText::tr("Worst margin (dB)"), ReportText::tr("At (°)")});
     for (const ReportVerdict &verdict : report.verdicts) {
         rows += QStringLiteral("<tr>%1</tr>\n")
                     .arg(cells({verdict.curve, verdict.mask,
-                                verdict.passes ? Text::tr("pass") : Text::tr("fail"),
+                                verdict.passes ? ReportText::tr("pass") : ReportText::tr("fail"),
                                 QString::number(verdict.margin, 'f', 2),
                                 QString::number(verdict.angle, 'f', 2)}));
     }
@@ -152,14 +155,14 @@ QString reportHtml(const Report &report)
                        "</p>\n")
             .arg(report.picture, QString::number(report.pictureSize.width()),
                  QString::number(report.pictureSize.height()), title);
-    html += section(Text::tr("Curves"), descriptions(report));
-    html += section(Text::tr("Pattern parameters"),
+    html += section(ReportText::tr("Curves"), descriptions(report));
+    html += section(ReportText::tr("Pattern parameters"),
                     figures(report.curves, report.figureHeadings, &ReportCurve::figures));
     html +=
-        section(Text::tr("Supplementary (textbook definitions, nulls from %1 dB)")
+        section(ReportText::tr("Supplementary (textbook definitions, nulls from %1 dB)")
                     .arg(QString::number(report.nullProminence)),
                 figures(report.curves, report.supplementaryHeadings, &ReportCurve::supplementary));
     if (!report.verdicts.isEmpty())
-        html += section(Text::tr("Mask limits"), verdicts(report));
+        html += section(ReportText::tr("Mask limits"), verdicts(report));
     return html + QStringLiteral("</body></html>\n");
 }

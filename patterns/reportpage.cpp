@@ -20,7 +20,6 @@
 namespace {
 
 /// Sharp on paper: more than 200 dots an inch across a page.
-constexpr qreal pictureScale = 2.0;
 constexpr int htmlWidth = 960; // pixels
 /// The layout of a page is made in pixels of 1/96 inch.
 constexpr qreal layoutDots = 96.0;
@@ -137,7 +136,7 @@ namespace ReportPage {
 
 QByteArray html(const ListChart &form)
 {
-    const QImage picture = ChartPicture::paint(form, pictureScale);
+    const QImage picture = ChartPicture::paint(form, ChartPicture::savedScale);
     Report page = report(form, picture.size(), htmlWidth);
     page.picture =
         QStringLiteral("data:image/png;base64,") +

@@ -22,8 +22,6 @@
 
 namespace {
 
-constexpr qreal pictureScale = 2.0;
-
 SaveFormat curveFormat()
 {
     return {SaveActions::tr("Curve files"), {QStringLiteral("csv")}};
@@ -178,7 +176,8 @@ bool SaveActions::savePicture(const QString &file)
     else if (suffix == QStringLiteral("pdf"))
         content = ReportPage::chartPdf(m_desk.form());
     else
-        content = ChartPicture::encode(ChartPicture::paint(m_desk.form(), pictureScale), file);
+        content = ChartPicture::encode(ChartPicture::paint(m_desk.form(), ChartPicture::savedScale),
+                                       file);
     if (content.isEmpty()) {
         m_desk.warn(tr("\"%1\" is no format for pictures: use png, jpg, svg or pdf.")
                         .arg(QFileInfo(file).suffix()));

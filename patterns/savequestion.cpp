@@ -10,7 +10,7 @@
 
 namespace {
 
-struct Text
+struct QuestionText
 {
     Q_DECLARE_TR_FUNCTIONS(SaveQuestion)
 };
@@ -78,8 +78,8 @@ QString askSaveFile(QWidget *parent, const QString &caption, const QString &prop
                 known += format.suffixes;
             QMessageBox::warning(
                 parent, caption,
-                Text::tr("\"%1\" is no format that can be written here. Known "
-                         "formats: %2.")
+                QuestionText::tr("\"%1\" is no format that can be written here. Known "
+                                 "formats: %2.")
                     .arg(QFileInfo(wanted).suffix(), known.join(QStringLiteral(", "))));
         } else if (!QFileInfo::exists(*file) || askReplace(parent, {*file})) {
             return *file;
@@ -93,14 +93,15 @@ bool askReplace(QWidget *parent, const QStringList &files)
     QStringList names;
     for (const QString &file : files)
         names.append(QDir::toNativeSeparators(file));
-    QMessageBox box(QMessageBox::Question, Text::tr("Replace"),
-                    Text::tr("This exists already:\n%1\nReplace it?")
+    QMessageBox box(QMessageBox::Question, QuestionText::tr("Replace"),
+                    QuestionText::tr("This exists already:\n%1\nReplace it?")
                         .arg(names.mid(0, 10).join(QLatin1Char('\n'))),
                     QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     if (names.size() > 10)
         box.setDetailedText(names.join(QLatin1Char('\n')));
-    const QPushButton *replace = box.addButton(Text::tr("&Replace"), QMessageBox::DestructiveRole);
+    const QPushButton *replace =
+        box.addButton(QuestionText::tr("&Replace"), QMessageBox::DestructiveRole);
     box.setDefaultButton(box.addButton(QMessageBox::Cancel));
     box.exec();
     return static_cast<const void *>(box.clickedButton()) == replace;

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int patience = 20000; // ms
+constexpr int startPatience = 20000; // ms
 
 /// A source that jumps about, so that one reading can be told from another, and the longest text of
 /// it.
@@ -53,8 +53,8 @@ void Instrument::occupy()
 {
     m_otherClient = std::make_unique<QTcpSocket>();
     m_otherClient->connectToHost(m_process.address(), m_process.port());
-    m_otherClient->waitForConnected(patience);
-    waitFor([this] { return !m_process.notes().isEmpty(); }, patience);
+    m_otherClient->waitForConnected(startPatience);
+    waitFor([this] { return !m_process.notes().isEmpty(); }, startPatience);
 }
 
 void Instrument::leave()
@@ -73,7 +73,7 @@ QString Instrument::port()
         return dropped < 0 ||
                notes.indexOf(QRegularExpression(QStringLiteral(".* closed$")), dropped) >= 0;
     };
-    waitFor(isOffered, patience);
+    waitFor(isOffered, startPatience);
     return m_process.serialPath();
 }
 

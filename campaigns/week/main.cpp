@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr qint64 minute = 60000; // ms
-constexpr qint64 hour = 60 * minute;
-constexpr qint64 day = 24 * hour;
 constexpr qint64 memoryBound = 2048; // KiB above the first figure
 
 #ifdef __SANITIZE_ADDRESS__

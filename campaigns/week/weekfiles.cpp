@@ -109,9 +109,9 @@ FilesFound checkLogs(const QString &folder, const QStringList &expected)
         ++found.logs;
         if (!missing.removeOne(name))
             found.faults.append(QStringLiteral("log not expected: ") + name);
-        QByteArray hour = name.toUtf8();
-        hour.replace('/', ' ');
-        if (hoursIn(path) != QSet<QByteArray>{hour})
+        QByteArray hourName = name.toUtf8();
+        hourName.replace('/', ' ');
+        if (hoursIn(path) != QSet<QByteArray>{hourName})
             found.faults.append(QStringLiteral("lines of other hours in the log ") + name);
     }
     for (const QString &name : qAsConst(missing))

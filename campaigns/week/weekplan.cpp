@@ -7,9 +7,6 @@
 
 namespace {
 
-constexpr qint64 second = 1000;
-constexpr qint64 minute = 60 * second;
-
 /// A time not before \a time that is well clear of the records of a link opened at \a openedAt,
 /// whatever its interval.
 qint64 clearOfRecords(qint64 time, qint64 openedAt, qint64 offset)

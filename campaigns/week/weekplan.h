@@ -3,6 +3,11 @@
 #include <QDateTime>
 #include <QVector>
 
+constexpr qint64 second = 1000; // ms
+constexpr qint64 minute = 60 * second;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+
 /// What happens in a long run, and what the console must have written when it is over. Nothing here
 /// knows the console: it is worked out from the times at which the operator acts and from what is
 /// promised to him. All times in ms since the start.

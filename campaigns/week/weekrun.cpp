@@ -14,10 +14,6 @@
 
 namespace {
 
-constexpr qint64 second = 1000;
-constexpr qint64 minute = 60 * second;
-constexpr qint64 hour = 60 * minute;
-constexpr qint64 day = 24 * hour;
 constexpr qint64 pointsOfAnHour = 3601; // both ends count
 constexpr qint64 shownPoints = 600;     // beside the latest, in the ten minutes that are shown
 constexpr int readingOfBox = 3000;      // ms that the operator needs

@@ -15,8 +15,6 @@ using namespace PatternFormats;
 
 namespace {
 
-constexpr double dipoleGain = 2.15; ///< dBi of 0 dBd
-
 constexpr std::array<std::string_view, 2> sections{"HORIZONTAL", "VERTICAL"};
 constexpr std::array<std::string_view, 12> headerKeys{
     "NAME", "MAKE", "FREQUENCY",       "H_WIDTH",         "V_WIDTH",      "FRONT_TO_BACK",

@@ -14,7 +14,6 @@ using namespace PatternFormats;
 
 namespace {
 
-constexpr double dipoleGain = 2.15; ///< dBi of 0 dBd
 constexpr std::size_t keyLength = 6;
 constexpr std::string_view keyEnd = ":,";
 

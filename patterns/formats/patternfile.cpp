@@ -9,7 +9,7 @@
 
 namespace {
 
-struct Text
+struct FileText
 {
     Q_DECLARE_TR_FUNCTIONS(PatternFormats)
 };
@@ -55,13 +55,13 @@ Written write(Format format, const std::optional<Cut> &horizontal,
             cuts.append(*cut);
     }
     if (cuts.isEmpty())
-        return {{}, Text::tr("There is no curve to write.")};
+        return {{}, FileText::tr("There is no curve to write.")};
     if (format == Format::Nsma)
         return {NsmaFormat::write(cuts), {}};
     if (format == Format::Nec)
         return {NecFormat::write(cuts), {}};
     if (cuts.size() < 2)
-        return {{}, Text::tr("An MSI file needs a horizontal and a vertical curve.")};
+        return {{}, FileText::tr("An MSI file needs a horizontal and a vertical curve.")};
     const QString &frequency = cuts.first().frequency;
     return MsiFormat::write({MsiFormat::commonName(cuts.first().name, cuts.last().name),
                              frequency.isEmpty() ? cuts.last().frequency : frequency,

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr double halfCircle = 180.0;
-
 constexpr std::string_view blanks = " \t\r\v\f";
 
 char lower(char c)

@@ -12,6 +12,8 @@
 /// What the readers of pattern files share: lines, fields, numbers, angles.
 namespace PatternFormats {
 
+constexpr double dipoleGain = 2.15; ///< dBi of 0 dBd
+
 /// \a bytes as UTF-8: any Unicode form by its byte-order mark, else UTF-8 if it is valid, else
 /// Latin-1.
 QByteArray decoded(const QByteArray &bytes);

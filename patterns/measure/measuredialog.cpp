@@ -19,8 +19,6 @@
 
 namespace {
 
-constexpr double megahertz = 1e6;
-
 QGroupBox *group(const QString &title, QFormLayout *&form)
 {
     auto *box = new QGroupBox(title);

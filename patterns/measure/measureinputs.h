@@ -4,6 +4,8 @@
 
 #include <QJsonObject>
 
+constexpr double megahertz = 1e6; ///< Hz
+
 /// What the user enters to measure a pattern.
 struct MeasureInputs
 {

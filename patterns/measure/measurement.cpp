@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr double megahertz = 1e6;
-
 /// The points of \a run with a flag, by their angles.
 QString anglesWith(const RunFile &run, RunFlag flag)
 {

@@ -13,7 +13,7 @@ namespace {
 constexpr int powerPath = 1;
 constexpr double longestRun = 3600.0; // seconds
 constexpr double secondsPerMinute = 60.0;
-constexpr qint64 second = 1000; // ms
+constexpr qint64 tickLength = 1000; // ms
 
 } // namespace
 
@@ -29,8 +29,8 @@ void TimeChart::feed(const Reading &reading, qint64 now)
 {
     // What is left of a second counts at the next tick; a tick that came early borrows nothing.
     const qint64 seconds =
-        m_lastTick == noTick ? 0 : std::max<qint64>(1, (now - m_lastTick) / second);
-    m_lastTick = m_lastTick == noTick ? now : std::min(now, m_lastTick + seconds * second);
+        m_lastTick == noTick ? 0 : std::max<qint64>(1, (now - m_lastTick) / tickLength);
+    m_lastTick = m_lastTick == noTick ? now : std::min(now, m_lastTick + seconds * tickLength);
     m_elapsedSeconds += double(seconds);
     if (m_elapsedSeconds > longestRun) {
         removeFurtherLines();

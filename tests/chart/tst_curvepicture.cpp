@@ -13,7 +13,6 @@ using Points = QVector<QPointF>;
 
 namespace {
 
-constexpr int polarKind = 1;
 const QRectF cartesianArea(20.3, 12.6, 330.5, 200.2);
 const QRectF polarArea(31.7, 12.6, 200.0, 200.0);
 constexpr QSize pictureSize(370, 225);

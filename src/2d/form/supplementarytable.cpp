@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int nameWidth = 104; // pixels
+constexpr int nameColumnWidth = 104; // pixels
 constexpr int leastWidth = 78;
 
 } // namespace
@@ -22,7 +22,7 @@ SupplementaryTable::SupplementaryTable(QWidget *parent)
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     horizontalHeader()->setMinimumSectionSize(leastWidth);
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
-    horizontalHeader()->resizeSection(0, nameWidth);
+    horizontalHeader()->resizeSection(0, nameColumnWidth);
     horizontalHeader()->setHighlightSections(false);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
