@@ -16,6 +16,8 @@ std::string withoutComment(const std::string &line)
         else if (letter == '#')
             return line.substr(0, i);
     }
+    if (quote != 0)
+        throw CLI::ConfigError("a quote is not closed: " + line, CLI::ExitCodes::ConfigError);
     return line;
 }
 

@@ -5,8 +5,35 @@
 #include <QLoggingCategory>
 #include <QTextCodec>
 
+#include <cstdio>
+#include <cstdlib>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+/// Keeps the numbers of standard streams that the caller closed from links and files, into which
+/// results and messages would go otherwise.
+void holdClosedStreams()
+{
+#ifdef Q_OS_UNIX
+    int file = -1;
+    do {
+        file = ::open("/dev/null", O_RDONLY | O_CLOEXEC); // writing fails all the same
+    } while (file >= 0 && file <= STDERR_FILENO);
+    if (file >= 0)
+        ::close(file);
+#endif
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    holdClosedStreams();
 #ifndef Q_OS_WIN
     // Services are often started without a language, and names of files are UTF-8 even so.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -27,5 +54,8 @@ int main(int argc, char **argv)
     onStopSignals([&line] { line.command->stop(); });
     line.command->start();
     QCoreApplication::exec();
-    return status;
+    line.command.reset();
+    std::fflush(nullptr);
+    // A usual end waits for the name server that the address of an instrument is asked of.
+    std::_Exit(status);
 }

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -48,12 +49,12 @@ private:
             return;
         }
         m_isRelative = answer.settings.isRelative.value_or(false);
+        m_begun = steadyNow();
         begin();
     }
 
     void begin()
     {
-        m_begun = steadyNow();
         m_statistics = {};
         m_taken = 0;
         meter().read();
@@ -81,8 +82,10 @@ private:
 
     void planNext()
     {
-        const qint64 wait = m_begun + m_options.every - steadyNow();
-        m_timer.start(int(std::max<qint64>(0, (wait + 999999) / 1000000)));
+        // Counted from the start before, so that the delays of timers do not add up.
+        const qint64 now = steadyNow();
+        m_begun = std::max(m_begun + m_options.every, now);
+        m_timer.start(int((m_begun - now + 999999) / 1000000));
     }
 
     void end(const MeterReading &last)
@@ -129,7 +132,7 @@ private:
 
     const ReadOptions m_options;
     QTimer m_timer;
-    qint64 m_begun = 0; // by the steady clock
+    qint64 m_begun = 0; // when the line under way is due, by the steady clock
     PowerStatistics m_statistics;
     int m_taken = 0; // readings of the line under way
     int m_lines = 0;
@@ -161,6 +164,8 @@ SubCommand readSubCommand(CLI::App &app)
                 ReadOptions options;
                 options.count = OptionValues::count("--count", texts->count);
                 options.every = OptionValues::duration("--every", texts->every);
+                if (options.every / 1000000 >= std::numeric_limits<int>::max())
+                    throw CLI::ValidationError("--every", "is too long");
                 if (!texts->mean.empty())
                     options.mean = OptionValues::count("--mean", texts->mean);
                 return std::make_unique<ReadCommand>(common, options);

@@ -193,7 +193,7 @@ void MeterWorker::settle(Outcome outcome)
     if (!m_isLinkOpen || m_flags->isStopped)
         return;
     if (outcome == Outcome::Link)
-        lose(m_error.isEmpty() ? QStringLiteral("the connection has ended") : m_error);
+        lose(QStringLiteral("the connection has ended"));
     else if (outcome == Outcome::Timeout)
         recover();
 }

@@ -79,7 +79,7 @@ private:
     bool m_isWorking = false;
 
     MeterState m_state = MeterState::Closed;
-    QString m_error; // the link's last message
+    QString m_error; // why the link could not be opened
     bool m_keepsOpen = false;
     bool m_isLinkOpen = false;
     bool m_wasOpened = false;

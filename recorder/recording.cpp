@@ -25,6 +25,12 @@ MeterSettings merged(MeterSettings before, const MeterSettings &news)
     return before;
 }
 
+/// Adds \a text, or null where it is empty.
+JsonLine &addText(JsonLine &line, const char *key, const QString &text)
+{
+    return text.isEmpty() ? line.addNull(key) : line.add(key, text);
+}
+
 } // namespace
 
 Recording::Recording(const RecordingPlan &plan, const Moment &start, TakeRow takeRow,
@@ -51,9 +57,10 @@ void Recording::take(const MeterDescription &description, const Moment &now)
         tellStart(now.wall);
         return;
     }
-    if (identity != oldIdentity)
-        m_takeEvent("identity-changed", now.wall,
-                    JsonLine().add("identity", identity).add("before", oldIdentity));
+    if (identity != oldIdentity) {
+        JsonLine details = JsonLine().add("identity", identity);
+        m_takeEvent("identity-changed", now.wall, addText(details, "before", oldIdentity));
+    }
     if (settings != oldSettings) {
         m_takeEvent("settings-changed", now.wall,
                     settingsLine(settings).add("before", settingsLine(oldSettings)));
@@ -133,10 +140,6 @@ void Recording::tellStart(qint64 wall)
     m_isStartTold = true;
     JsonLine details;
     details.add("version", QStringLiteral(MZ_VERSION));
-    if (m_identity.isEmpty())
-        details.addNull("identity");
-    else
-        details.add("identity", m_identity);
-    details.add("settings", settingsLine(m_settings));
+    addText(details, "identity", m_identity).add("settings", settingsLine(m_settings));
     m_takeEvent("start", wall, details);
 }
