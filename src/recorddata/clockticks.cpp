@@ -11,7 +11,7 @@ namespace {
 
 constexpr double minute = 60.0;
 constexpr double hour = 60.0 * minute;
-constexpr double day = 24.0 * hour;
+constexpr double oneDay = 24.0 * hour;
 
 QDateTime moment(double time)
 {
@@ -51,7 +51,8 @@ AxisTicks ofTime(double from, double to, int most)
     if (atLeast <= 0.5)
         return ticks(from, std::max(0.001, roundStep(atLeast)));
     const auto step = std::lower_bound(steps.begin(), steps.end(), atLeast);
-    return ticks(from, step != steps.end() ? *step : day * roundStep(std::max(1.0, atLeast / day)));
+    return ticks(from,
+                 step != steps.end() ? *step : oneDay * roundStep(std::max(1.0, atLeast / oneDay)));
 }
 
 AxisTicks ofLevel(double from, double to, int most)
@@ -64,7 +65,7 @@ QString label(double time, double interval)
 {
     const QDateTime at = moment(time);
     const bool isMidnight = at.time() == QTime(0, 0);
-    if (interval >= day || (interval >= minute && isMidnight))
+    if (interval >= oneDay || (interval >= minute && isMidnight))
         return QLocale::c().toString(at, QStringLiteral("MM-dd"));
     if (interval >= minute)
         return QLocale::c().toString(at, QStringLiteral("hh:mm"));
@@ -82,8 +83,9 @@ QString text(double time)
 QString duration(double seconds)
 {
     const qint64 ms = std::llround(std::abs(seconds) * 1000.0);
-    const qint64 days = ms / qint64(day * 1000.0);
-    const QTime rest = QTime::fromMSecsSinceStartOfDay(static_cast<int>(ms % qint64(day * 1000.0)));
+    const qint64 days = ms / qint64(oneDay * 1000.0);
+    const QTime rest =
+        QTime::fromMSecsSinceStartOfDay(static_cast<int>(ms % qint64(oneDay * 1000.0)));
     const QString sign = seconds < 0.0 && ms > 0 ? QStringLiteral("-") : QString();
     if (ms < qint64(minute * 1000.0))
         return QStringLiteral("%1%2 s").arg(sign).arg(double(ms) / 1000.0, 0, 'f', 3);

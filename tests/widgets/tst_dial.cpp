@@ -82,6 +82,8 @@ private:
     QImage m_image;
 };
 
+} // namespace
+
 /// A form's gauge that marks the permitted range.
 class RangeDial : public Dial
 {
@@ -98,8 +100,6 @@ protected:
         drawRangeTicks(painter);
     }
 };
-
-} // namespace
 
 /// The gauge as it is seen.
 class TestDial : public QObject

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int step = 30;        // degrees
+constexpr int labelStep = 30;   // degrees
 constexpr double gap = 4.0;     // pixels between circle and label
 constexpr double margin = 60.0; // pixels round the circle that labels may take
 
@@ -41,7 +41,7 @@ void DirectionLabels::paint(QPainter *painter, const QStyleOptionGraphicsItem *,
     const QFontMetricsF metrics(m_font);
     painter->setFont(m_font);
     painter->setPen(Qt::black);
-    for (int direction = 0; direction < 360; direction += step) {
+    for (int direction = 0; direction < 360; direction += labelStep) {
         const QString text =
             angleName(m_view.labels, angleOfDirection(m_view.orientation, direction));
         const double width = metrics.horizontalAdvance(text);
