@@ -122,7 +122,7 @@ void Recording::close(const Intervals::Interval &interval)
 void Recording::watch(const Row &row)
 {
     // The limits are dBm, and say nothing of levels relative to a reference.
-    if (!row.mean || isRelative())
+    if (!row.mean || row.isRelative.value_or(false))
         return;
     for (const LimitAlarm::Change &change : m_alarm.add(row.mean)) {
         const bool isHigh = change.limit == LimitAlarm::High;

@@ -44,7 +44,6 @@ public:
 
     /// When the interval under way ends, by the steady clock.
     qint64 intervalEnd() const { return m_intervals.end(); }
-    bool isRelative() const { return m_settings.isRelative.value_or(false); }
     const MeterSettings &settings() const { return m_settings; }
     const LimitAlarm &alarm() const { return m_alarm; }
 

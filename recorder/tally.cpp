@@ -1,5 +1,7 @@
 #include "recorder/tally.h"
 
+#include <utility>
+
 namespace {
 
 QString reasonText(Outcome outcome)
@@ -24,6 +26,9 @@ QString reasonText(Outcome outcome)
 void Tally::add(const MeterReading &reading)
 {
     if (reading.reading.isValid()) {
+        // Levels in dB and in dBm have no mean between them; the latest kind counts.
+        if (std::exchange(m_isRelative, reading.isRelative) != reading.isRelative)
+            m_statistics = {};
         m_statistics.add(reading.reading.level);
         m_last = reading.reading.level;
         return;
@@ -42,6 +47,8 @@ void Tally::fill(Row &row, const QString &idle) const
     row.maximum = m_statistics.maximum();
     row.sigma = m_statistics.sigma();
     row.last = m_last;
+    if (m_isRelative)
+        row.isRelative = true;
     if (m_hasStep)
         row.reason = QStringLiteral("clock");
     else

@@ -46,10 +46,10 @@ private:
             return {qint64(time * double(second)), qint64((time + ahead) * 1000)};
         }
         /// A reading of \a level dBm; 100 stands for one that ended as \a outcome.
-        void read(double time, double level, Outcome outcome = Outcome::Ok)
+        void read(double time, double level, Outcome outcome = Outcome::Ok, bool isRelative = false)
         {
             recording.take(MeterReading{level == 100 ? Reading::missing() : Reading::of(level, {}),
-                                        outcome, at(time)});
+                                        outcome, at(time), isRelative});
         }
         void advance(double time) { recording.advance(at(time), at(time).steady); }
         void link(double time, MeterState state)
@@ -106,6 +106,18 @@ private slots:
         bench.recording.finish(bench.at(4.5), bench.at(4.5).steady, {}, true);
         QCOMPARE(bench.rows, QStringList({QStringLiteral("0-4.5 1/0 ok")}));
         QVERIFY(!bench.last.sigma);
+    }
+
+    void levelsOfTwoKindsHaveNoMean()
+    {
+        Bench bench({-10.0, {}});
+        bench.read(1, -20);
+        bench.read(2, -3, Outcome::Ok, true);
+        bench.advance(10);
+        QCOMPARE(bench.rows, QStringList({QStringLiteral("0-10 1/0 ok")}));
+        QCOMPARE(bench.last.minimum, std::optional(-3.0));
+        QCOMPARE(bench.last.isRelative, std::optional(true));
+        QCOMPARE(bench.events, QStringList());
     }
 
     void clockThatSteps()
