@@ -16,11 +16,6 @@
 
 namespace ChartProbe {
 
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 void show(GraphicsBase &view, int width, int height)
 {
     view.resize(width, height);

@@ -3,6 +3,7 @@
 #include "2d/view/chartmenu.h"
 #include "2d/view/graphicsbase.h"
 #include "modalscript.h"
+#include "testfiles.h"
 
 #include <QImage>
 #include <QMetaType>
@@ -21,8 +22,6 @@ namespace ChartProbe {
 
 using Points = QVector<QPointF>;
 using Steps = QVector<ModalScript::Step>;
-
-QString text(const char *utf8);
 
 /// Shows \a view at \a width x \a height and lets it settle: before that a chart maps nothing.
 void show(GraphicsBase &view, int width = 800, int height = 500);

@@ -40,12 +40,6 @@ ModalScript::Step choose(const QString &file, bool vanishes = false)
     };
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
 } // namespace
 
 /// Curves and pictures on their way into and out of a view.
@@ -198,9 +192,7 @@ private:
     QString file(const char *name) const { return m_folder->filePath(text(name)); }
     QString write(const char *name, const QByteArray &bytes) const
     {
-        QFile out(file(name));
-        const bool written = out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
-        return written ? out.fileName() : QString();
+        return ::write(file(name), bytes);
     }
     void selectCurve(const char *name)
     {

@@ -1,6 +1,7 @@
 #include "cli/values.h"
 
 #include "simulatorprocess.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QJsonDocument>
@@ -33,17 +34,9 @@ Ended run(const QStringList &arguments)
             QString::fromUtf8(process.readAllStandardError())};
 }
 
-QStringList words(const char *text)
-{
-    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 QStringList linesOf(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(contentOf(path)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -235,8 +228,7 @@ private slots:
     void endedByASignal()
     {
         QFETCH(QString, arguments);
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
+        SimulatorProcess simulator("");
         QProcess process;
         if (arguments.startsWith(QLatin1String("record")))
             arguments += QLatin1String(" --out -");
@@ -254,8 +246,7 @@ private slots:
 
     void pipeThatNobodyReads()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
+        SimulatorProcess simulator("");
         for (const char *command : {"read --count 100000", "record --every 20ms --out -"}) {
             QProcess shell;
             shell.start(QStringLiteral("bash"),

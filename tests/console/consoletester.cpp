@@ -22,6 +22,13 @@ ConsoleTester::ConsoleTester()
     m_window->show();
 }
 
+ConsoleTester::ConsoleTester(SimulatorProcess &simulator)
+    : ConsoleTester()
+{
+    if (!connectTo(simulator))
+        qFatal("the console has no link");
+}
+
 ConsoleTester::~ConsoleTester() = default;
 
 void ConsoleTester::restart()
@@ -115,12 +122,6 @@ void ConsoleTester::cleanFolder()
 QString ConsoleTester::path(const QString &name)
 {
     return QCoreApplication::applicationDirPath() + QLatin1Char('/') + name;
-}
-
-QByteArray ConsoleTester::contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList settingsOf(SimulatorProcess &simulator)

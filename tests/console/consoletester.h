@@ -2,6 +2,7 @@
 
 #include "mainwindow.h"
 #include "modalscript.h"
+#include "testfiles.h"
 
 #include <QStringList>
 
@@ -21,6 +22,8 @@ class ConsoleTester
 public:
     /// Removes what an earlier console left beside the test program, and makes a new one.
     ConsoleTester();
+    /// The same, connected to \a simulator; the test program ends if it cannot.
+    explicit ConsoleTester(SimulatorProcess &simulator);
     ~ConsoleTester();
 
     /// Ends the console, which writes its settings, and starts another one.
@@ -61,7 +64,6 @@ public:
     static void cleanFolder();
     /// A file beside the test program.
     static QString path(const QString &name);
-    static QByteArray contentOf(const QString &path);
 
 private:
     std::unique_ptr<MainWindow> m_window;

@@ -60,8 +60,7 @@ private slots:
     {
         SimulatorProcess simulator;
         QVERIFY2(simulator.startOnInstrumentPort(), qPrintable(simulator.errorText()));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        const ConsoleTester console(simulator);
         QCOMPARE(simulator.commands(), startUpQueries);
         QCOMPARE(console.faultsOfState(true), QStringList());
         QCOMPARE(console.find<QTimer>("readTimer")->interval(), 500);
@@ -115,10 +114,8 @@ private slots:
     {
         QFETCH(Deed, deed);
         QFETCH(QString, wire);
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("");
+        const ConsoleTester console(simulator);
         deed(console);
         QCOMPARE(settingsOf(simulator), startUpQueries + wire.split(QLatin1Char('|')));
         for (const QWidget *widget : console.window().findChildren<QWidget *>())
@@ -128,8 +125,7 @@ private slots:
 
     void serialPanelOpensAndCloses()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start({QStringLiteral("--serial")}));
+        SimulatorProcess simulator("--serial");
         if (simulator.serialPath().isEmpty())
             QSKIP("the simulator has no serial port on this system");
         const ConsoleTester console;
@@ -169,10 +165,8 @@ private slots:
     void everyWayOfClosingStopsEverything()
     {
         QFETCH(Deed, deed);
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("");
+        const ConsoleTester console(simulator);
         deed(console);
         deed(console);
         QCOMPARE(console.faultsOfState(false), QStringList());
@@ -184,60 +178,47 @@ private slots:
         console.window().timerOut();
         QVERIFY(console.chartPoints().isEmpty());
         QVERIFY(console.connectTo(simulator));
+        console.window().timerOut();
+        QVERIFY(console.chartPoints().isEmpty());                     // of the old link's reading
         QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 2)); // beyond the deferred close
         QCOMPARE(settingsOf(simulator), startUpQueries + startUpQueries);
     }
 
-    void failedOpenTellsOnce_data()
-    {
-        QTest::addColumn<bool>("lan");
-        QTest::addColumn<QString>("port");
-        QTest::addColumn<QString>("said");
-        QTest::newRow("no such serial port") << false << "/dev/no such port"
-                                             << "Failed to open %1";
-        QTest::newRow("no port chosen") << false << ""
-                                        << "Failed to open %1";
-        QTest::newRow("nobody listens") << true << "127.0.0.1"
-                                        << "Failed to connect %1";
-        QTest::newRow("no address") << true << ""
-                                    << "Failed to connect %1";
-    }
-
     void failedOpenTellsOnce()
     {
-        QFETCH(bool, lan);
-        QFETCH(QString, port);
-        QFETCH(QString, said);
         const ConsoleTester console;
-        if (lan)
-            console.trigger("actionCommunication_by_LAN");
-        QStringList seen;
-        const ModalScript script({readBox(seen)});
-        QVERIFY(!console.window().openPort(port, 1)); // refused at once
-        QCOMPARE(seen, QStringList(QStringLiteral("Note: ") + said.arg(port)));
-        QVERIFY(script.isDone());
-        QCOMPARE(console.faultsOfState(false), QStringList());
-        QCOMPARE(console.text("labelLink"),
-                 QStringLiteral("<font color = red>%1</font>")
-                     .arg(lan ? QStringLiteral("Disconnect") : QStringLiteral("Close")));
-        QCOMPARE(console.text("labelPort"), port + QStringLiteral("/1"));
+        for (const bool lan : {false, true}) {
+            const QString port = lan ? QStringLiteral("127.0.0.1") : QString();
+            if (lan)
+                console.trigger("actionCommunication_by_LAN");
+            QStringList seen;
+            const ModalScript script({readBox(seen)});
+            QVERIFY(!console.window().openPort(port, 1)); // refused at once
+            QCOMPARE(seen.join(QLatin1Char('|')), lan ? text("Note: Failed to connect 127.0.0.1")
+                                                      : text("Note: Failed to open "));
+            QVERIFY(script.isDone());
+            QCOMPARE(console.faultsOfState(false), QStringList());
+            QCOMPARE(console.text("labelLink"), text(lan ? "<font color = red>Disconnect</font>"
+                                                         : "<font color = red>Close</font>"));
+            QCOMPARE(console.text("labelPort"), port + QStringLiteral("/1"));
+        }
     }
 
     void lineCutWhileQueryingEndsTheOpen_data()
     {
-        QTest::addColumn<QString>("fault");
+        QTest::addColumn<QByteArray>("fault");
         QTest::addColumn<int>("asked");
-        QTest::newRow("at the identity") << "drop-before,only=*IDN?" << 1;
-        QTest::newRow("after the relative state") << "drop-after,only=REL?" << 4;
-        QTest::newRow("in the offset") << "drop-inside,only=OFFS?" << 5;
+        const QByteArray fault("--fault drop-");
+        QTest::newRow("at the identity") << fault + "before,only=*IDN?" << 1;
+        QTest::newRow("after the relative state") << fault + "after,only=REL?" << 4;
+        QTest::newRow("in the offset") << fault + "inside,only=OFFS?" << 5;
     }
 
     void lineCutWhileQueryingEndsTheOpen()
     {
-        QFETCH(QString, fault);
+        QFETCH(QByteArray, fault);
         QFETCH(int, asked);
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start({QStringLiteral("--fault"), fault}));
+        SimulatorProcess simulator(fault.constData());
         const ConsoleTester console;
         QStringList seen;
         const ModalScript script({readBox(seen)});
@@ -250,10 +231,8 @@ private slots:
 
     void lineCutWhileMeasuringIsToldOnce()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("");
+        const ConsoleTester console(simulator);
         QVERIFY(simulator.waitForCommand(QStringLiteral("GET?")));
         QStringList seen;
         const ModalScript script({readBox(seen)});
@@ -265,41 +244,6 @@ private slots:
         console.find<QTimer>("readTimer")->start(0);
         QTRY_VERIFY(!console.isRunning("readTimer"));
         QVERIFY(script.isDone());
-    }
-
-    void connectingElsewhereDropsTheOldLink()
-    {
-        SimulatorProcess first;
-        SimulatorProcess second;
-        QVERIFY(first.start() && second.start());
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(first));
-        console.window().updatePower(-77.0, {});
-        QVERIFY(console.connectTo(second));
-        console.window().timerOut();
-        QVERIFY(console.chartPoints().isEmpty()); // of the old link's reading
-        const int polls = first.commands().count(QStringLiteral("GET?"));
-        // Longer than the deferred close of the old link, which must not reach the new one.
-        QVERIFY(second.waitForCommand(QStringLiteral("GET?"), 3));
-        QCOMPARE(first.commands().count(QStringLiteral("GET?")), polls);
-        QCOMPARE(console.faultsOfState(true), QStringList());
-    }
-
-    void chartGetsOnePointASecond()
-    {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
-        console.find<QTimer>("clockTimer")->stop();
-        console.find<QTimer>("readTimer")->stop();
-        console.window().updatePower(-20.0, {});
-        console.click("btnResetChart");
-        for (int second = 0; second < 2; ++second)
-            console.window().timerOut();
-        QCOMPARE(console.chartPoints(), (QVector<QPointF>{{0.0, -20.0}, {1 / 60.0, -20.0}}));
-        console.click("btnResetChart");
-        QVERIFY(console.chartPoints().isEmpty());
     }
 };
 

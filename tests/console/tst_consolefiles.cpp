@@ -40,15 +40,13 @@ private slots:
 
     void recordsGoIntoTheFileOfTheDay()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
+        SimulatorProcess simulator("");
         const QTemporaryDir folder(QDir::tempPath() + QString::fromUtf8("/测量 数据 XXXXXX"));
         const ConsoleTester console;
         console.find<QLineEdit>("lineEditPath")->setText(folder.path());
         QVERIFY(console.connectTo(simulator));
         const auto lines = [&folder] {
-            return QString::fromUtf8(
-                       ConsoleTester::contentOf(folder.filePath(today() + QStringLiteral(".csv"))))
+            return QString::fromUtf8(contentOf(folder.filePath(today() + QStringLiteral(".csv"))))
                 .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         };
         // One record follows the connection by itself, the next one the button.
@@ -65,36 +63,31 @@ private slots:
                  qPrintable(row));
     }
 
-    void folderOfTheRecordsIsChosen_data()
-    {
-        QTest::addColumn<bool>("chosen");
-        QTest::newRow("chosen") << true;
-        QTest::newRow("cancelled") << false;
-    }
-
     void folderOfTheRecordsIsChosen()
     {
-        QFETCH(bool, chosen);
         const QTemporaryDir folder;
         const ConsoleTester console;
-        console.find<QLineEdit>("lineEditPath")->setText(folder.path());
+        auto *line = console.find<QLineEdit>("lineEditPath");
+        line->setText(folder.path());
         const QString usual = ConsoleTester::path(QStringLiteral("DataRecord"));
         QDir(usual).removeRecursively();
         QStringList seen;
-        QVector<ModalScript::Step> steps{[&seen, chosen](QWidget *window) {
-            seen.append(window->windowTitle());
-            qobject_cast<QDialog *>(window)->done(chosen ? QDialog::Accepted : QDialog::Rejected);
-        }};
-        if (!chosen)
-            steps.append(readBox(seen));
-        const ModalScript script(steps);
+        const auto choose = [&seen](QDialog::DialogCode answer) {
+            return [&seen, answer](QWidget *window) {
+                seen.append(window->windowTitle());
+                qobject_cast<QDialog *>(window)->done(answer);
+            };
+        };
+        const ModalScript script(
+            {choose(QDialog::Accepted), choose(QDialog::Rejected), readBox(seen)});
         QMetaObject::invokeMethod(&console.window(), "on_btnPath_clicked");
-        QVERIFY(script.isDone());
-        QCOMPARE(seen.value(0), QStringLiteral("Save Dir"));
-        QCOMPARE(seen.value(1),
-                 chosen ? QString() : QStringLiteral("Warning: No directory selected."));
-        QCOMPARE(console.find<QLineEdit>("lineEditPath")->text(), chosen ? folder.path() : usual);
-        QCOMPARE(QDir(usual).exists(), !chosen);
+        QCOMPARE(line->text(), folder.path());
+        QVERIFY(!QDir(usual).exists());
+        QMetaObject::invokeMethod(&console.window(), "on_btnPath_clicked");
+        QCOMPARE(line->text(), usual);
+        QVERIFY(QDir(usual).exists() && script.isDone());
+        QCOMPARE(seen.join(QLatin1Char('|')),
+                 text("Save Dir|Save Dir|Warning: No directory selected."));
     }
 
     void settingsSurviveARestart()
@@ -112,7 +105,7 @@ private slots:
         console.trigger("actionEN");
         console.end();
         QCOMPARE(
-            QString::fromUtf8(ConsoleTester::contentOf(settingsPath())),
+            QString::fromUtf8(contentOf(settingsPath())),
             QStringLiteral("language:en\nIP:\nPath:%1\nInterval:7\nPeriod:3\n").arg(folder.path()));
     }
 
@@ -156,30 +149,21 @@ private slots:
         QCOMPARE(address->text(), QStringLiteral("127.255.0.1"));
         dialog->close();
         console.end();
-        QVERIFY(ConsoleTester::contentOf(settingsPath())
-                    .contains("IP:" + meter.address().toUtf8() + '\n'));
+        QVERIFY(contentOf(settingsPath()).contains("IP:" + meter.address().toUtf8() + '\n'));
     }
 
     void saysAtStartWhatIsInTheWay_data()
     {
         QTest::addColumn<QString>("blocked");
-        QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("said");
-        QTest::newRow("nothing") << ""
-                                 << "en"
-                                 << "";
-        QTest::newRow("settings") << "config.ini"
-                                  << "en"
-                                  << "forgotten";
-        QTest::newRow("records, in Chinese") << "DataRecord"
-                                             << "cn"
-                                             << "记录";
-        QTest::newRow("log") << "Log"
-                             << "en"
-                             << "no messages";
-        QTest::newRow("another console") << "mz6218.lock"
-                                         << "en"
-                                         << "Another console";
+        const auto row = [](const char *blocked, const char *said) {
+            QTest::newRow(blocked) << text(blocked) << text(said);
+        };
+        row("", "");
+        row("config.ini", "forgotten");
+        row("DataRecord", "记录"); // in Chinese
+        row("Log", "no messages");
+        row("mz6218.lock", "Another console");
     }
 
     void saysAtStartWhatIsInTheWay()
@@ -200,8 +184,7 @@ private slots:
         SimulatorProcess simulator;
         QVERIFY(simulator.startOnInstrumentPort());
         const ConsoleTester console;
-        QFETCH(QString, language);
-        options.language = language;
+        options.language = text(blocked == QLatin1String("DataRecord") ? "cn" : "en");
         options.lanHost = simulator.address();
         console.window().begin(options);
         // The measurement has begun, whether somebody reads the box or not.

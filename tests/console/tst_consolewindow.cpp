@@ -101,21 +101,15 @@ private slots:
         QTest::addColumn<QString>("unit");
         QTest::addColumn<QString>("other");
         QTest::addColumn<QString>("converted");
-        QTest::newRow("GHz to kHz") << 2.5 << "GHz"
-                                    << "KHz"
-                                    << "2500000";
-        QTest::newRow("MHz to GHz") << 2450.0 << "MHz"
-                                    << "GHz"
-                                    << "2.450000";
-        QTest::newRow("highest") << 40.0 << "GHz"
-                                 << "MHz"
-                                 << "40000.000";
-        QTest::newRow("lowest") << 1.0 << "KHz"
-                                << "GHz"
-                                << "0.000001";
-        QTest::newRow("unknown unit") << 2450.0 << "MHz"
-                                      << "THz"
-                                      << "2450.000";
+        const auto row = [](const char *name, double value, const char *unit, const char *other,
+                            const char *converted) {
+            QTest::newRow(name) << value << text(unit) << text(other) << text(converted);
+        };
+        row("GHz to kHz", 2.5, "GHz", "KHz", "2500000");
+        row("MHz to GHz", 2450.0, "MHz", "GHz", "2.450000");
+        row("highest", 40.0, "GHz", "MHz", "40000.000");
+        row("lowest", 1.0, "KHz", "GHz", "0.000001");
+        row("unknown unit", 2450.0, "MHz", "THz", "2450.000");
     }
 
     void frequencyUnitConverts()

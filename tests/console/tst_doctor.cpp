@@ -2,6 +2,7 @@
 #include "doctor/diagnosis.h"
 #include "simulatorprocess.h"
 #include "storage/writecheck.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -21,15 +22,8 @@ Q_DECLARE_METATYPE(Prepare)
 
 namespace {
 
-void write(const QString &path, const QByteArray &text = {})
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), text.size());
-}
-
 /// Every name below \a folder, with size and time of the last change.
-QStringList contentOf(const QString &folder)
+QStringList treeOf(const QString &folder)
 {
     QStringList content;
     QDirIterator each(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
@@ -63,168 +57,143 @@ class TestDoctor : public QObject
     Q_OBJECT
 
 private slots:
-    void judges_data();
-    void judges();
-    void tellsPortsFromHosts_data();
-    void tellsPortsFromHosts();
-    void seesWhatIsInTheWay_data();
-    void seesWhatIsInTheWay();
-    void examines_data();
-    void examines();
+    void judges_data()
+    {
+        QTest::addColumn<Finding>("finding");
+        QTest::addColumn<Verdict>("verdict");
+        QTest::addColumn<QString>("said");
+
+        QTest::newRow("adapter that this user may not open")
+            << Diagnosis::ofPort(lockedPort(true, "dialout")) << Verdict::Wrong << "-aG dialout";
+        QTest::newRow("built-in port that nobody uses")
+            << Diagnosis::ofPort(lockedPort(false, "dialout")) << Verdict::Note << "ttyUSB0";
+        QTest::newRow("no Chinese font for an English console")
+            << Diagnosis::ofChineseFont(false, false) << Verdict::Note << "boxes";
+        QTest::newRow("silent host")
+            << Diagnosis::ofAnswer({QStringLiteral("10.0.0.2"), false, {}, {}}) << Verdict::Wrong
+            << "Another program may hold";
+        QTest::newRow("silent port") << Diagnosis::ofAnswer({QStringLiteral("COM3"), true, {}, {}})
+                                     << Verdict::Wrong << "baud rate";
+    }
+
+    void judges()
+    {
+        QFETCH(Finding, finding);
+        QFETCH(QString, said);
+        const QString line = Diagnosis::line(finding);
+        QTEST(finding.verdict, "verdict");
+        QVERIFY2(line.contains(said), qPrintable(line));
+        QCOMPARE(line.contains(QStringLiteral("WRONG")), finding.verdict == Verdict::Wrong);
+        QVERIFY2(line.contains(QStringLiteral("->")), "it says what to do");
+        QCOMPARE(Diagnosis::isSound({finding, finding}), finding.verdict != Verdict::Wrong);
+    }
+
+    void tellsPortsFromHosts()
+    {
+        const auto isPort = [](const char *address) {
+            return SerialAddress::read(text(address)).isPort({text("ttyS0"), text("cu.meter")});
+        };
+        for (const char *port : {"/dev/ttyUSB0:9600", "COM3", "cu.meter", "cu.meter:1200"})
+            QVERIFY2(isPort(port), port);
+        for (const char *host : {"192.168.1.20", "fe80::1", "compass"}) // not a port's beginning
+            QVERIFY2(!isPort(host), host);
+    }
+
+    void seesWhatIsInTheWay_data()
+    {
+        QTest::addColumn<Prepare>("prepare");
+        QTest::addColumn<bool>("blocked");
+
+        QTest::newRow("file of today") << Prepare([](const QDir &dir) {
+            QVERIFY(dir.mkpath(QStringLiteral("a/b")));
+            write(dir.filePath(QStringLiteral("a/b/file")), "kept");
+        }) << false;
+        QTest::newRow("folder in the file's place")
+            << Prepare([](const QDir &dir) { QVERIFY(dir.mkpath(QStringLiteral("a/b/file"))); })
+            << true;
+        QTest::newRow("file in a folder's place")
+            << Prepare([](const QDir &dir) { write(dir.filePath(QStringLiteral("a"))); }) << true;
+        QTest::newRow("link to a medium that was taken out") << Prepare([](const QDir &dir) {
+            QVERIFY(QFile::link(QStringLiteral("/gone"), dir.filePath(QStringLiteral("a"))));
+        }) << true;
+    }
+
+    void seesWhatIsInTheWay()
+    {
+        QFETCH(Prepare, prepare);
+        const QTemporaryDir folder;
+        prepare(QDir(folder.path()));
+        const QStringList before = treeOf(folder.path());
+        const auto obstacle = WriteCheck::obstacle(folder.filePath(QStringLiteral("a/b/file")));
+        QTEST(obstacle.has_value(), "blocked");
+        QCOMPARE(treeOf(folder.path()), before);
+    }
+
+    void examines_data()
+    {
+        QTest::addColumn<Prepare>("prepare");
+        QTest::addColumn<QString>("address"); // "LAN" and "serial": those of the simulator
+        QTest::addColumn<QString>("said");
+
+        const Prepare nothing([](const QDir &) {});
+        const QString none;
+        const QString answer = QStringLiteral("OK     %1: answers as \"MZ6218");
+        QTest::newRow("no display") << nothing << none << "note   There is no display";
+        QTest::newRow("instrument in the network") << nothing << "LAN" << answer;
+        QTest::newRow("instrument at a port") << nothing << "serial" << answer;
+        QTest::newRow("nobody at the address") << nothing << "127.255.0.1"
+                                               << "WRONG  %1: Failed to connect";
+        QTest::newRow("chosen folder blocked") << Prepare([](const QDir &dir) {
+            const QString name = QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) +
+                                 QStringLiteral(".csv");
+            QVERIFY(dir.mkpath(QStringLiteral("chosen/") + name));
+            const QString path = dir.filePath(QStringLiteral("chosen"));
+            write(dir.filePath(QStringLiteral("config.ini")),
+                  QStringLiteral("language:en\nIP:\nPath:%1\n").arg(path).toUtf8());
+        }) << none << "chosen (";
+        QTest::newRow("font that is none") << Prepare([](const QDir &dir) {
+            QVERIFY(dir.mkpath(QStringLiteral("font")));
+            write(dir.filePath(QStringLiteral("font/Mulinito-Regular.ttf")), "no font");
+        }) << none << "Mulinito-Regular.ttf is no font";
+    }
+
+    void examines()
+    {
+        QFETCH(Prepare, prepare);
+        QFETCH(QString, address);
+        QFETCH(QString, said);
+        SimulatorProcess simulator;
+        QVERIFY(simulator.startOnInstrumentPort({QStringLiteral("--serial")}));
+        if (address == QStringLiteral("LAN"))
+            address = simulator.address();
+        else if (address == QStringLiteral("serial"))
+            address = simulator.serialPath();
+
+        const QTemporaryDir folder;
+        const QString copy = folder.filePath(QStringLiteral("mz6218"));
+        QVERIFY(QFile::copy(QStringLiteral(MZ_BIN_DIR "/mz6218"), copy));
+        prepare(QDir(folder.path()));
+        const QStringList before = treeOf(folder.path());
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            environment.remove(QLatin1String(name));
+        if (!address.isEmpty()) // half of the cases have a display that went away
+            environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":4242"));
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(folder.path());
+        QStringList arguments(QStringLiteral("--doctor"));
+        if (!address.isEmpty())
+            arguments.append(address);
+        program.start(copy, arguments);
+        QVERIFY(program.waitForFinished());
+        const QString report = QString::fromUtf8(program.readAllStandardOutput());
+        QCOMPARE(program.exitCode() != 0, report.contains(QStringLiteral("WRONG ")));
+        if (said.contains(QStringLiteral("%1")))
+            said = said.arg(address);
+        QVERIFY2(report.contains(said), qPrintable(report));
+        QCOMPARE(treeOf(folder.path()), before);
+    }
 };
-
-void TestDoctor::judges_data()
-{
-    QTest::addColumn<Finding>("finding");
-    QTest::addColumn<Verdict>("verdict");
-    QTest::addColumn<QString>("said");
-
-    QTest::newRow("adapter that this user may not open")
-        << Diagnosis::ofPort(lockedPort(true, "dialout")) << Verdict::Wrong << "-aG dialout";
-    QTest::newRow("built-in port that nobody uses")
-        << Diagnosis::ofPort(lockedPort(false, "dialout")) << Verdict::Note << "ttyUSB0";
-    QTest::newRow("no Chinese font for an English console")
-        << Diagnosis::ofChineseFont(false, false) << Verdict::Note << "boxes";
-    QTest::newRow("silent host") << Diagnosis::ofAnswer({QStringLiteral("10.0.0.2"), false, {}, {}})
-                                 << Verdict::Wrong << "Another program may hold";
-    QTest::newRow("silent port") << Diagnosis::ofAnswer({QStringLiteral("COM3"), true, {}, {}})
-                                 << Verdict::Wrong << "baud rate";
-}
-
-void TestDoctor::judges()
-{
-    QFETCH(Finding, finding);
-    QFETCH(QString, said);
-    const QString line = Diagnosis::line(finding);
-    QTEST(finding.verdict, "verdict");
-    QVERIFY2(line.contains(said), qPrintable(line));
-    QCOMPARE(line.contains(QStringLiteral("WRONG")), finding.verdict == Verdict::Wrong);
-    QVERIFY2(line.contains(QStringLiteral("->")), "it says what to do");
-    QCOMPARE(Diagnosis::isSound({finding, finding}), finding.verdict != Verdict::Wrong);
-}
-
-void TestDoctor::tellsPortsFromHosts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isPort");
-    QTest::addColumn<QString>("port");
-    QTest::addColumn<int>("baud");
-
-    const int usual = 115200;
-    QTest::newRow("address") << "192.168.1.20" << false << "192.168.1.20" << usual;
-    QTest::newRow("IPv6 address") << "fe80::1" << false << "fe80:" << 1;
-    QTest::newRow("path") << "/dev/ttyUSB0:9600" << true << "/dev/ttyUSB0" << 9600;
-    QTest::newRow("host with a port's beginning") << "compass" << false << "compass" << usual;
-    QTest::newRow("name in the list") << "cu.meter" << true << "cu.meter" << usual;
-}
-
-void TestDoctor::tellsPortsFromHosts()
-{
-    QFETCH(QString, text);
-    const SerialAddress address = SerialAddress::read(text);
-    QTEST(address.port, "port");
-    QTEST(address.baudRate, "baud");
-    QTEST(address.isPort({QStringLiteral("ttyS0"), QStringLiteral("cu.meter")}), "isPort");
-}
-
-void TestDoctor::seesWhatIsInTheWay_data()
-{
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<bool>("blocked");
-
-    QTest::newRow("file of today") << Prepare([](const QDir &dir) {
-        QVERIFY(dir.mkpath(QStringLiteral("a/b")));
-        write(dir.filePath(QStringLiteral("a/b/file")), "kept");
-    }) << false;
-    QTest::newRow("folder in the file's place")
-        << Prepare([](const QDir &dir) { QVERIFY(dir.mkpath(QStringLiteral("a/b/file"))); })
-        << true;
-    QTest::newRow("file in a folder's place")
-        << Prepare([](const QDir &dir) { write(dir.filePath(QStringLiteral("a"))); }) << true;
-    QTest::newRow("link to a medium that was taken out") << Prepare([](const QDir &dir) {
-        QVERIFY(QFile::link(QStringLiteral("/gone"), dir.filePath(QStringLiteral("a"))));
-    }) << true;
-}
-
-void TestDoctor::seesWhatIsInTheWay()
-{
-    QFETCH(Prepare, prepare);
-    const QTemporaryDir folder;
-    prepare(QDir(folder.path()));
-    const QStringList before = contentOf(folder.path());
-    const auto obstacle = WriteCheck::obstacle(folder.filePath(QStringLiteral("a/b/file")));
-    QTEST(obstacle.has_value(), "blocked");
-    QCOMPARE(contentOf(folder.path()), before);
-}
-
-void TestDoctor::examines_data()
-{
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<QString>("address"); // "LAN" and "serial": those of the simulator
-    QTest::addColumn<QString>("said");
-
-    const Prepare nothing([](const QDir &) {});
-    const QString none;
-    const QString answer = QStringLiteral("OK     %1: answers as \"MZ6218");
-    QTest::newRow("no display") << nothing << none << "note   There is no display";
-    QTest::newRow("instrument in the network") << nothing << "LAN" << answer;
-    QTest::newRow("instrument at a port") << nothing << "serial" << answer;
-    QTest::newRow("nobody at the address") << nothing << "127.255.0.1"
-                                           << "WRONG  %1: Failed to connect";
-    QTest::newRow("records blocked")
-        << Prepare([](const QDir &dir) { write(dir.filePath(QStringLiteral("DataRecord"))); })
-        << none << "WRONG  Records cannot be written";
-    QTest::newRow("chosen folder blocked") << Prepare([](const QDir &dir) {
-        const QString name =
-            QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".csv");
-        QVERIFY(dir.mkpath(QStringLiteral("chosen/") + name));
-        const QString path = dir.filePath(QStringLiteral("chosen"));
-        write(dir.filePath(QStringLiteral("config.ini")),
-              QStringLiteral("language:en\nIP:\nPath:%1\n").arg(path).toUtf8());
-    }) << none << "chosen (";
-    QTest::newRow("font that is none") << Prepare([](const QDir &dir) {
-        QVERIFY(dir.mkpath(QStringLiteral("font")));
-        write(dir.filePath(QStringLiteral("font/Mulinito-Regular.ttf")), "no font");
-    }) << none << "Mulinito-Regular.ttf is no font";
-}
-
-void TestDoctor::examines()
-{
-    QFETCH(Prepare, prepare);
-    QFETCH(QString, address);
-    QFETCH(QString, said);
-    SimulatorProcess simulator;
-    QVERIFY(simulator.startOnInstrumentPort({QStringLiteral("--serial")}));
-    if (address == QStringLiteral("LAN"))
-        address = simulator.address();
-    else if (address == QStringLiteral("serial"))
-        address = simulator.serialPath();
-
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath(QStringLiteral("mz6218"));
-    QVERIFY(QFile::copy(QStringLiteral(MZ_BIN_DIR "/mz6218"), copy));
-    prepare(QDir(folder.path()));
-    const QStringList before = contentOf(folder.path());
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
-        environment.remove(QLatin1String(name));
-    if (!address.isEmpty()) // half of the cases have a display that went away
-        environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":4242"));
-    program.setProcessEnvironment(environment);
-    program.setWorkingDirectory(folder.path());
-    QStringList arguments(QStringLiteral("--doctor"));
-    if (!address.isEmpty())
-        arguments.append(address);
-    program.start(copy, arguments);
-    QVERIFY(program.waitForFinished());
-    const QString report = QString::fromUtf8(program.readAllStandardOutput());
-    QCOMPARE(program.exitCode() != 0, report.contains(QStringLiteral("WRONG ")));
-    if (said.contains(QStringLiteral("%1")))
-        said = said.arg(address);
-    QVERIFY2(report.contains(said), qPrintable(report));
-    QCOMPARE(contentOf(folder.path()), before);
-}
-
 MZ_TEST_GUILESS_MAIN(TestDoctor)
 #include "tst_doctor.moc"

@@ -18,11 +18,6 @@
 
 namespace {
 
-QStringList fault(const char *kind)
-{
-    return {QStringLiteral("--fault"), QLatin1String(kind)};
-}
-
 /// What the status bar says out of the ordinary.
 QString notice(const ConsoleTester &console)
 {
@@ -47,7 +42,7 @@ QByteArray records(const QString &folder)
     QByteArray all;
     const QDir dir(folder);
     for (const QString &name : dir.entryList(QDir::Files))
-        all += name.toUtf8() + '\n' + ConsoleTester::contentOf(dir.filePath(name));
+        all += name.toUtf8() + '\n' + contentOf(dir.filePath(name));
     return all;
 }
 
@@ -92,14 +87,13 @@ private slots:
         QTest::addColumn<QByteArray>("box");
         QTest::addColumn<QString>("typed"); // empty: it is a button to click
         QTest::addColumn<QString>("said");
-        QTest::newRow("offset") << QByteArray("doubleSpinBoxOffset") << "7"
-                                << "Offset was not";
-        QTest::newRow("count") << QByteArray("spinBoxAverageCount") << "8"
-                               << "Average count was";
-        QTest::newRow("frequency") << QByteArray("doubleSpinBoxFreq") << "2450"
-                                   << "Frequency was";
-        QTest::newRow("unit") << QByteArray("radioButtonW") << ""
-                              << "Power unit was not";
+        const auto row = [](const char *box, const char *typed, const char *said) {
+            QTest::newRow(box) << QByteArray(box) << text(typed) << text(said);
+        };
+        row("doubleSpinBoxOffset", "7", "Offset was not");
+        row("spinBoxAverageCount", "8", "Average count was");
+        row("doubleSpinBoxFreq", "2450", "Frequency was");
+        row("radioButtonW", "", "Power unit was not");
     }
 
     /// Polling rests, the reading is old at once, and the value is marked until it is put back.
@@ -108,10 +102,8 @@ private slots:
         QFETCH(QByteArray, box);
         QFETCH(QString, typed);
         QFETCH(QString, said);
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start(fault("refuse")));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("--fault refuse");
+        const ConsoleTester console(simulator);
         QTRY_VERIFY(console.text("labelReadingState").contains(QStringLiteral("Live")));
         if (typed.isEmpty()) {
             console.click(box.constData());
@@ -140,10 +132,8 @@ private slots:
 
     void differenceIsTold()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start(fault("numeric-frequency")));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("--fault numeric-frequency");
+        const ConsoleTester console(simulator);
         console.find<QComboBox>("comboBoxUnit")->setCurrentText(QStringLiteral("MHz"));
         type(console, "doubleSpinBoxFreq", QStringLiteral("2453.125"));
         console.click("btnSetFreq");
@@ -158,8 +148,7 @@ private slots:
 
     void readingSaysWhatItIsWorth()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
+        SimulatorProcess simulator("");
         const ConsoleTester console;
         auto *power = console.find<QLabel>("labelCurrentPower");
         const auto says = [&](const char *words) {
@@ -239,8 +228,7 @@ private slots:
 
     void recordBetweenSettingAndReadingWaitsForIt()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
+        SimulatorProcess simulator("");
         const QTemporaryDir folder;
         const ConsoleTester console;
         console.find<QLineEdit>("lineEditPath")->setText(folder.path());
@@ -256,8 +244,7 @@ private slots:
 
     void openingIsStopped()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start(fault("no-reply")));
+        SimulatorProcess simulator("--fault no-reply");
         const ConsoleTester console;
         console.trigger("actionCommunication_by_LAN");
         QTimer look;
@@ -289,8 +276,7 @@ private slots:
 
     void serialLineThatHangsUpWhilePollingRestsIsTold()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start(QStringList{QStringLiteral("--serial")} + fault("refuse")));
+        SimulatorProcess simulator("--serial --fault refuse");
         const ConsoleTester console;
         QVERIFY(console.window().openPort(simulator.serialPath(), 115200));
         QCOMPARE(console.find<QComboBox>("comboBoxCom")->currentText(), simulator.serialPath());
@@ -308,10 +294,8 @@ private slots:
 
     void markersGoWithTheCurve()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start());
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("");
+        const ConsoleTester console(simulator);
         console.window().updatePower(-20.0, {});
         for (int second = 0; second < 3; ++second)
             console.window().timerOut();

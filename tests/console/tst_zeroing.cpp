@@ -38,40 +38,27 @@ private slots:
     {
         QTest::addColumn<QString>("fault");
         QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("wait");
-        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("told"); // what it waits for, and the box at its end
         QTest::addColumn<QString>("command");
-
-        const QString none;
-        QTest::newRow("zeroing") << none << "btnSetZero"
-                                 << "Set zero,waiting...30 s"
-                                 << "Info: Set zero success!"
-                                 << "CAL:ZERO";
-        QTest::newRow("zeroing fails") << "cal-fail"
-                                       << "btnSetZero"
-                                       << "Set zero,waiting...30 s"
-                                       << "Warning: Set zero failed!"
-                                       << "CAL:ZERO";
-        QTest::newRow("calibration") << none << "btnCalibration"
-                                     << "Calibration,waiting...30 s"
-                                     << "Info: Calibration success!"
-                                     << "CAL";
+        const auto row = [](const char *name, const char *fault, const char *button,
+                            const char *told, const char *command) {
+            QTest::newRow(name) << text(fault) << text(button) << text(told) << text(command);
+        };
+        row("zeroing", "late:1,p=0", "btnSetZero",
+            "Set zero,waiting...30 s|Info: Set zero success!", "CAL:ZERO");
+        row("zeroing fails", "cal-fail", "btnSetZero",
+            "Set zero,waiting...30 s|Warning: Set zero failed!", "CAL:ZERO");
+        row("calibration", "late:1,p=0", "btnCalibration",
+            "Calibration,waiting...30 s|Info: Calibration success!", "CAL");
     }
 
     void zeroingAndCalibrationTellTheirResult()
     {
         QFETCH(QString, fault);
         QFETCH(QString, button);
-        QFETCH(QString, wait);
-        QFETCH(QString, box);
         QFETCH(QString, command);
-        SimulatorProcess simulator;
-        QStringList options{QStringLiteral("--calibration-time"), QStringLiteral("0.2")};
-        if (!fault.isEmpty())
-            options << QStringLiteral("--fault") << fault;
-        QVERIFY(simulator.start(options));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator(qPrintable(text("--calibration-time 0.2 --fault ") + fault));
+        const ConsoleTester console(simulator);
 
         // The second run begins where the first began.
         for (int run = 1; run <= 2; ++run) {
@@ -80,7 +67,7 @@ private slots:
                 {readWait(seen, [&console] { QVERIFY(!console.isRunning("readTimer")); }),
                  readBox(seen)});
             console.click(button.toLatin1().constData());
-            QCOMPARE(seen, (QStringList{wait, box}));
+            QTEST(seen.join(QLatin1Char('|')), "told");
             QVERIFY(script.isDone());
             QVERIFY(console.isRunning("readTimer") && !console.isRunning("loadingTimer"));
             QCOMPARE(console.faultsOfState(true), QStringList());
@@ -92,45 +79,34 @@ private slots:
 
     void zeroingThatNeverEndsTimesOut()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("--fault cal-silent");
+        const ConsoleTester console(simulator);
         const auto hurry = [&console] { console.find<QTimer>("loadingTimer")->setInterval(1); };
-        QStringList seen;
-        {
+        for (const char *button : {"btnSetZero", "btnCalibration"}) {
+            QStringList seen;
             const ModalScript script({readWait(seen, hurry), readBox(seen)});
-            console.click("btnSetZero");
+            console.click(button);
             QVERIFY(script.isDone());
+            const QString task =
+                text(QByteArray(button) == "btnSetZero" ? "Set zero" : "Calibration");
+            QCOMPARE(seen, (QStringList{task + QStringLiteral(",waiting...30 s"),
+                                        text("Note: %1 time out!").arg(task)}));
+            QCOMPARE(console.faultsOfState(false), QStringList());
+            QVERIFY(console.connectTo(simulator));
         }
-        QCOMPARE(seen, (QStringList{QStringLiteral("Set zero,waiting...30 s"),
-                                    QStringLiteral("Note: Set zero time out!")}));
-        QCOMPARE(console.faultsOfState(false), QStringList());
-        QCOMPARE(console.text("labelLink"), QStringLiteral("<font color = red>Close</font>"));
-
-        seen.clear();
-        QVERIFY(console.connectTo(simulator));
-        const ModalScript script({readWait(seen, hurry), readBox(seen)});
-        console.click("btnCalibration");
-        QCOMPARE(seen, (QStringList{QStringLiteral("Calibration,waiting...30 s"),
-                                    QStringLiteral("Note: Calibration time out!")}));
-        QVERIFY(script.isDone());
     }
 
     void recordDueMeanwhileWaitsForAReading()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start({QStringLiteral("--calibration-time"), QStringLiteral("0.3")}));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("--calibration-time 0.3");
+        const ConsoleTester console(simulator);
         QVERIFY(simulator.waitForCommand(QStringLiteral("GET?")));
         const auto rows = [] {
             const QDir folder(ConsoleTester::path(QStringLiteral("DataRecord")));
             QList<QByteArray> lines;
             const QStringList files = folder.entryList({QStringLiteral("*.csv")});
             for (const QString &file : files)
-                lines +=
-                    ConsoleTester::contentOf(folder.filePath(file)).trimmed().split('\n').mid(1);
+                lines += contentOf(folder.filePath(file)).trimmed().split('\n').mid(1);
             return lines;
         };
         QStringList seen;
@@ -159,10 +135,8 @@ private slots:
 
     void closingTheWindowEndsTheWait()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("--fault cal-silent");
+        const ConsoleTester console(simulator);
         QStringList seen;
         const ModalScript script({readWait(seen, [&console] { console.window().close(); })});
         console.click("btnSetZero");
@@ -173,10 +147,8 @@ private slots:
     /// Before the wait as within it the user hears of it once, and at once.
     void zeroingEndsWithTheLink()
     {
-        SimulatorProcess simulator;
-        QVERIFY(simulator.start({QStringLiteral("--fault"), QStringLiteral("cal-silent")}));
-        const ConsoleTester console;
-        QVERIFY(console.connectTo(simulator));
+        SimulatorProcess simulator("--fault cal-silent");
+        const ConsoleTester console(simulator);
         QStringList seen;
         const ModalScript script(
             {readWait(seen, [&simulator] { simulator.stop(); }), readBox(seen), readBox(seen)});

@@ -1,6 +1,8 @@
 #include "messagelog.h"
 #include "storage/consolesettings.h"
+#include "storage/filewriting.h"
 #include "storage/recordfile.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QDateTime>
@@ -11,20 +13,6 @@
 #include <QTemporaryDir>
 
 namespace {
-
-const QString full = QStringLiteral("/dev/full");
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-bool write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
 
 /// The one log file that was written below the current directory.
 QString onlyLog()
@@ -78,22 +66,10 @@ private slots:
         // A file of another program, and one whose last row was torn by a loss of power.
         const QString foreign = QStringLiteral("2.csv");
         for (const char *before : {"x\n", "x"}) {
-            QVERIFY(write(foreign, before));
+            write(foreign, before);
             RecordFile::append(foreign, QStringLiteral("row 1\n"));
             QCOMPARE(contentOf(foreign), QByteArray("x\nrow 1\n"));
         }
-    }
-
-    void recordFailureIsTold()
-    {
-        QTest::ignoreMessage(QtDebugMsg, "open failed");
-        RecordFile::append(QStringLiteral("no such folder/x.csv"), QStringLiteral("row\n"));
-        if (!QFile::exists(full))
-            QSKIP("this system has no device that is always full");
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("sequential")));
-        const FileOutcome outcome = RecordFile::append(full, QStringLiteral("row\n"));
-        QCOMPARE(outcome.kind, FileOutcome::Kind::WriteFailed);
-        QVERIFY2(outcome.reason.startsWith(QStringLiteral("No space")), qPrintable(outcome.reason));
     }
 
     void logLineNamesLevelMessageAndTime()
@@ -133,7 +109,7 @@ private slots:
         for (const char *path : {"Log/2026-03-01/10.txt", "Log/2026-03-02/10.txt",
                                  "Log/2026-03-02/notes.md", "Log/2026-03-03/10.txt"}) {
             const QString file = QLatin1String(path);
-            QVERIFY(QDir().mkpath(QFileInfo(file).path()) && write(file, "x"));
+            write(file, "x");
         }
         MessageLog::removeOld(QDate(2026, 3, 4), 0); // all are to be kept
         QVERIFY(QFile::exists(QStringLiteral("Log/2026-03-01/10.txt")));
@@ -146,41 +122,6 @@ private slots:
         QCOMPARE(left, (QStringList{QStringLiteral("Log/2026-03-02/notes.md"),
                                     QStringLiteral("Log/2026-03-03/10.txt")}));
         QVERIFY(!QDir(QStringLiteral("Log/2026-03-01")).exists());
-    }
-
-    void unwritableLogCostsOnlyTheMessage_data()
-    {
-        QTest::addColumn<QString>("obstacle");
-        QTest::newRow("no folder of the day can be made") << "day";
-        QTest::newRow("the file of the hour cannot be opened") << "hour";
-        QTest::newRow("the disk is full") << "full";
-    }
-
-    void unwritableLogCostsOnlyTheMessage()
-    {
-        QFETCH(QString, obstacle);
-        const QDateTime now = QDateTime::currentDateTime();
-        if (obstacle == QStringLiteral("day")) {
-            QVERIFY(QDir().mkdir(QStringLiteral("Log")) &&
-                    write(MessageLog::folder(now.date()), {}));
-        } else if (obstacle == QStringLiteral("hour")) {
-            QVERIFY(QDir().mkpath(MessageLog::file(now)));
-        } else {
-            if (!QFile::exists(full))
-                QSKIP("this system has no device that is always full");
-            QVERIFY(QDir().mkpath(MessageLog::folder(now.date())));
-            QVERIFY(QFile::link(full, MessageLog::file(now)));
-            // What Qt says of appending to a device, which the real handler never hears.
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("sequential")));
-        }
-        MessageLog::handler(QtCriticalMsg, {}, QStringLiteral("lost"));
-
-        // With the obstacle out of the way the next message is written as if nothing had been.
-        QFile::remove(MessageLog::folder(now.date()));
-        QFile::remove(MessageLog::file(now));
-        QDir().rmdir(MessageLog::file(now));
-        MessageLog::handler(QtInfoMsg, {}, QStringLiteral("found"));
-        QVERIFY(contentOf(onlyLog()).startsWith("Info: found("));
     }
 
     void anySettingsAreRead_data()
@@ -233,26 +174,15 @@ private slots:
         QCOMPARE(read->toText(), written.toText());
     }
 
-    void unwritableSettingsLeaveTheOldOnes()
+    /// What becomes of a disk that fails is tried by the campaign of the files.
+    void writesIntoDevicesAndRefusesFolders()
     {
-        // A folder that is gone, and a folder in the file's own place.
-        const ConsoleSettings chinese{QStringLiteral("cn"), {}, {}, 1, 1};
-        for (const QString &path : {QStringLiteral("gone/config.ini"), QStringLiteral(".")}) {
-            chinese.save(path);
-            QVERIFY2(!ConsoleSettings::load(path), qPrintable(path));
-        }
-        // A file that can be opened, but not read.
-        const QString unreadable = QStringLiteral("/proc/self/mem");
-        if (QFile::exists(unreadable)) {
-            QTest::ignoreMessage(QtWarningMsg,
-                                 QRegularExpression(QStringLiteral("^Settings not read")));
-            QVERIFY(!ConsoleSettings::load(unreadable));
-        }
-        // No name is left for the file that is to take the old one's place.
-        const QString path(250, QLatin1Char('c'));
-        QVERIFY(write(path, "language:en\n"));
-        chinese.save(path);
-        QCOMPARE(contentOf(path), QByteArray("language:en\n"));
+        QCOMPARE(replaceFile(m_folder->path(), "text").kind, FileOutcome::Kind::OpenFailed);
+        const QString device = QStringLiteral("/dev/full");
+        if (!QFile::exists(device))
+            QSKIP("there is no device that is always full");
+        QCOMPARE(replaceFile(device, "text").kind, FileOutcome::Kind::WriteFailed);
+        QVERIFY(!QFileInfo(device).isFile());
     }
 
 private:

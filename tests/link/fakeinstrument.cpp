@@ -1,24 +1,34 @@
 #include "fakeinstrument.h"
 
-#include <QFile>
-#include <QSocketNotifier>
-#include <QTcpSocket>
+#include "ptylink.h"
+#include "tcplink.h"
 
-#include <array>
-#include <cstdlib>
+#include <QEventLoop>
+#include <QFile>
 
 #include <fcntl.h>
 #include <sys/socket.h>
-#include <termios.h>
 #include <unistd.h>
 
-/// One end of the line, with the script of what is said on it.
+/// The instrument's end of the line, with the script of what is said on it.
 class FakeWire : public QObject
 {
 public:
     virtual void open() = 0;
-    virtual void write(const QByteArray &bytes) = 0;
-    virtual void hangUp() = 0;
+    /// Waits for the client, which may be connected before this thread has heard of it.
+    virtual bool reachClient() { return link != nullptr; }
+
+    void write(const QByteArray &bytes)
+    {
+        if (reachClient())
+            link->send(bytes);
+    }
+
+    void hangUp()
+    {
+        if (reachClient())
+            link.reset();
+    }
 
     void sendNextPiece()
     {
@@ -32,6 +42,15 @@ public:
     QList<QByteArray> lines;
 
 protected:
+    void use(sim::Link *wire)
+    {
+        link.reset(wire);
+        connect(wire, &sim::Link::received, this, &FakeWire::take);
+    }
+
+    std::unique_ptr<sim::Link> link;
+
+private:
     void take(const QByteArray &bytes)
     {
         m_received += bytes;
@@ -42,11 +61,10 @@ protected:
             m_pieces = answer.pieces;
             sendNextPiece();
             if (answer.hangsUp)
-                hangUp();
+                link->drop();
         }
     }
 
-private:
     QByteArray m_received;
     QList<QByteArray> m_pieces;
 };
@@ -58,93 +76,39 @@ class TcpWire : public FakeWire
 public:
     void open() override
     {
-        m_server = new QTcpServer(this);
-        m_server->listen(QHostAddress::LocalHost);
-        name = m_server->serverAddress().toString();
-        value = m_server->serverPort();
-        connect(m_server, &QTcpServer::newConnection, this, [this] {
-            m_client = m_server->nextPendingConnection();
-            connect(m_client, &QTcpSocket::readyRead, this, [this] { take(m_client->readAll()); });
-        });
+        m_server.listen(QHostAddress::LocalHost);
+        name = m_server.serverAddress().toString();
+        value = m_server.serverPort();
+        connect(&m_server, &QTcpServer::newConnection, this,
+                [this] { use(new sim::TcpLink(m_server.nextPendingConnection())); });
     }
 
-    void write(const QByteArray &bytes) override
-    {
-        if (!reachClient())
-            return;
-        m_client->write(bytes);
-        while (m_client->bytesToWrite() > 0 && m_client->waitForBytesWritten()) {
-        }
-    }
-
-    void hangUp() override
-    {
-        if (reachClient())
-            m_client->disconnectFromHost();
-    }
+    bool reachClient() override { return link || m_server.waitForNewConnection(5000); }
 
 private:
-    /// The client may be connected before this thread has heard of it.
-    bool reachClient() { return m_client || m_server->waitForNewConnection(5000); }
-
-    QTcpServer *m_server = nullptr;
-    QTcpSocket *m_client = nullptr;
+    QTcpServer m_server{this};
 };
 
 class SerialWire : public FakeWire
 {
 public:
-    ~SerialWire() override { closeEnds(); }
-
     void open() override
     {
-        m_master = posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-        if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
-            qFatal("no pseudo terminal to be had");
-        const QByteArray path = ptsname(m_master);
-        // The far end stays open here as well: without a user the near end would read as hung up.
-        m_slave = ::open(path.constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
-        termios settings{};
-        tcgetattr(m_slave, &settings);
-        cfmakeraw(&settings);
-        tcsetattr(m_slave, TCSANOW, &settings);
-        name = QFile::decodeName(path);
+        auto *terminal = new sim::PtyLink;
+        QString error;
+        if (!terminal->open(&error))
+            qFatal("%s", qPrintable(error));
+        name = terminal->path();
         value = 115200;
-
-        m_notifier = new QSocketNotifier(m_master, QSocketNotifier::Read, this);
-        connect(m_notifier, &QSocketNotifier::activated, this, [this] {
-            std::array<char, 4096> bytes{};
-            const ssize_t count = ::read(m_master, bytes.data(), bytes.size());
-            if (count > 0)
-                take(QByteArray(bytes.data(), int(count)));
-        });
+        // Somebody else has the port open as well, so that it is watched from the start.
+        const int file = ::open(QFile::encodeName(name).constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        QEventLoop watched;
+        connect(terminal, &sim::Link::received, &watched, &QEventLoop::quit);
+        if (::write(file, "?", 1) == 1)
+            watched.exec();
+        use(terminal);
+        connect(terminal, &sim::PtyLink::destroyed, this, [file] { ::close(file); });
     }
-
-    void write(const QByteArray &bytes) override
-    {
-        if (::write(m_master, bytes.constData(), size_t(bytes.size())) != bytes.size())
-            qFatal("the pseudo terminal took less than %d bytes", bytes.size());
-    }
-
-    void hangUp() override
-    {
-        m_notifier->setEnabled(false);
-        closeEnds();
-    }
-
-private:
-    void closeEnds()
-    {
-        for (int *end : {&m_slave, &m_master}) {
-            if (*end >= 0)
-                ::close(*end);
-            *end = -1;
-        }
-    }
-
-    QSocketNotifier *m_notifier = nullptr;
-    int m_master = -1;
-    int m_slave = -1;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "Logic/seriallogic.h"
 #include "fakeinstrument.h"
+#include "testfiles.h"
 
 #include <QIODevice>
 #include <QStringList>
@@ -26,12 +27,6 @@ void addBothRoads();
 
 /// The answer that is \a line and a newline.
 Answer says(const QByteArray &line);
-
-/// The text of a literal in UTF-8.
-inline QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 /// A link with a record of everything that it tells.
 class RecordedLink

@@ -1,32 +1,13 @@
 #include "patterns/batch.h"
 #include "patterns/figuretable.h"
 #include "patterns/maskfile.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-QStringList words(const char *utf8)
-{
-    return text(utf8).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 /// The workbench without a window.
 class TestBatch : public QObject
@@ -37,11 +18,12 @@ private slots:
     void initTestCase()
     {
         QVERIFY(QDir::setCurrent(m_folder.path()));
-        write("a.csv", "T\nA/B\nAngle,Power\n-90,-3\n0,0.1\n90,-3.5\n");
-        write("again.csv", "T\nA/B\nAngle,Power\n-1,0\n0,1\n");
-        write("round.msi", "NAME R\nFREQUENCY 900\nGAIN 3 dBi\nHORIZONTAL 4\n0 0\n90 10\n180 20\n"
-                           "270 10\nVERTICAL 4\n0 1\n90 10\n180 20\n270 10\n");
-        write("empty.csv", "");
+        write(text("a.csv"), "T\nA/B\nAngle,Power\n-90,-3\n0,0.1\n90,-3.5\n");
+        write(text("again.csv"), "T\nA/B\nAngle,Power\n-1,0\n0,1\n");
+        write(text("round.msi"),
+              "NAME R\nFREQUENCY 900\nGAIN 3 dBi\nHORIZONTAL 4\n0 0\n90 10\n180 20\n"
+              "270 10\nVERTICAL 4\n0 1\n90 10\n180 20\n270 10\n");
+        write(text("empty.csv"));
     }
 
     void commandLine_data()
@@ -83,13 +65,13 @@ private slots:
 
     void exportOfCurves()
     {
-        write("out/A_B.csv", "old");
+        write(text("out/A_B.csv"), "old");
         QCOMPARE(run("--export out a.csv again.csv round.msi"), int(Batch::Done));
         QCOMPARE(QDir(text("out")).entryList(QDir::Files).join(QLatin1Char('|')),
                  text("A_B (2).csv|A_B.csv|R H.csv|R V.csv"));
-        QCOMPARE(content(text("out/A_B (2).csv")),
+        QCOMPARE(contentOf(text("out/A_B (2).csv")),
                  QByteArray("T\nA/B (2)\nAngle,Power\n-1,0\n0,1\n"));
-        QCOMPARE(content(text("out/R H.csv")),
+        QCOMPARE(contentOf(text("out/R H.csv")),
                  QByteArray("R\nR H\nAngle,Power\n-90,-7\n0,3\n90,-7\n180,-17\n"));
     }
 
@@ -101,14 +83,14 @@ private slots:
         };
         const QStringList files{text("round.msi"), text("a.csv")};
         QCOMPARE(run(task("R V"), files), int(Batch::Done));
-        const QByteArray written = content(text("o.msi"));
+        const QByteArray written = contentOf(text("o.msi"));
         QVERIFY(written.startsWith("NAME R\nFREQUENCY 900\nGAIN 3 dBi\nHORIZONTAL 360\n0 0.000\n"));
         QVERIFY(written.contains("VERTICAL 360\n0 1.000\n"));
         QCOMPARE(run(task("A/B"), files), int(Batch::Failed));
         QVERIFY2(m_messages.contains(text("from 90° to -90°")), qPrintable(m_messages));
         QCOMPARE(run(task("nobody"), files), int(Batch::Failed));
         QVERIFY2(m_messages.contains(text("nobody")), qPrintable(m_messages));
-        QCOMPARE(content(text("o.msi")), written);
+        QCOMPARE(contentOf(text("o.msi")), written);
     }
 
     void masks_data()
@@ -150,20 +132,12 @@ private slots:
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), int(Batch::Failed));
         QVERIFY(process.readAllStandardError().startsWith("missing.csv: "));
-        const QByteArray report = content(text("r.html"));
+        const QByteArray report = contentOf(text("r.html"));
         for (const char *part : {"A/B", "R H", "R V", "data:image/png", "</html>"})
             QVERIFY2(report.contains(part), part);
     }
 
 private:
-    static void write(const char *name, const QByteArray &bytes)
-    {
-        QDir().mkpath(QFileInfo(text(name)).path());
-        QFile file(text(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("no test file");
-    }
-
     int run(const BatchTask &task, const QStringList &files)
     {
         QBuffer results;

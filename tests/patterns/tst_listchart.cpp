@@ -237,6 +237,9 @@ private slots:
         QCOMPARE(shown(cartesian()), (Ends{-180, 180, -50, 30}));
         child<QPushButton>("fitButton").click();
         QCOMPARE(child<LineEdit>("levelMax").value(), 60.0);
+        m_form->curves().setHidden(3, true); // what is not seen takes no room
+        child<QPushButton>("fitButton").click();
+        QCOMPARE(child<LineEdit>("levelMax").value(), 30.0);
     }
 
     void titleComesFromTheFiles()

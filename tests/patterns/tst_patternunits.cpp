@@ -8,6 +8,7 @@
 #include "patterns/recentfiles.h"
 #include "patterns/report.h"
 #include "patterns/workbenchsettings.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QTemporaryDir>
@@ -22,11 +23,6 @@ using Link = LossCorrection::Link;
 namespace {
 
 const QByteArray goodHead = QByteArrayLiteral("Title\nCurve\nAngle,Power\n");
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 Points cosinePattern(double peak, double floor, int from, int to)
 {
@@ -319,10 +315,7 @@ private slots:
 private:
     QString write(const char *name, const QByteArray &content) const
     {
-        QFile file(m_folder.filePath(text(name)));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("no test file");
-        return file.fileName();
+        return ::write(m_folder.filePath(text(name)), content);
     }
 
     QTemporaryDir m_folder;

@@ -31,12 +31,6 @@ QString sample(const char *name)
     return QDir(QStringLiteral(MZ_SAMPLES)).filePath(text(name));
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(class TestPatternWindow &)>)
@@ -125,6 +119,10 @@ private slots:
             QVERIFY(!pixelsOf(image, left, curves().color(1), 10).isEmpty());
             QVERIFY(!pixelsOf(image, right, curves().color(1), 10).isEmpty());
         }
+        curves().setHidden(1, true);
+        QVERIFY(m_window->saving().savePicture(file("x.png")));
+        const QImage image(file("x.png"));
+        QVERIFY(pixelsOf(image, image.rect(), curves().color(1), 10).isEmpty());
     }
 
     void reportsHoldThePicture()
@@ -158,6 +156,9 @@ private slots:
         QVERIFY(curves().record(4).extrapolated);
         QVERIFY(curves().record(4).correction.contains(text("(extrapolated)")));
         QVERIFY(curves().name(4).contains(text("down-link (extrapolated)")));
+        curves().select(3); // a second correction is added to the first
+        action("actionApplyDownlink").trigger();
+        QVERIFY(curves().record(5).correction.startsWith(text("up-link +1.00 dB; down-link")));
     }
 
     void lossNeedsAFrequency()
@@ -313,9 +314,7 @@ private:
     QString file(const char *name) const { return m_folder->filePath(text(name)); }
     QString write(const char *name, const QByteArray &bytes) const
     {
-        QFile out(file(name));
-        const bool written = out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
-        return written ? out.fileName() : QString();
+        return ::write(file(name), bytes);
     }
 
     QAction &action(const char *name) const { return *m_window->findChild<QAction *>(text(name)); }

@@ -1,6 +1,7 @@
 #include "recorddata/recordreader.h"
 #include "recordview/recordchart.h"
 #include "recordview/recordview.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QFile>
@@ -33,10 +34,101 @@ class TestRecordView : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void readsCursorsAndSavesRows();
-    void zoomsAndPans();
-    void followsAndTellsErrors();
+    void init()
+    {
+        m_path = m_folder.filePath(QStringLiteral("2026-11-21.csv"));
+        write("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n" + consoleRows(0, 100));
+        m_view = std::make_unique<RecordView>();
+        m_view->setAttribute(Qt::WA_DeleteOnClose, false);
+        m_view->show();
+        m_view->open({m_path});
+        QTRY_VERIFY(!m_view->isLoading());
+        QVERIFY(m_view->reader());
+    }
+
+    void readsCursorsAndSavesRows()
+    {
+        RecordChart *chart = m_view->chart();
+        QTest::keyClick(chart, Qt::Key_A);
+        chart->setCursorPoint(RecordChart::A, 20);
+        chart->setCursorPoint(RecordChart::B, 30); // behind the gap: minute 40
+        QCOMPARE(cell("tableCursors", 0, 0), QStringLiteral("2026-11-21 08:20:00"));
+        QCOMPARE(cell("tableCursors", 1, 1), QStringLiteral("-20.4000 dBm"));
+        QCOMPARE(cell("tableCursors", 2, 1),
+                 QStringLiteral("2026/11/21 08:40")); // as it is written
+        QCOMPARE(cell("tableSpan", 0), QStringLiteral("00:20:00"));
+        QCOMPARE(cell("tableSpan", 1), QStringLiteral("-0.2000 dB"));
+        QCOMPARE(cell("tableSpan", 3), QStringLiteral("-20.4000 dBm")); // the minimum
+        QCOMPARE(cell("tableSpan", 7), QStringLiteral("11"));
+        QCOMPARE(cell("tableSpan", 8), QStringLiteral("1"));
+        QTest::keyClick(chart, Qt::Key_Right, Qt::ControlModifier);
+        QCOMPARE(cell("tableCursors", 0, 1), QStringLiteral("2026-11-21 08:41:00"));
+
+        const QString rows = m_folder.filePath(QStringLiteral("span.csv"));
+        QVERIFY(m_view->saveRows(rows));
+        QCOMPARE(contentOf(rows), "Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n" +
+                                      consoleRows(20, 42));
+        QVERIFY(m_view->savePicture(m_folder.filePath(QStringLiteral("picture.png"))));
+        QVERIFY(!QImage(m_folder.filePath(QStringLiteral("picture.png"))).isNull());
+    }
+
+    void zoomsAndPans()
+    {
+        RecordChart *chart = m_view->chart();
+        const ViewRange all = chart->shownRange();
+        QVERIFY(all.xMin < m_view->reader()->data().begin());
+        for (int i = 0; i < 6; ++i)
+            QTest::keyClick(chart, Qt::Key_Plus);
+        const ViewRange closer = chart->shownRange();
+        QVERIFY(closer.xMax - closer.xMin < 0.3 * (all.xMax - all.xMin));
+        QVERIFY(closer.yMax < all.yMax); // the level follows what is shown
+        QTest::keyClick(chart, Qt::Key_Right);
+        const double tenth = 0.1 * (closer.xMax - closer.xMin);
+        QVERIFY(std::abs(chart->shownRange().xMin - closer.xMin - tenth) < 0.01);
+        QTest::keyClick(chart, Qt::Key_Up);
+        QVERIFY(!chart->fitsLevel());
+        QTest::keyClick(chart, Qt::Key_Home);
+        QCOMPARE(chart->shownRange().xMin, all.xMin);
+        QVERIFY(chart->fitsLevel());
+
+        const QPoint middle = chart->viewport()->rect().center();
+        QTest::mouseClick(chart->viewport(), Qt::LeftButton, {}, middle);
+        QVERIFY(chart->cursor(RecordChart::A) != RecordChart::noPoint);
+        QTest::mousePress(chart->viewport(), Qt::LeftButton, {}, middle + QPoint(100, 0));
+        QMouseEvent move(QEvent::MouseMove, middle + QPoint(200, 0), Qt::NoButton, Qt::LeftButton,
+                         {});
+        QApplication::sendEvent(chart->viewport(), &move);
+        QTest::mouseRelease(chart->viewport(), Qt::LeftButton, {}, middle + QPoint(200, 0));
+        const double width = all.xMax - all.xMin;
+        QVERIFY(chart->shownRange().xMin < all.xMin);
+        QVERIFY(chart->shownRange().xMin > all.xMin - 0.5 * width);
+    }
+
+    void followsAndTellsErrors()
+    {
+        const int before = m_view->reader()->data().size();
+        write(consoleRows(100, 110), QFile::Append);
+        QTRY_COMPARE(m_view->reader()->data().size(), before + 10);
+        const RecordChart *chart = m_view->chart();
+        QVERIFY(chart->shownRange().xMax > m_view->reader()->data().end()); // all is shown still
+
+        const QByteArray header("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n");
+        write(header + consoleRows(0, 5));
+        QTRY_COMPARE(m_view->reader()->data().size(), 5); // replaced by a shorter one
+
+        m_path = m_folder.filePath(QStringLiteral("new.csv"));
+        write(header);
+        m_view->open({m_path});
+        QTRY_VERIFY(m_view->reader()->data().isEmpty());
+        write(consoleRows(0, 5), QFile::Append);
+        QTRY_COMPARE(m_view->reader()->data().size(), 5);
+        QVERIFY(chart->shownRange().xMin < m_view->reader()->data().begin());
+
+        // its own file is not overwritten
+        QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });
+        QVERIFY(!m_view->saveRows(m_path));
+        QCOMPARE(m_view->reader()->row(4), consoleRows(4, 5).trimmed());
+    }
 
 private:
     QString cell(const char *table, int row, int column = 0) const
@@ -45,110 +137,13 @@ private:
     }
     void write(const QByteArray &text, QFile::OpenMode mode = QFile::WriteOnly)
     {
-        QFile file(m_path);
-        QVERIFY(file.open(mode) && file.write(text) == text.size());
+        ::write(m_path, text, mode);
     }
 
     QTemporaryDir m_folder;
     QString m_path;
     std::unique_ptr<RecordView> m_view;
 };
-
-void TestRecordView::init()
-{
-    m_path = m_folder.filePath(QStringLiteral("2026-11-21.csv"));
-    write("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n" + consoleRows(0, 100));
-    m_view = std::make_unique<RecordView>();
-    m_view->setAttribute(Qt::WA_DeleteOnClose, false);
-    m_view->show();
-    m_view->open({m_path});
-    QTRY_VERIFY(!m_view->isLoading());
-    QVERIFY(m_view->reader());
-}
-
-void TestRecordView::readsCursorsAndSavesRows()
-{
-    RecordChart *chart = m_view->chart();
-    QTest::keyClick(chart, Qt::Key_A);
-    chart->setCursorPoint(RecordChart::A, 20);
-    chart->setCursorPoint(RecordChart::B, 30); // behind the gap: minute 40
-    QCOMPARE(cell("tableCursors", 0, 0), QStringLiteral("2026-11-21 08:20:00"));
-    QCOMPARE(cell("tableCursors", 1, 1), QStringLiteral("-20.4000 dBm"));
-    QCOMPARE(cell("tableCursors", 2, 1), QStringLiteral("2026/11/21 08:40")); // as it is written
-    QCOMPARE(cell("tableSpan", 0), QStringLiteral("00:20:00"));
-    QCOMPARE(cell("tableSpan", 1), QStringLiteral("-0.2000 dB"));
-    QCOMPARE(cell("tableSpan", 3), QStringLiteral("-20.4000 dBm")); // the minimum
-    QCOMPARE(cell("tableSpan", 7), QStringLiteral("11"));
-    QCOMPARE(cell("tableSpan", 8), QStringLiteral("1"));
-    QTest::keyClick(chart, Qt::Key_Right, Qt::ControlModifier);
-    QCOMPARE(cell("tableCursors", 0, 1), QStringLiteral("2026-11-21 08:41:00"));
-
-    const QString rows = m_folder.filePath(QStringLiteral("span.csv"));
-    QVERIFY(m_view->saveRows(rows));
-    QFile file(rows);
-    QVERIFY(file.open(QFile::ReadOnly));
-    QCOMPARE(file.readAll(),
-             "Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n" + consoleRows(20, 42));
-    QVERIFY(m_view->savePicture(m_folder.filePath(QStringLiteral("picture.png"))));
-    QVERIFY(!QImage(m_folder.filePath(QStringLiteral("picture.png"))).isNull());
-}
-
-void TestRecordView::zoomsAndPans()
-{
-    RecordChart *chart = m_view->chart();
-    const ViewRange all = chart->shownRange();
-    QVERIFY(all.xMin < m_view->reader()->data().begin());
-    for (int i = 0; i < 6; ++i)
-        QTest::keyClick(chart, Qt::Key_Plus);
-    const ViewRange closer = chart->shownRange();
-    QVERIFY(closer.xMax - closer.xMin < 0.3 * (all.xMax - all.xMin));
-    QVERIFY(closer.yMax < all.yMax); // the level follows what is shown
-    QTest::keyClick(chart, Qt::Key_Right);
-    const double tenth = 0.1 * (closer.xMax - closer.xMin);
-    QVERIFY(std::abs(chart->shownRange().xMin - closer.xMin - tenth) < 0.01);
-    QTest::keyClick(chart, Qt::Key_Up);
-    QVERIFY(!chart->fitsLevel());
-    QTest::keyClick(chart, Qt::Key_Home);
-    QCOMPARE(chart->shownRange().xMin, all.xMin);
-    QVERIFY(chart->fitsLevel());
-
-    const QPoint middle = chart->viewport()->rect().center();
-    QTest::mouseClick(chart->viewport(), Qt::LeftButton, {}, middle);
-    QVERIFY(chart->cursor(RecordChart::A) != RecordChart::noPoint);
-    QTest::mousePress(chart->viewport(), Qt::LeftButton, {}, middle + QPoint(100, 0));
-    QMouseEvent move(QEvent::MouseMove, middle + QPoint(200, 0), Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(chart->viewport(), &move);
-    QTest::mouseRelease(chart->viewport(), Qt::LeftButton, {}, middle + QPoint(200, 0));
-    const double width = all.xMax - all.xMin;
-    QVERIFY(chart->shownRange().xMin < all.xMin);
-    QVERIFY(chart->shownRange().xMin > all.xMin - 0.5 * width);
-}
-
-void TestRecordView::followsAndTellsErrors()
-{
-    const int before = m_view->reader()->data().size();
-    write(consoleRows(100, 110), QFile::Append);
-    QTRY_COMPARE(m_view->reader()->data().size(), before + 10);
-    const RecordChart *chart = m_view->chart();
-    QVERIFY(chart->shownRange().xMax > m_view->reader()->data().end()); // all is shown still
-
-    const QByteArray header("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n");
-    write(header + consoleRows(0, 5));
-    QTRY_COMPARE(m_view->reader()->data().size(), 5); // replaced by a shorter one
-
-    m_path = m_folder.filePath(QStringLiteral("new.csv"));
-    write(header);
-    m_view->open({m_path});
-    QTRY_VERIFY(m_view->reader()->data().isEmpty());
-    write(consoleRows(0, 5), QFile::Append);
-    QTRY_COMPARE(m_view->reader()->data().size(), 5);
-    QVERIFY(chart->shownRange().xMin < m_view->reader()->data().begin());
-
-    // its own file is not overwritten
-    QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });
-    QVERIFY(!m_view->saveRows(m_path));
-    QCOMPARE(m_view->reader()->row(4), consoleRows(4, 5).trimmed());
-}
 
 MZ_TEST_MAIN(TestRecordView)
 #include "tst_recordview.moc"

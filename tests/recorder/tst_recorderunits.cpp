@@ -4,6 +4,7 @@
 #include "recorder/outbox.h"
 #include "recorder/row.h"
 
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QTemporaryDir>
@@ -41,12 +42,6 @@ Row emptyRow()
     row.start = row.time - 1000;
     row.reason = QStringLiteral("link");
     return row;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
 }
 
 } // namespace
@@ -184,8 +179,7 @@ private slots:
         const QString name = files.fileName(QDate(2026, 11, 21), QStringLiteral(".csv"));
         QCOMPARE(name, QFileInfo(path).fileName());
         if (!before.isEmpty()) {
-            QFile old(path);
-            QVERIFY(old.open(QIODevice::WriteOnly) && old.write(before) == before.size());
+            write(path, before);
         }
         QCOMPARE(files.append({name, "head,er\n", "row\n"}), std::nullopt);
         QCOMPARE(files.append({name, "head,er\n", "row\n"}), std::nullopt);

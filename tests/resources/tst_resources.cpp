@@ -1,3 +1,4 @@
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QComboBox>
@@ -18,8 +19,7 @@ namespace {
 
 QByteArray sheet()
 {
-    QFile file(QStringLiteral(":/qss/psblack.css"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return contentOf(QStringLiteral(":/qss/psblack.css"));
 }
 
 QVector<QRgb> pixelsOf(QWidget &widget)

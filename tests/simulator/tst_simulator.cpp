@@ -1,5 +1,6 @@
 #include "simulatorprocess.h"
 #include "tcplink.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QProcess>
@@ -12,11 +13,6 @@ namespace {
 constexpr int patience = 10000; // ms, for what is bound to happen
 
 const QByteArray reading("RETURN:GET -20.00dBm,-20.00dBm");
-
-QStringList words(const QByteArray &line)
-{
-    return QString::fromUtf8(line).split(QLatin1Char(' '));
-}
 
 /// The next line on \a device without its newline; "(nothing)" when the other side or patience
 /// ends.
@@ -58,10 +54,7 @@ public:
 
 QByteArray fileWith(const QTemporaryDir &folder, const QByteArray &text)
 {
-    QFile file(folder.filePath(QStringLiteral("file")));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName().toUtf8();
+    return write(folder.filePath(QStringLiteral("file")), text).toUtf8();
 }
 
 bool open(QSerialPort &port, const QString &path)

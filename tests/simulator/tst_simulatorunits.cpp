@@ -8,6 +8,7 @@
 #include "powertext.h"
 #include "replay.h"
 #include "rotator.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <cmath>
@@ -15,11 +16,6 @@
 using namespace sim;
 
 namespace {
-
-QStringList words(const QByteArray &line)
-{
-    return QString::fromUtf8(line).split(QLatin1Char(' '));
-}
 
 /// A column of texts, one row each, named like them.
 void rows(const char *column, const QByteArray &texts)
@@ -69,10 +65,7 @@ double jitter(int averageCount)
 
 QString fileWith(const QTemporaryDir &folder, const char *name, const QByteArray &text)
 {
-    QFile file(folder.filePath(QLatin1String(name)));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
+    return write(folder.filePath(QLatin1String(name)), text);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "simulatorprocess.h"
 
+#include "testfiles.h"
+
 #include <QFile>
 #include <QRandomGenerator>
 #include <QtTest>
@@ -33,6 +35,12 @@ protected:
 } // namespace
 
 SimulatorProcess::SimulatorProcess() = default;
+
+SimulatorProcess::SimulatorProcess(const char *options)
+{
+    if (!start(words(options)))
+        qFatal("no simulator: %s", qPrintable(errorText()));
+}
 
 SimulatorProcess::~SimulatorProcess()
 {

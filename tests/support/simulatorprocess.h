@@ -13,6 +13,9 @@ class SimulatorProcess
 {
 public:
     SimulatorProcess();
+    /// Starts at once, with \a options with blanks between them; the test program ends if it
+    /// cannot.
+    explicit SimulatorProcess(const char *options);
     ~SimulatorProcess();
     Q_DISABLE_COPY(SimulatorProcess)
 

@@ -1,6 +1,7 @@
 #include "2d/data/curvetext.h"
 #include "simulatorprocess.h"
 #include "sweep/runfile.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QFile>
@@ -11,16 +12,9 @@
 
 namespace {
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 QVector<QPointF> curveIn(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? CurveText::fromFile(file.readAll()).points
-                                          : QVector<QPointF>();
+    return CurveText::fromFile(contentOf(path)).points;
 }
 
 } // namespace
@@ -97,22 +91,17 @@ private slots:
             header.version = text("1.0.0");
             header.plan = {-20.0, 20.0, 20.0, 0.0, 1};
             run = RunText::header(header) + "2026-11-21T20:03:02.117+01:00,-20,-20,-20,-3,0.1,3,\n";
-            QFile file(path("out.run.csv"));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(run) == run.size());
+            write(path("out.run.csv"), run);
         }
-        SimulatorProcess chamber;
-        QVERIFY(chamber.start({text("--rotator"), text("0"), text("--noise"), text("0")}));
+        SimulatorProcess chamber("--rotator 0 --noise 0");
         QTEST(sweep(chamber, chamber.rotatorPort(), options), "status");
         QVERIFY(!QFile::exists(path("out.csv")));
-        QFile file(path("out.run.csv"));
-        QCOMPARE(file.open(QIODevice::ReadOnly), hasRun);
-        QCOMPARE(hasRun ? file.readAll() : QByteArray(), run);
+        QCOMPARE(contentOf(path("out.run.csv")), hasRun ? run : "cannot be read");
     }
 
     void tellsAbsence()
     {
-        SimulatorProcess chamber;
-        QVERIFY(chamber.start());
+        SimulatorProcess chamber("");
         QCOMPARE(sweep(chamber, 1, text("--from 0 --to 9 --step 1")), 3);
     }
 
@@ -121,8 +110,7 @@ private slots:
         const QString server = QStandardPaths::findExecutable(text("rotctld"));
         if (server.isEmpty())
             QSKIP("rotctld is not installed (libhamlib-utils)");
-        SimulatorProcess meter;
-        QVERIFY(meter.start({text("--noise"), text("0")}));
+        SimulatorProcess meter("--noise 0");
         QProcess rotator;
         const quint16 port = quint16(20000 + QCoreApplication::applicationPid() % 20000);
         rotator.start(server, {text("-m"), text("1"), text("-T"), text("127.0.0.1"), text("-t"),

@@ -37,199 +37,191 @@ class TestWatch : public QObject
     Q_OBJECT
 
 private slots:
-    void neverMixesUnitsOrReferences();
-    void logsEveryAlarmOnce_data();
-    void logsEveryAlarmOnce();
-    void remembersSettings_data();
-    void remembersSettings();
-    void writesNoSettingsOfANewConsole();
-    void keepsTheLatestLines();
-    void probesAndClosesBeforeTheOpen();
-    void waitsForASerialPort();
-};
+    void neverMixesUnitsOrReferences()
+    {
+        ReadingStatistics statistics;
+        const QDateTime now(QDate(2026, 11, 21), QTime(12, 0));
+        statistics.add(level(-20.0), false, now, 0.0);
+        statistics.add(Reading::missing(), false, now.addSecs(1), 1.0);
+        statistics.add(level(-10.0), false, now.addSecs(2), 2.0);
+        QCOMPARE(statistics.sinceRestart().power.count(), 2);
+        QCOMPARE(statistics.sinceRestart().missed, 1);
+        QCOMPARE(statistics.sinceRestart().since, now);
+        QVERIFY(std::abs(*statistics.sinceRestart().power.mean() - 10 * std::log10(0.055)) < 1e-9);
+        QCOMPARE(*statistics.between(1.5, 9.0).power.mean(), -10.0); // in the chart alone
+        QCOMPARE(statistics.between(0.5, 1.0).missed, 1);
 
-void TestWatch::neverMixesUnitsOrReferences()
-{
-    ReadingStatistics statistics;
-    const QDateTime now(QDate(2026, 11, 21), QTime(12, 0));
-    statistics.add(level(-20.0), false, now, 0.0);
-    statistics.add(Reading::missing(), false, now.addSecs(1), 1.0);
-    statistics.add(level(-10.0), false, now.addSecs(2), 2.0);
-    QCOMPARE(statistics.sinceRestart().power.count(), 2);
-    QCOMPARE(statistics.sinceRestart().missed, 1);
-    QCOMPARE(statistics.sinceRestart().since, now);
-    QVERIFY(std::abs(*statistics.sinceRestart().power.mean() - 10 * std::log10(0.055)) < 1e-9);
-    QCOMPARE(*statistics.between(1.5, 9.0).power.mean(), -10.0); // in the chart alone
-    QCOMPARE(statistics.between(0.5, 1.0).missed, 1);
-
-    statistics.add(level(0.5), true, now.addSecs(3), 3.0);
-    QVERIFY(statistics.isRelative());
-    QCOMPARE(statistics.sinceRestart().power.count(), 1);
-    QCOMPARE(statistics.between(0.0, 9.0).power.count(), 1);
-    statistics.add(level(0.7), true, now.addSecs(4), 0.1); // the chart has begun again
-    QCOMPARE(statistics.between(0.0, 9.0).power.count(), 1);
-    QCOMPARE(statistics.sinceRestart().power.count(), 2);
-}
-
-void TestWatch::logsEveryAlarmOnce_data()
-{
-    QTest::addColumn<QVector<double>>("levels"); // nan for a missing one
-    QTest::addColumn<int>("relativeBefore");     // the reading before which it is switched on
-    QTest::addColumn<QStringList>("lines");
-
-    const QString begins = QStringLiteral("Alarm begins: upper limit -10.00 dBm, %1 dBm");
-    const QString ends = QStringLiteral("Alarm ends: upper limit -10.00 dBm, %1");
-    const double nan = std::nan("");
-    QTest::newRow("equality is inside") << QVector<double>{-10.0, -11.0} << -1 << QStringList();
-    QTest::newRow("one alarm over many readings, back by the hysteresis")
-        << QVector<double>{-9.0, -8.0, nan, -10.1, -10.2, -9.5, -11.0} << -1
-        << QStringList{begins.arg(QStringLiteral("-9.00")), ends.arg(QStringLiteral("-10.20 dBm")),
-                       begins.arg(QStringLiteral("-9.50")), ends.arg(QStringLiteral("-11.00 dBm"))};
-    QTest::newRow("rests during a relative measurement")
-        << QVector<double>{-9.0, -8.0} << 1
-        << QStringList{begins.arg(QStringLiteral("-9.00")),
-                       ends.arg(QStringLiteral("the relative measurement was switched"))};
-}
-
-void TestWatch::logsEveryAlarmOnce()
-{
-    QFETCH(QVector<double>, levels);
-    QFETCH(int, relativeBefore);
-    logged.clear();
-    LimitWatch watch;
-    int notices = 0;
-    connect(&watch, &LimitWatch::alarmBegan, this, [&notices] { ++notices; });
-    Limits limits;
-    limits.high = -10.0;
-    const QtMessageHandler before = qInstallMessageHandler(keepWarning);
-    watch.setLimits(limits);
-    for (int i = 0; i < levels.size(); ++i) {
-        if (i == relativeBefore)
-            watch.setRelative(true);
-        watch.take(std::isnan(levels[i]) ? Reading::missing() : level(levels[i]));
-        if (std::isnan(levels[i]))
-            QCOMPARE(watch.state(), LimitWatch::State::Missing);
+        statistics.add(level(0.5), true, now.addSecs(3), 3.0);
+        QVERIFY(statistics.isRelative());
+        QCOMPARE(statistics.sinceRestart().power.count(), 1);
+        QCOMPARE(statistics.between(0.0, 9.0).power.count(), 1);
+        statistics.add(level(0.7), true, now.addSecs(4), 0.1); // the chart has begun again
+        QCOMPARE(statistics.between(0.0, 9.0).power.count(), 1);
+        QCOMPARE(statistics.sinceRestart().power.count(), 2);
     }
-    qInstallMessageHandler(before);
-    QTEST(logged, "lines");
-    QCOMPARE(notices, logged.filter(QStringLiteral("begins")).size());
-    if (relativeBefore >= 0)
-        QCOMPARE(watch.state(), LimitWatch::State::Resting);
-}
 
-void TestWatch::remembersSettings_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<double>("high");
-    QTest::addColumn<int>("inARow");
+    void logsEveryAlarmOnce_data()
+    {
+        QTest::addColumn<QVector<double>>("levels"); // nan for a missing one
+        QTest::addColumn<int>("relativeBefore");     // the reading before which it is switched on
+        QTest::addColumn<QStringList>("lines");
 
-    WatchSettings settings;
-    settings.limits.high = settings.high = -3.25;
-    settings.limits.inARow = 7;
-    settings.windowState = "\0\xff"
-                           "state";
-    QTest::newRow("its own") << settings.toText() << -3.25 << 7;
-    QTest::newRow("none") << QByteArray() << 0.0 << 1;
-    QTest::newRow("other things than it wrote")
-        << QByteArray("{\"limits\":{\"high\":\"x\",\"inARow\":0,\"hysteresis\":-4},\"window\":7}")
-        << 0.0 << 1;
-}
+        const QString begins = QStringLiteral("Alarm begins: upper limit -10.00 dBm, %1 dBm");
+        const QString ends = QStringLiteral("Alarm ends: upper limit -10.00 dBm, %1");
+        const double nan = std::nan("");
+        QTest::newRow("equality is inside") << QVector<double>{-10.0, -11.0} << -1 << QStringList();
+        QTest::newRow("one alarm over many readings, back by the hysteresis")
+            << QVector<double>{-9.0, -8.0, nan, -10.1, -10.2, -9.5, -11.0} << -1
+            << QStringList{
+                   begins.arg(QStringLiteral("-9.00")), ends.arg(QStringLiteral("-10.20 dBm")),
+                   begins.arg(QStringLiteral("-9.50")), ends.arg(QStringLiteral("-11.00 dBm"))};
+        QTest::newRow("rests during a relative measurement")
+            << QVector<double>{-9.0, -8.0} << 1
+            << QStringList{begins.arg(QStringLiteral("-9.00")),
+                           ends.arg(QStringLiteral("the relative measurement was switched"))};
+    }
 
-void TestWatch::remembersSettings()
-{
-    QFETCH(QByteArray, text);
-    const WatchSettings settings = WatchSettings::parse(text);
-    QTEST(settings.high, "high");
-    QTEST(settings.limits.inARow, "inARow");
-    QVERIFY(settings.limits.areUsable());
-    if (text.contains("window") && !text.contains("\"window\":7"))
-        QCOMPARE(settings.toText(), text);
-}
+    void logsEveryAlarmOnce()
+    {
+        QFETCH(QVector<double>, levels);
+        QFETCH(int, relativeBefore);
+        logged.clear();
+        LimitWatch watch;
+        int notices = 0;
+        connect(&watch, &LimitWatch::alarmBegan, this, [&notices] { ++notices; });
+        Limits limits;
+        limits.high = -10.0;
+        const QtMessageHandler before = qInstallMessageHandler(keepWarning);
+        watch.setLimits(limits);
+        for (int i = 0; i < levels.size(); ++i) {
+            if (i == relativeBefore)
+                watch.setRelative(true);
+            watch.take(std::isnan(levels[i]) ? Reading::missing() : level(levels[i]));
+            if (std::isnan(levels[i]))
+                QCOMPARE(watch.state(), LimitWatch::State::Missing);
+        }
+        qInstallMessageHandler(before);
+        QTEST(logged, "lines");
+        QCOMPARE(notices, logged.filter(QStringLiteral("begins")).size());
+        if (relativeBefore >= 0)
+            QCOMPARE(watch.state(), LimitWatch::State::Resting);
+    }
 
-void TestWatch::writesNoSettingsOfANewConsole()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("console.json"));
-    WatchSettings settings;
-    settings.save(path);
-    QVERIFY(!QFile::exists(path));
-    settings.reconnects = true;
-    settings.save(path);
-    QVERIFY(WatchSettings::load(path).reconnects);
-    WatchSettings().save(path); // switched off again
-    QVERIFY(!WatchSettings::load(path).reconnects);
-}
+    void remembersSettings_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<double>("high");
+        QTest::addColumn<int>("inARow");
 
-void TestWatch::keepsTheLatestLines()
-{
-    TrafficModel model;
-    TrafficPanel panel(&model);
-    for (int i = 0; i < TrafficModel::capacity + 5; ++i)
-        model.addSent(QStringLiteral("GET %1\n").arg(i));
-    QCOMPARE(model.rowCount(), TrafficModel::capacity);
-    QVERIFY(model.text(0).endsWith(QLatin1String("\tGET 5")));
+        WatchSettings settings;
+        settings.limits.high = settings.high = -3.25;
+        settings.limits.inARow = 7;
+        settings.windowState = "\0\xff"
+                               "state";
+        QTest::newRow("its own") << settings.toText() << -3.25 << 7;
+        QTest::newRow("none") << QByteArray() << 0.0 << 1;
+        QTest::newRow("other things than it wrote")
+            << QByteArray(
+                   "{\"limits\":{\"high\":\"x\",\"inARow\":0,\"hysteresis\":-4},\"window\":7}")
+            << 0.0 << 1;
+    }
 
-    const QAbstractItemModelTester tester(&model,
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
-    panel.findChild<QPushButton *>(QStringLiteral("btnTrafficPause"))->setChecked(true);
-    model.addReceived(QStringLiteral("RETURN:GET odd\n"), QStringLiteral("not understood"));
-    QVERIFY(!model.text(model.rowCount() - 1).contains(QLatin1String("odd")));
-    panel.findChild<QPushButton *>(QStringLiteral("btnTrafficPause"))->setChecked(false);
-    panel.findChild<QLineEdit *>()->setText(QStringLiteral("return:"));
-    const QStringList lines = panel.text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 1);
-    const QStringList cells = lines[0].split(QLatin1Char('\t'));
-    QCOMPARE(cells[3], QStringLiteral("RETURN:GET odd (not understood)"));
-    QVERIFY(!cells[2].isEmpty()); // the wait
-}
+    void remembersSettings()
+    {
+        QFETCH(QByteArray, text);
+        const WatchSettings settings = WatchSettings::parse(text);
+        QTEST(settings.high, "high");
+        QTEST(settings.limits.inARow, "inARow");
+        QVERIFY(settings.limits.areUsable());
+        if (text.contains("window") && !text.contains("\"window\":7"))
+            QCOMPARE(settings.toText(), text);
+    }
 
-/// The instrument serves one client: it must have seen the end of the probe before the open.
-void TestWatch::probesAndClosesBeforeTheOpen()
-{
-    QTcpServer instrument;
-    QVERIFY(instrument.listen(QHostAddress::LocalHost));
-    const quint16 port = instrument.serverPort();
-    Reconnector reconnector;
-    reconnector.setSecond(100);
-    int opens = 0;
-    connect(&reconnector, &Reconnector::reachable, this, [&](const QString &, int) { ++opens; });
+    void writesNoSettingsOfANewConsole()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("console.json"));
+        WatchSettings settings;
+        settings.save(path);
+        QVERIFY(!QFile::exists(path));
+        settings.reconnects = true;
+        settings.save(path);
+        QVERIFY(WatchSettings::load(path).reconnects);
+        WatchSettings().save(path); // switched off again
+        QVERIFY(!WatchSettings::load(path).reconnects);
+    }
 
-    instrument.close();
-    reconnector.begin({true, QStringLiteral("127.0.0.1"), port});
-    QTRY_VERIFY(reconnector.text().contains(QLatin1String("Next try in 2 s"))); // refused once
-    QCOMPARE(opens, 0);
-    QVERIFY(instrument.listen(QHostAddress::LocalHost, port));
-    QTRY_COMPARE(opens, 1);
-    QVERIFY(instrument.hasPendingConnections() || instrument.waitForNewConnection(1000));
-    QTcpSocket *probe = instrument.nextPendingConnection();
-    QTRY_COMPARE(probe->state(), QAbstractSocket::UnconnectedState);
-    QVERIFY(probe->readAll().isEmpty());
+    void keepsTheLatestLines()
+    {
+        TrafficModel model;
+        TrafficPanel panel(&model);
+        for (int i = 0; i < TrafficModel::capacity + 5; ++i)
+            model.addSent(QStringLiteral("GET %1\n").arg(i));
+        QCOMPARE(model.rowCount(), TrafficModel::capacity);
+        QVERIFY(model.text(0).endsWith(QLatin1String("\tGET 5")));
 
-    reconnector.goOn(); // the open failed
-    QVERIFY(reconnector.isActive());
-    QVERIFY(reconnector.text().contains(QLatin1String("Next try in 4 s")));
-    reconnector.stop();
-    QVERIFY(reconnector.text().isEmpty());
-}
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        panel.findChild<QPushButton *>(QStringLiteral("btnTrafficPause"))->setChecked(true);
+        model.addReceived(QStringLiteral("RETURN:GET odd\n"), QStringLiteral("not understood"));
+        QVERIFY(!model.text(model.rowCount() - 1).contains(QLatin1String("odd")));
+        panel.findChild<QPushButton *>(QStringLiteral("btnTrafficPause"))->setChecked(false);
+        panel.findChild<QLineEdit *>()->setText(QStringLiteral("return:"));
+        const QStringList lines = panel.text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 1);
+        const QStringList cells = lines[0].split(QLatin1Char('\t'));
+        QCOMPARE(cells[3], QStringLiteral("RETURN:GET odd (not understood)"));
+        QVERIFY(!cells[2].isEmpty()); // the wait
+    }
 
-void TestWatch::waitsForASerialPort()
-{
-    Reconnector reconnector;
-    reconnector.setSecond(20);
-    bool isThere = false;
-    int opens = 0;
-    reconnector.setPortLookup([&isThere](const QString &) { return isThere; });
-    connect(&reconnector, &Reconnector::reachable, this, [&](const QString &name, int rate) {
-        ++opens;
-        QCOMPARE(name, QStringLiteral("COM9"));
-        QCOMPARE(rate, 9600);
-    });
-    reconnector.begin({false, QStringLiteral("COM9"), 9600});
-    QTRY_VERIFY(reconnector.text().contains(QLatin1String("Waiting for COM9")));
-    QCOMPARE(opens, 0);
-    isThere = true;
-    QTRY_COMPARE(opens, 1);
-}
+    /// The instrument serves one client: it must have seen the end of the probe before the open.
+    void probesAndClosesBeforeTheOpen()
+    {
+        QTcpServer instrument;
+        QVERIFY(instrument.listen(QHostAddress::LocalHost));
+        const quint16 port = instrument.serverPort();
+        Reconnector reconnector;
+        reconnector.setSecond(100);
+        int opens = 0;
+        connect(&reconnector, &Reconnector::reachable, this,
+                [&](const QString &, int) { ++opens; });
 
+        instrument.close();
+        reconnector.begin({true, QStringLiteral("127.0.0.1"), port});
+        QTRY_VERIFY(reconnector.text().contains(QLatin1String("Next try in 2 s"))); // refused once
+        QCOMPARE(opens, 0);
+        QVERIFY(instrument.listen(QHostAddress::LocalHost, port));
+        QTRY_COMPARE(opens, 1);
+        QVERIFY(instrument.hasPendingConnections() || instrument.waitForNewConnection(1000));
+        QTcpSocket *probe = instrument.nextPendingConnection();
+        QTRY_COMPARE(probe->state(), QAbstractSocket::UnconnectedState);
+        QVERIFY(probe->readAll().isEmpty());
+
+        reconnector.goOn(); // the open failed
+        QVERIFY(reconnector.isActive());
+        QVERIFY(reconnector.text().contains(QLatin1String("Next try in 4 s")));
+        reconnector.stop();
+        QVERIFY(reconnector.text().isEmpty());
+    }
+
+    void waitsForASerialPort()
+    {
+        Reconnector reconnector;
+        reconnector.setSecond(20);
+        bool isThere = false;
+        int opens = 0;
+        reconnector.setPortLookup([&isThere](const QString &) { return isThere; });
+        connect(&reconnector, &Reconnector::reachable, this, [&](const QString &name, int rate) {
+            ++opens;
+            QCOMPARE(name, QStringLiteral("COM9"));
+            QCOMPARE(rate, 9600);
+        });
+        reconnector.begin({false, QStringLiteral("COM9"), 9600});
+        QTRY_VERIFY(reconnector.text().contains(QLatin1String("Waiting for COM9")));
+        QCOMPARE(opens, 0);
+        isThere = true;
+        QTRY_COMPARE(opens, 1);
+    }
+};
 MZ_TEST_MAIN(TestWatch)
 #include "tst_watch.moc"

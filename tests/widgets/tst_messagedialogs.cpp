@@ -1,4 +1,5 @@
 #include "modalscript.h"
+#include "testfiles.h"
 #include "testmain.h"
 #include "widgets/loadingdialog.h"
 #include "widgets/messagedialog.h"
@@ -11,11 +12,6 @@
 #include <qtestspontaneevent.h>
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// The text of a label or button, in brackets when the user does not see it.
 QString shown(const QWidget &dialog, const char *name)
