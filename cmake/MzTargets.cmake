@@ -99,10 +99,10 @@ function(mz_add_program name)
     mz_note_layer(${name} "${ARG_LIBRARIES}" "${ARG_SOURCES}")
 endfunction()
 
-# mz_add_test(NAME SOURCES ... LIBRARIES ... [LABELS ...]): a QtTest program with a folder of its own,
-# since the console keeps its settings and records beside the program that runs.
+# mz_add_test(NAME SOURCES ... LIBRARIES ... [LABELS ...] [COST n]): a QtTest program with a folder of its
+# own, since the console keeps its settings and records beside the program that runs; greater costs start first.
 function(mz_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE mz_flags ${ARG_LIBRARIES} mz_testsupport Qt5::Test)
     mz_precompile(${name})
@@ -114,6 +114,9 @@ function(mz_add_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
     endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
+    if(NOT ARG_COST)
+        set(ARG_COST 1)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST} LABELS "${ARG_LABELS}"
                          ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC")
 endfunction()
