@@ -1,7 +1,5 @@
 #include "instrument.h"
 
-#include "waiting.h"
-
 #include <QRegularExpression>
 #include <QTcpSocket>
 

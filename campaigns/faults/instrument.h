@@ -4,12 +4,21 @@
 #include "simulatorprocess.h"
 
 #include <QMap>
+#include <QtTest>
 
 #include <memory>
 
 QT_BEGIN_NAMESPACE
 class QTcpSocket;
 QT_END_NAMESPACE
+
+/// Processes events until \a condition holds, \a timeout ms at most. Whoever does not look at the
+/// answer checks afterwards what the condition was for.
+template<typename Condition>
+bool waitFor(Condition condition, int timeout)
+{
+    return QTest::qWaitFor(condition, timeout);
+}
 
 /// The instrument of a scenario, and what its trace says of it.
 class Instrument

@@ -3,7 +3,6 @@
 #include "Logic/seriallogic.h"
 #include "consoletester.h"
 #include "instrument.h"
-#include "waiting.h"
 #include "witness.h"
 
 #include <QAction>

@@ -1,7 +1,6 @@
 #include "trial.h"
 
 #include "Logic/seriallogic.h"
-#include "waiting.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>

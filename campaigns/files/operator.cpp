@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int lookEvery = 1; // ms
+constexpr int mostDialogs = 10;
 
 QString textOf(const QWidget &dialog)
 {
@@ -27,16 +27,28 @@ void readAndClose(QWidget *dialog)
     dialog->close();
 }
 
+void choose(QFileDialog &dialog, const QString &file, const std::function<void()> &chosen)
+{
+    QObject::connect(&dialog, &QDialog::accepted, &dialog, chosen);
+    dialog.setDirectory(QFileInfo(file).path());
+    dialog.selectFile(QFileInfo(file).fileName());
+    static_cast<QDialog &>(dialog).accept();
+}
+
 } // namespace
 
-Operator::Operator(QString file, std::function<void()> chosen)
-    : m_file(std::move(file))
-    , m_chosen(std::move(chosen))
-{
-    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
-    m_timer.setSingleShot(true);
-    m_timer.start(lookEvery);
-}
+Operator::Operator(const QString &file, const std::function<void()> &chosen)
+    : ModalScript(QVector<Step>(mostDialogs, [=](QWidget *dialog) {
+        const auto *box = qobject_cast<QMessageBox *>(dialog);
+        auto *yes = box ? box->button(QMessageBox::Yes) : nullptr;
+        if (auto *files = qobject_cast<QFileDialog *>(dialog))
+            choose(*files, file, chosen);
+        else if (yes)
+            yes->click();
+        else
+            readAndClose(dialog);
+    }))
+{}
 
 void Operator::closeBoxes()
 {
@@ -45,28 +57,4 @@ void Operator::closeBoxes()
         if (window->isVisible() && qobject_cast<QMessageBox *>(window) != nullptr)
             readAndClose(window);
     }
-}
-
-void Operator::look()
-{
-    m_timer.start(lookEvery); // first: the answer may open the next dialog and wait for it
-    if (QWidget *dialog = QApplication::activeModalWidget(); dialog && dialog->isVisible())
-        answer(dialog);
-}
-
-void Operator::answer(QWidget *dialog)
-{
-    if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
-        QObject::connect(files, &QDialog::accepted, &m_timer, [this] { m_chosen(); });
-        files->setDirectory(QFileInfo(m_file).path());
-        files->selectFile(QFileInfo(m_file).fileName());
-        static_cast<QDialog *>(files)->accept();
-        return;
-    }
-    auto *box = qobject_cast<QMessageBox *>(dialog);
-    QAbstractButton *yes = box ? box->button(QMessageBox::Yes) : nullptr;
-    if (yes)
-        yes->click();
-    else
-        readAndClose(dialog);
 }

@@ -1,6 +1,7 @@
 #include "stage.h"
 
-#include <QDir>
+#include "testfiles.h"
+
 #include <QDirIterator>
 #include <QTemporaryFile>
 
@@ -76,13 +77,8 @@ void Stage::clear(const Files &before) const
 {
     QDir(m_folder).removeRecursively();
     QDir().mkpath(m_folder);
-    for (auto file = before.begin(); file != before.end(); ++file) {
-        const QString path = QDir(m_folder).filePath(file.key());
-        QDir().mkpath(QFileInfo(path).path());
-        QFile content(path);
-        if (!content.open(QIODevice::WriteOnly) || content.write(*file) != file->size())
-            qFatal("%s cannot be prepared", qPrintable(path));
-    }
+    for (auto file = before.begin(); file != before.end(); ++file)
+        write(QDir(m_folder).filePath(file.key()), *file);
 }
 
 Files Stage::content() const
@@ -90,10 +86,8 @@ Files Stage::content() const
     Files files;
     QDirIterator found(m_folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (found.hasNext()) {
-        QFile file(found.next());
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("%s cannot be read", qPrintable(file.fileName()));
-        files.insert(QDir(m_folder).relativeFilePath(file.fileName()), file.readAll());
+        const QString path = found.next();
+        files.insert(QDir(m_folder).relativeFilePath(path), contentOf(path));
     }
     return files;
 }

@@ -1,9 +1,8 @@
 #include "faultrun.h"
 
 #include "simulatorprocess.h"
+#include "testfiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -26,12 +25,12 @@ namespace {
 bool record(SimulatorProcess &simulator, const QString &folder, int rows)
 {
     QProcess recorder;
-    recorder.start(QStringLiteral(MZ_BIN_DIR "/mz6218-cli"),
-                   {QStringLiteral("--lan"),
-                    QStringLiteral("%1:%2").arg(simulator.address()).arg(simulator.port()),
-                    QStringLiteral("record"), QStringLiteral("--every"), QStringLiteral("200ms"),
-                    QStringLiteral("--poll"), QStringLiteral("20ms"), QStringLiteral("--out"),
-                    folder, QStringLiteral("--count"), QString::number(rows)});
+    recorder.start(
+        QStringLiteral(MZ_BIN_DIR "/mz6218-cli"),
+        words("record --every 200ms --poll 20ms --lan") +
+            QStringList{QStringLiteral("%1:%2").arg(simulator.address()).arg(simulator.port()),
+                        QStringLiteral("--out"), folder, QStringLiteral("--count"),
+                        QString::number(rows)});
     return recorder.waitForFinished(60000) && recorder.exitCode() == 0;
 }
 
@@ -41,23 +40,16 @@ Verdict runWithFault(const QString &fault)
 {
     constexpr int rows = 40;
     Verdict verdict;
-    SimulatorProcess simulator;
-    if (!simulator.start({QStringLiteral("--noise"), QStringLiteral("0.05"),
-                          QStringLiteral("--fault"), fault})) {
-        verdict.wrong << QStringLiteral("no simulator: ") + simulator.errorText();
-        return verdict;
-    }
+    SimulatorProcess simulator(qPrintable(QStringLiteral("--noise 0.05 --fault ") + fault));
     const QTemporaryDir folder;
     verdict.expect(record(simulator, folder.path(), rows), QStringLiteral("did not end well"));
     QStringList lines;
     const QDir files(folder.path());
     for (const QString &name :
          files.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name)) {
-        QFile file(files.filePath(name));
-        if (file.open(QIODevice::ReadOnly))
-            lines += QString::fromUtf8(file.readAll())
-                         .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
-                         .mid(1);
+        lines += QString::fromUtf8(contentOf(files.filePath(name)))
+                     .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                     .mid(1);
     }
     judgeRows(lines, verdict);
     verdict.expect(verdict.rows == rows, QStringLiteral("%1 rows").arg(verdict.rows));

@@ -1,9 +1,9 @@
+#include "campaigns/memory.h"
 #include "watch/limitwatch.h"
 #include "watch/readingstatistics.h"
 #include "watch/trafficmodel.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <cmath>
 #include <cstdio>
@@ -16,12 +16,6 @@ constexpr qint64 readingsPerDay = 10 * 86400;
 constexpr qint64 memoryBound = 2048; // KiB above what it is once the chart's hour is full
 constexpr double high = -17.5;       // dBm
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr bool isMemoryTelling = false; // the sanitizer keeps what was freed
-#else
-constexpr bool isMemoryTelling = true;
-#endif
-
 int begun = 0;
 int ended = 0;
 
@@ -29,18 +23,6 @@ void countAlarms(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     begun += text.startsWith(QLatin1String("Alarm begins")) ? 1 : 0;
     ended += text.startsWith(QLatin1String("Alarm ends")) ? 1 : 0;
-}
-
-qint64 memoryInUse()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').value(1).toLongLong();
-    }
-    return 0;
 }
 
 /// The same figures by other means: plain sums in more digits, an alarm by its definition.
@@ -139,9 +121,9 @@ int main(int argc, char **argv)
         else
             expected.add(level);
         if (i == 72000)
-            firstMemory = memoryInUse();
+            firstMemory = residentMemory();
     }
-    const qint64 growth = memoryInUse() - firstMemory;
+    const qint64 growth = residentMemory() - firstMemory;
     qInstallMessageHandler(nullptr);
 
     const ReadingStatistics::Figures &found = statistics.sinceRestart();

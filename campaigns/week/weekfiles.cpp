@@ -1,5 +1,6 @@
 #include "weekfiles.h"
 
+#include "testfiles.h"
 #include "weekplan.h"
 
 #include <QDir>
@@ -71,13 +72,8 @@ QString faultOf(const Row &row, const WeekPlan &plan, const ExpectedRecord &expe
 QSet<QByteArray> hoursIn(const QString &path)
 {
     QSet<QByteArray> hours;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return hours;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
+    for (const QByteArray &line : contentOf(path).trimmed().split('\n'))
         hours.insert(line.mid(line.lastIndexOf('(') + 1, 13));
-    }
     return hours;
 }
 

@@ -1,11 +1,11 @@
 #include "weekrun.h"
 
 #include "Logic/seriallogic.h"
+#include "campaigns/memory.h"
 #include "virtualclock.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSpinBox>
@@ -17,20 +17,6 @@ namespace {
 constexpr qint64 pointsOfAnHour = 3601; // both ends count
 constexpr qint64 shownPoints = 600;     // beside the latest, in the ten minutes that are shown
 constexpr int readingOfBox = 3000;      // ms that the operator needs
-
-/// The memory of this process that is really in use, in KiB.
-qint64 residentMemory()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    const QList<QByteArray> lines = status.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').at(1).toLongLong();
-    }
-    return 0;
-}
 
 } // namespace
 
@@ -175,7 +161,7 @@ void WeekRun::finish()
 bool WeekRun::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Show && qobject_cast<QMessageBox *>(watched) != nullptr) {
-        ++m_boxes;
+        ++m_found.boxes;
         QTimer::singleShot(readingOfBox, static_cast<QMessageBox *>(watched), &QWidget::close);
     }
     return false;
@@ -188,7 +174,7 @@ void WeekRun::countReading(double power)
     constexpr double noReading = 100.0;
     if (power >= noReading)
         addFault(QStringLiteral("a poll brought no reading"));
-    ++m_readings;
+    ++m_found.readings;
 }
 
 void WeekRun::watchChart()
@@ -198,9 +184,9 @@ void WeekRun::watchChart()
     const qint64 tick = m_linkTicks++ % pointsOfAnHour;
     const QVector<QPointF> points = m_console.chartPoints();
     if (points.size() == 1 && m_linkTicks > 2)
-        ++m_chartRestarts;
-    ++m_chartPoints;
-    m_mostChartPoints = std::max(m_mostChartPoints, points.size());
+        ++m_found.chartRestarts;
+    ++m_found.chartPoints;
+    m_found.mostChartPoints = std::max(m_found.mostChartPoints, points.size());
     const double minutes = double(tick) / 60.0;
     // The first second of a link may pass without a reading.
     const qint64 expected = std::min(tick, shownPoints) + 1;
@@ -217,15 +203,15 @@ void WeekRun::watchChart()
 
 void WeekRun::noteMemory()
 {
-    m_memory.append({VirtualClock::elapsed(), residentMemory()});
+    m_found.memory.insert(VirtualClock::elapsed(), residentMemory());
 }
 
 void WeekRun::addFault(const QString &text)
 {
     // A fault that comes with every second must not fill the memory that is measured.
     constexpr int enough = 100;
-    if (m_faults.size() < enough)
-        m_faults.append(m_plan.dateOf(VirtualClock::elapsed())
-                            .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss ")) +
-                        text);
+    if (m_found.faults.size() < enough)
+        m_found.faults.append(m_plan.dateOf(VirtualClock::elapsed())
+                                  .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss ")) +
+                              text);
 }

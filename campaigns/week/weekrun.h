@@ -4,8 +4,8 @@
 #include "simulatorprocess.h"
 #include "weekplan.h"
 
+#include <QMap>
 #include <QObject>
-#include <QPair>
 #include <QStringList>
 #include <QTimer>
 #include <QVector>
@@ -20,24 +20,25 @@ class WeekRun : public QObject
     Q_OBJECT
 
 public:
-    /// The memory in KiB at a time in ms since the start.
-    using Memory = QPair<qint64, qint64>;
+    struct Findings
+    {
+        qint64 readings = 0;
+        qint64 chartPoints = 0;
+        int chartRestarts = 0; ///< how often the chart began anew within a link
+        int mostChartPoints = 0;
+        int boxes = 0;
+        /// In KiB by ms since the start: after an hour (half the time of a short run), after each
+        /// day, and at the end.
+        QMap<qint64, qint64> memory;
+        QStringList faults; ///< what went otherwise than planned, one line each
+    };
 
     /// Makes the console, starts the instrument and lets the virtual time begin.
     WeekRun(const WeekPlan &plan, quint32 seed);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// After an hour (half the time of a short run), after each day, and at the end.
-    const QVector<Memory> &memory() const { return m_memory; }
-    qint64 readings() const { return m_readings; }
-    qint64 chartPoints() const { return m_chartPoints; }
-    /// How often the chart began anew within a link, and the most points that it held.
-    int chartRestarts() const { return m_chartRestarts; }
-    int mostChartPoints() const { return m_mostChartPoints; }
-    int boxes() const { return m_boxes; }
-    /// What went otherwise than planned, one line each.
-    const QStringList &faults() const { return m_faults; }
+    const Findings &findings() const { return m_found; }
 
 signals:
     void finished();
@@ -75,11 +76,5 @@ private:
     QVector<Step> m_steps; ///< the next one last
     QTimer m_stepTimer;
     qint64 m_linkTicks = 0; ///< of the console's clock, since the link was opened
-    qint64 m_readings = 0;
-    qint64 m_chartPoints = 0;
-    int m_chartRestarts = 0;
-    int m_mostChartPoints = 0;
-    int m_boxes = 0;
-    QVector<Memory> m_memory;
-    QStringList m_faults;
+    Findings m_found;
 };

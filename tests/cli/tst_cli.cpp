@@ -9,7 +9,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <csignal>
 
@@ -139,31 +138,28 @@ private slots:
         QTest::addColumn<QString>("arguments");
         QTest::addColumn<QByteArray>("file"); // what --config names, if it names one
         QTest::addColumn<int>("status");
-        QTest::newRow("version") << "--version" << QByteArray() << 0;
-        QTest::newRow("help") << "record --help" << QByteArray() << 0;
-        QTest::newRow("no command") << "--lan a" << QByteArray() << 2;
-        QTest::newRow("no address") << "read" << QByteArray() << 2;
-        QTest::newRow("two addresses") << "--lan a --serial b read" << QByteArray() << 2;
-        QTest::newRow("bad port") << "--lan a:b read" << QByteArray() << 2;
-        QTest::newRow("limits crossed") << "--lan a record --low -1 --high -2" << QByteArray() << 2;
-        QTest::newRow("nobody there") << "--lan 127.0.0.1:1 read" << QByteArray() << 3;
-        QTest::newRow("not waiting")
-            << "--lan 127.0.0.1:1 record --no-wait --out -" << QByteArray() << 3;
-        QTest::newRow("no place to write")
-            << "--lan 127.0.0.1:1 record --out /dev/null/x" << QByteArray() << 4;
-        QTest::newRow("file missing") << "--config /nowhere.toml record" << QByteArray() << 2;
-        QTest::newRow("unknown key")
-            << "--config FILE record" << QByteArray("[record]\nevry='1s'") << 2;
-        QTest::newRow("everything in the file")
-            << "--config FILE record"
-            << QByteArray("lan = \"127.0.0.1:1\" # here\n[record]\nno-wait = true\nout = \"-\"\n")
-            << 3;
-        QTest::newRow("command line before file")
-            << "--config FILE --serial /nowhere record --every 1s"
-            << QByteArray("lan = 'a'\n[record]\nevery = '0'\nno-wait = true\nout = '-'\n") << 3;
-        QTest::newRow("sharp in quotes")
-            << "--config FILE record"
-            << QByteArray("lan = '127.0.0.1:1'\n[record]\nout = '/dev/null/#'\n") << 4;
+        const auto row = [](const char *name, const char *arguments, int status,
+                            const char *file = "") {
+            QTest::newRow(name) << text(arguments) << QByteArray(file) << status;
+        };
+        row("version", "--version", 0);
+        row("help", "record --help", 0);
+        row("no command", "--lan a", 2);
+        row("no address", "read", 2);
+        row("two addresses", "--lan a --serial b read", 2);
+        row("bad port", "--lan a:b read", 2);
+        row("limits crossed", "--lan a record --low -1 --high -2", 2);
+        row("nobody there", "--lan 127.0.0.1:1 read", 3);
+        row("not waiting", "--lan 127.0.0.1:1 record --no-wait --out -", 3);
+        row("no place to write", "--lan 127.0.0.1:1 record --out /dev/null/x", 4);
+        row("file missing", "--config /nowhere.toml record", 2);
+        row("unknown key", "--config FILE record", 2, "[record]\nevry='1s'");
+        row("everything in the file", "--config FILE record", 3,
+            "lan = \"127.0.0.1:1\" # here\n[record]\nno-wait = true\nout = \"-\"\n");
+        row("command line before file", "--config FILE --serial /nowhere record --every 1s", 3,
+            "lan = 'a'\n[record]\nevery = '0'\nno-wait = true\nout = '-'\n");
+        row("sharp in quotes", "--config FILE record", 4,
+            "lan = '127.0.0.1:1'\n[record]\nout = '/dev/null/#'\n");
     }
     void usage()
     {

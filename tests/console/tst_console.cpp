@@ -2,7 +2,6 @@
 #include "simulatorprocess.h"
 #include "testmain.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QRadioButton>

@@ -5,9 +5,7 @@
 #include "testmain.h"
 
 #include <QAction>
-#include <QDir>
 #include <QDoubleSpinBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>

@@ -5,9 +5,7 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -195,5 +193,6 @@ private slots:
         QCOMPARE(treeOf(folder.path()), before);
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestDoctor)
 #include "tst_doctor.moc"

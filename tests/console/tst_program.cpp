@@ -2,8 +2,6 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 

@@ -6,12 +6,9 @@
 #include "testmain.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWheelEvent>

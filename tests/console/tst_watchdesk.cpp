@@ -5,10 +5,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
-#include <QFile>
 #include <QLabel>
 #include <QTableWidget>
-#include <QTimer>
 
 class TestWatchDesk : public QObject
 {

@@ -2,7 +2,6 @@
 #include "simulatorprocess.h"
 #include "testmain.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QTimer>
 

@@ -97,6 +97,7 @@ private slots:
                  QByteArray("copy paste data image delete marks figures symmetry"));
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestChartUnits)
 
 #include "tst_chartunits.moc"

@@ -210,5 +210,6 @@ private slots:
         QCOMPARE(calls, 2);
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestCurveText)
 #include "tst_curvetext.moc"

@@ -6,9 +6,7 @@
 #include "testmain.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 

@@ -3,9 +3,6 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-#include <QDir>
-#include <QFile>
-#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -139,5 +136,6 @@ private:
     QTemporaryDir m_folder;
     FormulaCalc *m_calc = FormulaCalc::Instance();
 };
+
 MZ_TEST_GUILESS_MAIN(TestFormulaCalc)
 #include "tst_formulacalc.moc"

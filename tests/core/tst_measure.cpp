@@ -3,8 +3,6 @@
 
 #include "testmain.h"
 
-#include <QtTest>
-
 namespace {
 
 PowerStatistics statisticsOf(const QVector<double> &levels)

@@ -107,5 +107,6 @@ private slots:
                  std::optional<QLineF>(QLineF(-90, -20000, -90, -3)));
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestPatternAnalysis)
 #include "tst_patternanalysis.moc"

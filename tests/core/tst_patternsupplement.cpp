@@ -148,5 +148,6 @@ private slots:
         QCOMPARE(target(MarkJump::HalfPower, -170.0), 170.0);
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestPatternSupplement)
 #include "tst_patternsupplement.moc"

@@ -59,5 +59,6 @@ private slots:
         }
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestValuePyramid)
 #include "tst_valuepyramid.moc"

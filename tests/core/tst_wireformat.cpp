@@ -4,8 +4,6 @@
 
 #include "testmain.h"
 
-#include <QtTest>
-
 namespace {
 
 using Pieces = QList<QByteArray>;

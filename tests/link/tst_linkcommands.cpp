@@ -1,8 +1,6 @@
 #include "linkbench.h"
 #include "testmain.h"
 
-#include <QtTest>
-
 namespace {
 
 using Pieces = QList<QByteArray>;

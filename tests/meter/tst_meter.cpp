@@ -5,7 +5,6 @@
 #include "testmain.h"
 
 #include <QElapsedTimer>
-#include <QtTest>
 
 #include <memory>
 

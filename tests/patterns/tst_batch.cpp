@@ -5,7 +5,6 @@
 #include "testmain.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 

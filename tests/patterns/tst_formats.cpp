@@ -6,9 +6,9 @@
 #include "patterns/formats/patternfile.h"
 #include "patterns/formats/textfields.h"
 #include "patterns/samples/samples.h"
+#include "testfiles.h"
 #include "testmain.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -22,15 +22,9 @@ namespace {
 
 const QString title = QStringLiteral("file");
 
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QByteArray sample(const char *name)
 {
-    return content(QDir(QStringLiteral(MZ_SAMPLES)).filePath(QString::fromUtf8(name)));
+    return contentOf(QDir(QStringLiteral(MZ_SAMPLES)).filePath(QString::fromUtf8(name)));
 }
 
 /// What was read, a line a cut: "name @frequency: angle=level ...".
@@ -284,7 +278,7 @@ private slots:
         QCOMPARE(QProcess::execute(simulator, {QStringLiteral("-i"), QStringLiteral(MZ_DECK),
                                                QStringLiteral("-o"), listing}),
                  0);
-        const PatternFile file = read(content(listing), title);
+        const PatternFile file = read(contentOf(listing), title);
         QCOMPARE(file.cuts.size(), 1);
         const QVector<QPointF> &points = file.cuts.first().points;
         QCOMPARE(file.cuts.first().frequency, QStringLiteral("299.8"));

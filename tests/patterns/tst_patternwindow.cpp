@@ -12,7 +12,6 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QDir>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>

@@ -5,7 +5,6 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-#include <QDir>
 #include <QRandomGenerator>
 
 #include <cmath>
@@ -94,35 +93,26 @@ private slots:
         QVERIFY(agrees(found.frontToBackRatio, frontToBack, 0.1));
     }
 
-    void noiseLeavesTheFigures_data()
-    {
-        QTest::addColumn<double>("noise"); // dB, greatest
-        for (const char *file : {"dipole.csv", "patch.csv", "horn.csv", "array.csv"}) {
-            for (const double noise : {0.05, 0.15, 0.5})
-                QTest::addRow("%s %g", file, noise) << noise;
-        }
-    }
-
     void noiseLeavesTheFigures()
     {
-        QFETCH(const double, noise);
-        const QString file =
-            QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(' '), 0, 0);
-        const QVector<QPointF> clean = CurveText::fromFile(content(file)).points;
-        const PatternSupplement known = supplementaryFigures(clean);
-        for (const quint32 seed : {1U, 2U, 3U}) {
-            QRandomGenerator random(seed);
-            QVector<QPointF> noisy = clean;
-            for (QPointF &point : noisy)
-                point.ry() += noise * (2.0 * random.generateDouble() - 1.0);
-            const PatternSupplement found = supplementaryFigures(noisy);
-            QVERIFY(
-                agrees(found.halfPowerBeamWidth, known.halfPowerBeamWidth.value_or(missing), 2.0));
-            QVERIFY(
-                agrees(found.firstNullBeamWidth, known.firstNullBeamWidth.value_or(missing), 2.0));
-            QVERIFY(agrees(found.sideLobeLevel, known.sideLobeLevel.value_or(missing), 0.5));
+        for (const char *file : {"dipole.csv", "patch.csv", "horn.csv", "array.csv"}) {
+            const QVector<QPointF> clean = CurveText::fromFile(content(text(file))).points;
+            const PatternSupplement known = supplementaryFigures(clean);
+            QRandomGenerator random(1);
+            for (const double noise : {0.05, 0.15, 0.5, 0.5, 0.5}) { // dB, greatest
+                QVector<QPointF> noisy = clean;
+                for (QPointF &point : noisy)
+                    point.ry() += noise * (2.0 * random.generateDouble() - 1.0);
+                const PatternSupplement found = supplementaryFigures(noisy);
+                QVERIFY(agrees(found.halfPowerBeamWidth, known.halfPowerBeamWidth.value_or(missing),
+                               2.0));
+                QVERIFY(agrees(found.firstNullBeamWidth, known.firstNullBeamWidth.value_or(missing),
+                               2.0));
+                QVERIFY(agrees(found.sideLobeLevel, known.sideLobeLevel.value_or(missing), 0.5));
+            }
         }
     }
 };
+
 MZ_TEST_GUILESS_MAIN(TestSamples)
 #include "tst_samples.moc"

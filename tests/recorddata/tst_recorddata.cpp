@@ -3,7 +3,6 @@
 #include "testmain.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -238,5 +237,6 @@ private:
 
     QTemporaryDir m_folder;
 };
+
 MZ_TEST_GUILESS_MAIN(TestRecordData)
 #include "tst_recorddata.moc"

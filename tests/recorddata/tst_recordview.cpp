@@ -4,8 +4,6 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-#include <QFile>
-#include <QProgressBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
 

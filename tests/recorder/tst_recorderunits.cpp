@@ -8,7 +8,6 @@
 #include "testmain.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <ctime>
 

@@ -2,8 +2,6 @@
 
 #include "testmain.h"
 
-#include <QtTest>
-
 namespace {
 
 constexpr qint64 second = 1000000000;

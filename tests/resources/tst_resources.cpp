@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QFile>
 #include <QIcon>
 #include <QImageReader>
 #include <QLineEdit>

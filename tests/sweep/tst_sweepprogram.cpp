@@ -4,7 +4,6 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 

@@ -2,7 +2,7 @@
 # Two workbench windows and other programs exchange curves over a real X server: one window drags its
 # curve into the other, which copies it for a text program; what a text program copies is pasted.
 #
-# exchange-under-x.sh PROGRAM SAMPLES; ends with 77 (skipped) where a tool is missing.
+# look-at-exchange.sh PROGRAM SAMPLES; ends with 77 (skipped) where a tool is missing.
 set -u
 
 for tool in xvfb-run xdotool xclip import convert; do
