@@ -1,6 +1,7 @@
 #include "scenarios.h"
 
 #include "randomscenario.h"
+#include "testfiles.h"
 
 #include <QSet>
 
@@ -8,11 +9,6 @@
 #include <array>
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 constexpr const char *first = "times=1";
 constexpr const char *second = "after=1,times=1";
