@@ -7,7 +7,6 @@
 #include "2d/form/curvetablemodel.h"
 #include "2d/form/pointtablemodel.h"
 #include "2d/scene/generatecolors.h"
-#include "2d/scene/marktable.h"
 #include "2d/view/curvename.h"
 #include "2d/view/graphicsbase.h"
 #include "2d/view/managergraph.h"
@@ -358,7 +357,7 @@ void ListChart::refresh()
     m_shownIds = ids;
     for (const GraphicsBase *view : {m_polar, m_cartesian}) {
         for (PathInfo *path : view->paths())
-            path->markTablePanel()->table()->setPattern(true);
+            path->panels().setPattern(true);
     }
     if (!hasNew)
         return;

@@ -4,7 +4,6 @@
 #include "2d/scene/callout.h"
 #include "2d/scene/chartstage.h"
 #include "2d/scene/generatecolors.h"
-#include "2d/scene/marktable.h"
 #include "2d/scene/mypathitem.h"
 #include "2d/view/axisranges.h"
 #include "2d/view/pathinfo.h"
@@ -54,11 +53,7 @@ PathInfo *CurveList::add(const QString &name)
         path->setName(name);
         m_stage.setLegendEntry(path->curve(), name, path->color(), false);
     }
-    m_scene.addItem(path->displayItem());
-    m_scene.addItem(path->pathItem());
-    const QList<QGraphicsItem *> items = path->furtherItems();
-    for (QGraphicsItem *item : items)
-        m_scene.addItem(item);
+    path->addTo(m_scene);
     path->setMarkTableShown(m_markTablesShown);
     if (m_size.isValid())
         path->updataSize(m_size);
@@ -204,7 +199,7 @@ void CurveList::setMarkDeltas(bool on)
 
 void CurveList::updateMarkTable(PathInfo &path)
 {
-    path.markTablePanel()->table()->setDeltas(m_markDeltas);
+    path.panels().setDeltas(m_markDeltas);
     path.updateMarkInfo(m_marks.all());
     path.placeMarkTable();
 }

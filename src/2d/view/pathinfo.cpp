@@ -3,11 +3,10 @@
 #include "2d/data/patternanalysis.h"
 #include "2d/scene/callout.h"
 #include "2d/scene/chartstage.h"
-#include "2d/scene/marktable.h"
-#include "2d/scene/mycustomproxy.h"
 #include "2d/scene/mypathitem.h"
 
 #include <QDebug>
+#include <QGraphicsScene>
 #include <QLineSeries>
 #include <QPen>
 
@@ -64,7 +63,7 @@ void PathInfo::setName(const QString &name)
     series()->setName(name);
     m_pathItem->setName(name);
     m_displayItem->setText(name);
-    markTablePanel()->table()->setCurveName(name);
+    m_panels.setCurveName(name);
     emit lookChanged();
 }
 
@@ -120,6 +119,23 @@ void PathInfo::applyVisibility()
 QList<QGraphicsItem *> PathInfo::furtherItems() const
 {
     return m_lines.items() + m_panels.items();
+}
+
+void PathInfo::addTo(QGraphicsScene &scene)
+{
+    m_panels.setScene(scene);
+    scene.addItem(m_displayItem);
+    scene.addItem(m_pathItem);
+    const QList<QGraphicsItem *> items = furtherItems();
+    for (QGraphicsItem *item : items)
+        scene.addItem(item);
+}
+
+MarkTablePanel *PathInfo::markTablePanel() const
+{
+    MarkTablePanel *panel = m_panels.marks();
+    placeMarkTable();
+    return panel;
 }
 
 void PathInfo::rebuild(const ChartStage &stage)
@@ -217,7 +233,7 @@ void PathInfo::setMarkTableShown(bool shown)
     applyVisibility();
 }
 
-void PathInfo::placeMarkTable()
+void PathInfo::placeMarkTable() const
 {
     m_panels.placeMarks(m_drawnMapping.plotArea);
 }
@@ -234,20 +250,20 @@ void PathInfo::stackParaTable(const QRectF &sceneRect)
 
 void PathInfo::updateMarkInfo(QMap<int, MyMarkItem *> map)
 {
-    markTablePanel()->table()->setMarks(m_markIds, map);
-    markTablePanel()->resize(markTablePanel()->table()->fittingSize());
+    m_panels.showMarks(m_markIds, map);
+    placeMarkTable();
     applyVisibility();
 }
 
 void PathInfo::updateParaInfo(ParaInfo paraInfo)
 {
-    paraTablePanel()->updateParaInfo(paraInfo);
+    m_panels.showParameters(paraInfo);
     applyVisibility();
 }
 
 void PathInfo::clearParaInfo()
 {
-    paraTablePanel()->clearParaInfo();
+    m_panels.clearParameters();
 }
 
 void PathInfo::clearSelection()
@@ -273,12 +289,12 @@ bool PathInfo::containsMarkid(int id)
 
 bool PathInfo::getMarkTableDataStatus()
 {
-    return markTablePanel()->table()->hasData();
+    return m_panels.hasMarks();
 }
 
 bool PathInfo::getParaTableDataStatus()
 {
-    return paraTablePanel()->getParaTableDataStatus();
+    return m_panels.hasParameters();
 }
 
 void PathInfo::setLineItemVisible(bool b)

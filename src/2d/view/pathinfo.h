@@ -27,6 +27,7 @@ struct PatternAnalysis;
 
 QT_BEGIN_NAMESPACE
 class QGraphicsItem;
+class QGraphicsScene;
 namespace QtCharts {
 class QLineSeries;
 }
@@ -65,10 +66,14 @@ public:
     MyPathItem *pathItem() const { return m_pathItem; }
     /// The name that a selected curve carries on the chart.
     Callout *displayItem() const { return m_displayItem; }
-    MarkTablePanel *markTablePanel() const { return m_panels.marks(); }
+    /// The panels, made when they are needed first.
+    MarkTablePanel *markTablePanel() const;
     MyCustomProxy *paraTablePanel() const { return m_panels.parameters(); }
-    /// The pattern's six marker lines and the two panels.
+    CurvePanels &panels() { return m_panels; }
+    /// The pattern's marker lines and the panels that have been made.
     QList<QGraphicsItem *> furtherItems() const;
+    /// Puts all items on \a scene, those that are made later too.
+    void addTo(QGraphicsScene &scene);
 
     /// The points in chart values, shared with the series.
     QVector<QPointF> points() const { return m_curve.points(); }
@@ -95,7 +100,7 @@ public:
 
     void setMarkTableShown(bool shown);
     /// Put the tables to their places, as CurvePanels says.
-    void placeMarkTable();
+    void placeMarkTable() const;
     void placeParaTable();
     void stackParaTable(const QRectF &sceneRect);
 
@@ -134,7 +139,7 @@ private:
     CurveSeries m_curve;
     MyPathItem *m_pathItem;
     Callout *m_displayItem;
-    CurvePanels m_panels;
+    mutable CurvePanels m_panels;
     PatternLines m_lines;
 
     QVector<QPointF> m_mirrored;    ///< the images drawn instead of the points, if any
