@@ -10,7 +10,7 @@ seconds=${1:-60}
 [ $# -gt 0 ] || set -- replies settings curves formats pattern losses commands
 
 cmake -S . -B build-fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-      -DMZ_BUILD_FUZZ=ON -DBUILD_TESTING=OFF >/dev/null
+      -DMZ_BUILD_FUZZ=ON -DBUILD_TESTING=OFF -DCMAKE_UNITY_BUILD=ON >/dev/null
 targets=
 for reader in "$@"; do
     targets="$targets fuzz_$reader"
