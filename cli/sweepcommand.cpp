@@ -94,7 +94,7 @@ void SweepCommand::tellPoint(const RunRow &row) const
     const QByteArray flags = RunText::flags(row.flags);
     if (!flags.isEmpty())
         line += QStringLiteral("  ") + QString::fromLatin1(flags);
-    if (progress.remaining >= 0)
+    if (progress.remaining >= 0 && !row.flags.testFlag(RunFlag::Drift))
         line += QStringLiteral("  %1 s left").arg((progress.remaining + 999) / 1000);
     printMessage(line);
 }
@@ -128,8 +128,9 @@ void SweepCommand::end()
     const SweepRun::Cause cause = m_session.cause();
     const RunFile &run = m_session.store().run();
     if (run.isMarked())
-        printMessage(QStringLiteral("the level drifted by %1 dB while the pattern was measured")
-                         .arg(*run.drift(), 0, 'f', 2));
+        printMessage(
+            QStringLiteral("marked: the level drifted by %1 dB while the pattern was measured")
+                .arg(*run.drift(), 0, 'f', 2));
     if (!m_session.isWritten() || cause == SweepRun::Cause::NotWritten) {
         fail(ExitStatus::unwritten, m_session.store().reason());
     } else if (cause == SweepRun::Cause::None) {

@@ -34,7 +34,11 @@ MeterWorker::MeterWorker(const MeterAddress &address, const LinkWaits &waits,
     m_link.setCancel([flags = m_flags] { return flags->isStopped.load(); });
     m_link.setDropsLateInput(true);
     connect(&m_link, &SerialLogic::replied, this, &MeterWorker::take);
-    connect(&m_link, &SerialLogic::errors, this, [this](const QString &error) { m_error = error; });
+    connect(&m_link, &SerialLogic::errors, this, [this](const QString &error) {
+        // Of an open link the errors are those of one that is lost, in words for the console.
+        if (!m_isLinkOpen)
+            m_error = error;
+    });
     connect(&m_link, &SerialLogic::lost, this, &MeterWorker::takeLoss);
 
     m_retryTimer.setSingleShot(true);

@@ -1,6 +1,7 @@
 #include "fault.h"
 
 #include "commandinterpreter.h"
+#include "rotator.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -71,14 +72,30 @@ bool readKind(const QString &text, Fault *fault)
     return info->parameter && readNumber(text.mid(name.size() + 1), 1, &fault->amount);
 }
 
+/// Whether the turntable can be befallen by \a kind: everything but what concerns settings of the
+/// instrument, zeroing and calibration.
+bool isOfRotator(FaultKind kind)
+{
+    return kind != FaultKind::NumericFrequency && kind != FaultKind::CalSilent &&
+           kind != FaultKind::CalFail;
+}
+
+bool readOnly(const QString &value, Fault *fault)
+{
+    if (fault->ofRotator) {
+        fault->only = value.toLatin1();
+        return Rotator::commands().contains(fault->only);
+    }
+    fault->only = value.toUpper().toLatin1();
+    return CommandInterpreter::headers().contains(fault->only);
+}
+
 bool readQualifier(const QString &text, Fault *fault)
 {
     const QString name = text.section(QLatin1Char('='), 0, 0);
     const QString value = text.mid(name.size() + 1);
-    if (name == QLatin1String("only")) {
-        fault->only = value.toUpper().toLatin1();
-        return CommandInterpreter::headers().contains(fault->only);
-    }
+    if (name == QLatin1String("only"))
+        return readOnly(value, fault);
     if (name == QLatin1String("after"))
         return readNumber(value, 0, &fault->after);
     if (name == QLatin1String("every"))
@@ -93,13 +110,33 @@ bool readQualifier(const QString &text, Fault *fault)
     return false;
 }
 
+std::optional<Fault> parse(Fault fault, const QString &text, QString *error)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (!readKind(parts.first(), &fault) || (fault.ofRotator && !isOfRotator(fault.kind))) {
+        *error = QCoreApplication::translate("sim::Fault", "Unknown fault or bad parameter: %1")
+                     .arg(parts.first());
+        return std::nullopt;
+    }
+    for (const QString &part : parts.mid(1)) {
+        if (!readQualifier(part, &fault)) {
+            *error = QCoreApplication::translate("sim::Fault", "Bad qualifier in \"%1\": %2")
+                         .arg(text, part);
+            return std::nullopt;
+        }
+    }
+    return fault;
+}
+
 } // namespace
 
 bool Fault::concerns(const QByteArray &line) const
 {
-    const QByteArray header = CommandInterpreter::header(line);
+    const QByteArray header = ofRotator ? Rotator::command(line) : CommandInterpreter::header(line);
     if (header.isEmpty() || (!only.isEmpty() && header != only))
         return false;
+    if (ofRotator)
+        return true;
     switch (kind) {
     case FaultKind::Refuse:
         return CommandInterpreter::isSetting(line);
@@ -115,21 +152,14 @@ bool Fault::concerns(const QByteArray &line) const
 
 std::optional<Fault> parseFault(const QString &text, QString *error)
 {
+    return parse({}, text, error);
+}
+
+std::optional<Fault> parseRotatorFault(const QString &text, QString *error)
+{
     Fault fault;
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (!readKind(parts.first(), &fault)) {
-        *error = QCoreApplication::translate("sim::Fault", "Unknown fault or bad parameter: %1")
-                     .arg(parts.first());
-        return std::nullopt;
-    }
-    for (const QString &part : parts.mid(1)) {
-        if (!readQualifier(part, &fault)) {
-            *error = QCoreApplication::translate("sim::Fault", "Bad qualifier in \"%1\": %2")
-                         .arg(text, part);
-            return std::nullopt;
-        }
-    }
-    return fault;
+    fault.ofRotator = true;
+    return parse(fault, text, error);
 }
 
 QByteArray faultName(FaultKind kind)
@@ -154,6 +184,9 @@ QString faultHelp()
         "  every=N            then each Nth is befallen\n"
         "  times=N            N times at most\n"
         "  p=P                with this probability, drawn from the seed\n"
+        "--rotator-fault takes those that do not concern settings, zeroing and calibration, with "
+        "the\n"
+        "turntable's commands (p, P, S, K, _, \\dump_state); refuse answers with RPRT -5.\n"
         "Example: --fault late:800,every=3 --fault 'drop-inside,only=GET?,after=20,times=1'\n");
     return text;
 }

@@ -28,6 +28,7 @@ enum class FaultKind {
 struct Fault
 {
     FaultKind kind = FaultKind::NoReply;
+    bool ofRotator = false;   ///< else of the instrument
     int amount = 0;           ///< Late: ms; Pieces: ms between two; Garbage: bytes
     QByteArray only;          ///< the header of the one command it befalls; empty: any
     int after = 0;            ///< how many commands pass unharmed first
@@ -42,6 +43,8 @@ struct Fault
 /// Reads "KIND[:PARAM][,only=COMMAND][,after=N][,every=N][,times=N][,p=0..1]". Returns nothing, and
 /// an explanation in \a error, for anything else.
 std::optional<Fault> parseFault(const QString &text, QString *error);
+/// The same for a fault of the turntable, where COMMAND is one of its letters.
+std::optional<Fault> parseRotatorFault(const QString &text, QString *error);
 
 /// The name of \a kind, as parseFault() reads it.
 QByteArray faultName(FaultKind kind);

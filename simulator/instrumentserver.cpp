@@ -92,7 +92,8 @@ Input InstrumentServer::input() const
 
 bool InstrumentServer::openRotator(const Options &options, QString *error)
 {
-    m_rotator = new RotatorServer(options.rotatorSpeed, m_trace, this);
+    m_rotator = new RotatorServer(
+        options.rotatorSpeed, FaultInjector(options.rotatorFaults, options.seed), m_trace, this);
     if (!m_rotator->listen(options.address, *options.rotatorPort)) {
         *error =
             tr("Cannot listen on %1: %2")

@@ -21,7 +21,8 @@ public:
         m_parser.setApplicationDescription(tr("A simulated MZ6218 power meter."));
         m_parser.addOptions({m_help, m_version, m_listen, m_port, m_serial, m_level, m_script,
                              m_pattern, m_rotator, m_rotatorSpeed, m_noise, m_seed, m_micro,
-                             m_calibrationTime, m_replay, m_replayTiming, m_trace, m_fault});
+                             m_calibrationTime, m_replay, m_replayTiming, m_trace, m_fault,
+                             m_rotatorFault});
     }
 
     CommandLine read(const QStringList &arguments)
@@ -69,10 +70,17 @@ private:
         m_options.microSign = m_parser.isSet(m_micro);
         m_options.operationTime = static_cast<int>(1000 * number(m_calibrationTime, 0, 3600));
         m_options.trace = m_parser.isSet(m_trace);
-        for (const QString &text : m_parser.values(m_fault)) {
+        readFaults(m_fault, parseFault, m_options.faults);
+        readFaults(m_rotatorFault, parseRotatorFault, m_options.rotatorFaults);
+    }
+
+    template<typename Parse>
+    void readFaults(const QCommandLineOption &option, Parse parse, QList<Fault> &faults)
+    {
+        for (const QString &text : m_parser.values(option)) {
             QString error;
-            if (const auto fault = parseFault(text, &error))
-                m_options.faults.append(*fault);
+            if (const auto fault = parse(text, &error))
+                faults.append(*fault);
             else
                 fail(error);
         }
@@ -176,6 +184,10 @@ private:
     const QCommandLineOption m_fault{QStringLiteral("fault"),
                                      tr("Add a fault, see below; may be repeated."),
                                      QStringLiteral("KIND[:PARAM][,QUALIFIER...]")};
+    const QCommandLineOption m_rotatorFault{
+        QStringLiteral("rotator-fault"),
+        tr("Add a fault of the turntable, see below; may be repeated."),
+        QStringLiteral("KIND[:PARAM][,QUALIFIER...]")};
 };
 
 } // namespace

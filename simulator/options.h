@@ -29,6 +29,7 @@ struct Options
     int operationTime = 3000; ///< ms that zeroing and calibration take
     bool trace = false;
     QList<Fault> faults;
+    QList<Fault> rotatorFaults;
 };
 
 /// What the program is to do after reading its command line.

@@ -80,6 +80,11 @@ QByteArray Rotator::answer(const QByteArray &line, qint64 now)
     return {};
 }
 
+QList<QByteArray> Rotator::commands()
+{
+    return {"p", "P", "S", "K", "_", "\\dump_state"};
+}
+
 bool Rotator::move(const QByteArray &azimuth, const QByteArray &elevation, qint64 now)
 {
     bool hasAzimuth = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 namespace sim {
 
@@ -16,6 +17,14 @@ public:
     /// reply comes as the move starts), "S" stop, "K" park at 0, "_" model, "\dump_state" limits.
     /// Nothing for anything else, as with the original.
     QByteArray answer(const QByteArray &line, qint64 now);
+
+    /// The command of \a line, empty for a blank one.
+    static QByteArray command(const QByteArray &line)
+    {
+        return line.simplified().split(' ').first();
+    }
+    /// Every command that is known.
+    static QList<QByteArray> commands();
 
     /// Where the table stands at \a now, in degrees.
     double azimuth(qint64 now) const { return m_azimuth.at(now, m_speed); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "faultinjector.h"
 #include "rotator.h"
 
 #include <QElapsedTimer>
@@ -18,7 +19,8 @@ class RotatorServer : public QObject
 public:
     /// \a speed in degrees a second. \a trace must outlive this: it notes every command but the
     /// question for the position, which clients ask all the time.
-    RotatorServer(double speed, Trace &trace, QObject *parent = nullptr);
+    RotatorServer(double speed, const FaultInjector &faults, Trace &trace,
+                  QObject *parent = nullptr);
 
     /// Starts to listen; false, with the reason in errorString(), when that fails.
     bool listen(const QHostAddress &address, quint16 port)
@@ -33,8 +35,10 @@ public:
 
 private:
     void serve();
+    QList<Step> answer(const QByteArray &line);
 
     Rotator m_rotator;
+    FaultInjector m_faults;
     Trace &m_trace;
     QElapsedTimer m_clock;
     QTcpServer m_server;

@@ -1,5 +1,6 @@
 #include "sweep/crashstop.h"
 
+#include <array>
 #include <atomic>
 #include <csignal>
 
@@ -11,13 +12,26 @@
 
 namespace {
 
-std::atomic<qintptr> turning{-1};
+constexpr int mostTables = 8;
+/// One more than the connections' numbers; 0 is a free place.
+std::array<std::atomic<qintptr>, mostTables> turning{};
 
-extern "C" void stopTableAndDie(int number)
+void exchange(qintptr present, qintptr next)
 {
-    const qintptr socket = turning.exchange(-1);
-    if (socket != -1) {
-        // Nothing but a bare system call is allowed in here.
+    for (std::atomic<qintptr> &place : turning) {
+        qintptr expected = present;
+        if (place.compare_exchange_strong(expected, next))
+            return;
+    }
+}
+
+extern "C" void stopTablesAndDie(int number)
+{
+    // Nothing but bare system calls are allowed in here.
+    for (std::atomic<qintptr> &place : turning) {
+        const qintptr socket = place.exchange(0) - 1;
+        if (socket == -1)
+            continue;
 #ifdef Q_OS_WIN
         ::send(static_cast<SOCKET>(socket), "S\n", 2, 0);
 #else
@@ -37,7 +51,7 @@ void install()
         return;
     installed = true;
     for (const int number : {SIGSEGV, SIGABRT, SIGFPE, SIGILL}) {
-        const auto former = std::signal(number, stopTableAndDie);
+        const auto former = std::signal(number, stopTablesAndDie);
         if (former != SIG_DFL && former != SIG_ERR)
             std::signal(number, former);
     }
@@ -50,12 +64,14 @@ namespace CrashStop {
 void remember(qintptr socket)
 {
     install();
-    turning = socket;
+    forget(socket);
+    exchange(0, socket + 1);
 }
 
-void forget()
+void forget(qintptr socket)
 {
-    turning = -1;
+    if (socket != -1)
+        exchange(socket + 1, 0);
 }
 
 } // namespace CrashStop

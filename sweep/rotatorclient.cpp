@@ -6,6 +6,7 @@
 #include <QNetworkProxy>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -51,7 +52,7 @@ void RotatorClient::close()
     m_socket.blockSignals(true);
     if (m_mayTurn && m_socket.state() == QAbstractSocket::ConnectedState)
         stopForGood();
-    CrashStop::forget();
+    CrashStop::forget(std::exchange(m_turning, -1));
     m_mayTurn = false;
     m_socket.disconnectFromHost();
     m_socket.abort();
@@ -102,7 +103,7 @@ void RotatorClient::lose(const QString &reason)
 {
     if (m_pause.isActive())
         return;
-    CrashStop::forget();
+    CrashStop::forget(std::exchange(m_turning, -1));
     m_limit.stop();
     m_orders.clear();
     m_command = Command::None;
@@ -155,7 +156,8 @@ void RotatorClient::sendNext()
     m_lines.clear();
     if (m_command == Command::Move) {
         m_mayTurn = true;
-        CrashStop::remember(m_socket.socketDescriptor());
+        m_turning = m_socket.socketDescriptor();
+        CrashStop::remember(m_turning);
     }
     m_socket.write(order.bytes);
     const bool isOptional = m_command == Command::Model || m_command == Command::State;
@@ -252,7 +254,7 @@ void RotatorClient::takePosition()
 void RotatorClient::takeStop()
 {
     m_mayTurn = false;
-    CrashStop::forget();
+    CrashStop::forget(std::exchange(m_turning, -1));
     m_overtakes = false;
     emit stopped(
         RotatorText::report(m_lines.value(m_lines.size() - 1)).value_or(RotatorText::done));

@@ -102,6 +102,7 @@ private:
     bool m_modelAsked = false;
     bool m_stateAsked = false;
     bool m_mayTurn = false;   ///< a move went out that nothing has stopped
+    qintptr m_turning = -1;   ///< the connection on which it went out
     bool m_overtakes = false; ///< a stop was sent while another reply was awaited
     TableDescription m_description;
     RotatorText::Position m_first; ///< whose elevation goes out with every move

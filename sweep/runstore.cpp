@@ -37,7 +37,7 @@ RunStore::Problem RunStore::open(const QString &curve, const RunHeader &header, 
             problem = Problem::RunExists;
         else if (mode == Mode::Resume)
             problem = readRun(header);
-    } else if (mode == Mode::New && QFileInfo(m_curvePath).size() > 0) {
+    } else if (mode != Mode::Overwrite && QFileInfo(m_curvePath).size() > 0) {
         problem = Problem::CurveExists;
     }
     if (problem != Problem::None)

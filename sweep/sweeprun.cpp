@@ -266,8 +266,6 @@ void SweepRun::failed(qint64 now, int code, State again)
         pause(Cause::RotatorFailed);
         return;
     }
-    if (m_state == State::Returning)
-        again = State::Returning;
     m_again = again;
     m_state = State::TryingAgain;
     m_due = now + tryAgainTime;
@@ -283,8 +281,8 @@ void SweepRun::tick(qint64 now)
         settled();
         break;
     case State::TryingAgain:
-        m_state = m_again;
-        if (m_state == State::Sending)
+        m_state = m_goal == Goal::Start ? State::Returning : m_again;
+        if (m_again == State::Sending)
             m_orders.move(wanted());
         else
             m_orders.readTable();

@@ -183,6 +183,11 @@ void SweepSession::takeReadingOf(const MeterReading &reading)
     m_askedReadings = 0;
     if (reading.outcome == Outcome::Link)
         return; // the link's state tells
+    if (reading.isRelative) {
+        // Somebody turned that on at the instrument: no level in dBm any more.
+        m_run->pause(SweepRun::Cause::OtherSettings);
+        return;
+    }
     m_level = reading.reading.isValid() ? std::optional(reading.reading.level) : std::nullopt;
     m_run->readingCame(m_clock.elapsed(), m_level);
     emit progressed();

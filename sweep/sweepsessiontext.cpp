@@ -60,5 +60,7 @@ QString SweepSession::causeText() const
 
 QString SweepSession::waitText() const
 {
-    return m_run && m_run->state() == SweepRun::State::Waiting ? m_devices->trouble() : QString();
+    // Before it begins as well: a link may have been lost since the check.
+    const bool waits = m_run && (m_run->state() == SweepRun::State::Waiting || m_locating);
+    return waits ? m_devices->trouble() : QString();
 }

@@ -27,9 +27,10 @@ void TableWatch::start(qint64 now, double from, double wanted, double tolerance,
     m_wanted = wanted;
     m_tolerance = tolerance;
     m_speed = qMax(speed, slowest);
-    m_distance = std::abs(wanted - from);
+    // A table that tells its angle modulo 360 may seem to come from a turn further off.
+    m_distance = angleBetween(from, wanted);
     m_started = m_sent = m_changed = now;
-    m_limit = limitFrom(now, m_distance);
+    m_limit = limitFrom(now, std::abs(wanted - from));
     m_last = from;
     m_closest = angleBetween(from, wanted);
 }

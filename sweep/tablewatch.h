@@ -20,7 +20,7 @@ public:
     /// Takes in what the table reads now.
     Verdict look(qint64 now, double read);
 
-    /// How far it was to turn, degrees.
+    /// How far it was to turn at least, degrees.
     double distance() const { return m_distance; }
     /// How long it turns by now.
     qint64 elapsed(qint64 now) const { return now - m_started; }

@@ -1,4 +1,7 @@
+#include "closedloop.h"
 #include "sweepbench.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cstdio>
@@ -154,15 +157,33 @@ void carryOut(unsigned seed)
     figure("points off the curve", bench.points().size() - bench.run.curve().size());
 }
 
+void carryOutInChamber(unsigned seed)
+{
+    const ClosedLoop loop = measureInChamber(seed);
+    for (const QString &wrong : loop.wrong)
+        std::printf("WRONG: chamber, seed %u: %s\n", seed, qPrintable(wrong));
+    const auto figure = [](const char *name, int value) {
+        std::printf("figure\tin the chamber\t%s\t%d\n", name, value);
+    };
+    figure("runs", 1);
+    figure("points", loop.rows);
+    figure("faults", loop.faults);
+    figure("kills", loop.starts - 1);
+}
+
 } // namespace
 
-/// Arguments: how many runs, and the first one's seed; "slice" is a few.
+/// Arguments: how many runs, and the first one's seed; "slice" is a few. For each hundred there is
+/// one of the real program in the simulated chamber, which takes minutes.
 int main(int argc, char **argv)
 {
+    const QCoreApplication app(argc, argv);
     const bool isSlice = argc > 1 && std::string(argv[1]) == "slice";
     const int runs = isSlice ? 5 : argc > 1 ? std::atoi(argv[1]) : 200;
     const unsigned first = argc > 2 ? unsigned(std::atoi(argv[2])) : 1;
     for (int i = 0; i < runs; ++i)
         carryOut(first + unsigned(i));
+    for (int i = 0; i < runs / 100; ++i)
+        carryOutInChamber(first + unsigned(i));
     return 0;
 }

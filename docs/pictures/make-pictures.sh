@@ -232,7 +232,7 @@ bench() {
         "$work/bench.png"
 }
 
-# measuring LANGUAGE SUFFIX: bench and dialog beside the curve as it grows.
+# measuring LANGUAGE SUFFIX: bench and dialog beside the curve as it grows, and the report.
 measuring() {
     "$programs/mz6218-sim" --listen "$instrument" --pattern patterns/samples/horn.csv \
         --rotator 0 --rotator-speed 60 --noise 0.02 >"$work/simulator" &
@@ -240,10 +240,15 @@ measuring() {
     children+=("$simulator")
     until grep -qs '^Listening' "$work/simulator"; do sleep 0.1; done
     start_screen 1280x800
-    rm -rf "$work/settings"
+    rm -rf "$work/settings" "$work"/horn*
     mkdir -p "$work/Documents"
+    "$programs/mz6218-cli" --lan "$instrument" set frequency 10GHz >/dev/null
     HOME=$work XDG_CONFIG_HOME=$work/settings start "$work" "$programs/mz6218-patterns" --language "$1" \
         --measure "$instrument" --rotator "$(sed -n 's/^Rotator on //p' "$work/simulator")"
+    press alt+l ctrl+a
+    xdotool type horn.csv
+    press alt+a
+    xdotool type 0.2
     press alt+k
     sleep 2
     import -window "$(top_window)" "$work/dialog.png"
@@ -251,9 +256,16 @@ measuring() {
     xdotool windowmove "$(top_window)" 0 0 windowsize "$(top_window)" 1280 800
     sleep 70
     import -window root "$work/live.png"
+    until [[ -s $work/horn.csv ]]; do sleep 0.2; done
+    sleep 8 # until the table is back
+    press ctrl+r ctrl+a
+    xdotool type "$work/horn.pdf"
+    press Return
+    until [[ -s $work/horn.pdf ]]; do sleep 0.2; done
+    pdftoppm -r 68.5 -png -singlefile "$work/horn.pdf" "$work/report"
     bench
-    convert \( "$work/bench.png" "$work/dialog.png" -background white -append \) "$work/live.png" +append \
-        -strip +dither -colors 128 "PNG8:$pictures/measuring$2.png"
+    convert \( "$work/bench.png" "$work/dialog.png" -background white -append \) "$work/live.png" \
+        \( "$work/report.png" -bordercolor '#b0b6c0' -border 1 \) +append -strip +dither -colors 128 "PNG8:$pictures/measuring$2.png"
     stop
     kill "$simulator"
 }

@@ -78,7 +78,7 @@ private:
     {
         auto *box = new QDoubleSpinBox;
         box->setRange(-200.0, 200.0);
-        box->setDecimals(3);
+        box->setDecimals(4); // as the means of a measurement
         box->setSuffix(QLatin1Char(' ') + unit);
         box->setToolTip(tip);
         form.addRow(label, box);

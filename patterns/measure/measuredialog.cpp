@@ -279,8 +279,7 @@ void MeasureDialog::check()
         tellFindings();
         tellPlan();
         tellFarField();
-        if (m_start->isEnabled())
-            m_start->setDefault(true);
+        focusButton(m_start->isEnabled() ? *m_start : *m_check);
     });
     connect(m_devices.get(), &SweepDevices::absent, this,
             [this](SweepDevices::Device device, const QString &reason) {
@@ -288,8 +287,17 @@ void MeasureDialog::check()
                 m_found->setText(isMeter ? tr("The meter does not answer: %1").arg(reason)
                                          : tr("The rotator does not answer: %1").arg(reason));
                 m_check->setEnabled(true);
+                focusButton(*m_check);
             });
     m_devices->check();
+}
+
+/// Makes \a button the one that Enter presses: the next step, not the one that ends it all.
+void MeasureDialog::focusButton(QPushButton &button)
+{
+    button.setDefault(true);
+    if (qobject_cast<QPushButton *>(focusWidget()))
+        button.setFocus();
 }
 
 void MeasureDialog::tellFindings()
@@ -386,6 +394,8 @@ void MeasureDialog::start()
     if (refusal == SweepSession::Refusal::None)
         refusal = m_session->start(*m_devices);
     if (refusal == SweepSession::Refusal::None) {
+        // The meter may have been set otherwise since the check.
+        m_devices->meter().describe();
         accept();
         return;
     }

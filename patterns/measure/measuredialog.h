@@ -43,6 +43,7 @@ private:
 
     void check();
     void dropDevices();
+    void focusButton(QPushButton &button);
     void tellFindings();
     void tellPlan();
     void tellFarField();

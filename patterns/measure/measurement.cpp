@@ -137,6 +137,7 @@ void Measurement::takeEnd()
         curves.setRecord(id, record);
     }
     m_strip->hide();
+    emit ended(); // before a message that waits for the user
     const QString file = QDir::toNativeSeparators(store.curvePath());
     const QString cause = m_session->causeText();
     if (!m_session->isWritten())
@@ -148,5 +149,4 @@ void Measurement::takeEnd()
                         .arg(*run.drift(), 0, 'f', 2));
     else
         m_desk.tell(tr("Measured: %1").arg(file));
-    emit ended();
 }

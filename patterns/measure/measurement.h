@@ -25,7 +25,7 @@ public:
     ~Measurement() override;
 
 signals:
-    /// The run has ended; the curve is an ordinary one now.
+    /// The run has ended; the curve is an ordinary one now. To be put away later, not at once.
     void ended();
 
 private:

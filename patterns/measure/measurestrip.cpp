@@ -45,7 +45,7 @@ MeasureStrip::MeasureStrip(QWidget *parent)
         label->setMinimumWidth(20 * width);
         layout->addWidget(label);
     }
-    m_done->setMaximumWidth(36 * width);
+    m_done->setFixedWidth(34 * width);
     layout->addWidget(m_done);
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);

@@ -63,7 +63,34 @@ void onStopSignals(std::function<void()> stop)
 
 #else
 
-void onStopSignals(std::function<void()> /*stop*/)
-{}
+#include <QCoreApplication>
+
+#include <utility>
+
+#include <windows.h>
+
+namespace {
+
+std::function<void()> stopProgram;
+
+/// Called in a thread of the system's.
+BOOL WINAPI handle(DWORD event)
+{
+    if (qApp)
+        QMetaObject::invokeMethod(
+            qApp, [] { stopProgram(); }, Qt::QueuedConnection);
+    // The system ends the program as soon as this returns, but for Ctrl+C and Ctrl+Break.
+    if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
+        ::Sleep(INFINITE);
+    return TRUE;
+}
+
+} // namespace
+
+void onStopSignals(std::function<void()> stop)
+{
+    stopProgram = std::move(stop);
+    ::SetConsoleCtrlHandler(handle, TRUE);
+}
 
 #endif

@@ -3,19 +3,26 @@
 #include "2d/view/pathinfo.h"
 #include "chartprobe.h"
 #include "patterns/lossactions.h"
+#include "patterns/measure/measuredialog.h"
+#include "patterns/measure/measurestrip.h"
+#include "patterns/measuremenu.h"
 #include "patterns/openactions.h"
 #include "patterns/patternwindow.h"
 #include "patterns/saveactions.h"
 #include "patterns/savequestion.h"
 #include "patterns/workbench.h"
+#include "simulatorprocess.h"
 #include "testmain.h"
 
 #include <QAction>
 #include <QClipboard>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 
@@ -265,6 +272,79 @@ private slots:
         QCOMPARE(names(m_window->form().cartesianChart()), names(m_window->form().polarChart()));
         action("actionRedo").trigger();
         QCOMPARE(all().size(), after.size() + 1);
+    }
+
+    void gainIsComparedWithAReference()
+    {
+        m_window->opening().openFiles({sample("patch.csv"), sample("horn.csv")});
+        const QVector<QPointF> measured = curves().points(2);
+        curves().select(2);
+        const ModalScript script({[](QWidget *dialog) {
+            const auto fields = dialog->findChildren<QDoubleSpinBox *>();
+            fields.at(0)->setValue(15.0); // gain, level (proposed), loss, loss of the reference
+            fields.at(2)->setValue(1.5);
+            fields.at(3)->setValue(0.25);
+            qobject_cast<QDialog *>(dialog)->accept();
+        }});
+        for (QAction *entry : action("actionUndo").parent()->findChildren<QAction *>()) {
+            if (entry->text().contains(text("Comparison")))
+                entry->trigger();
+        }
+        QVERIFY(script.isDone());
+        QCOMPARE(curves().points(2), measured);
+        constexpr double peak = 8.195; // of the patch
+        QVERIFY(qAbs(curves().points(3).at(7).y() - measured.at(7).y() - (15.0 - peak + 1.25)) < 1e-9);
+        const QString inputs = curves().record(3).notes.last();
+        for (const QString &part : {curves().name(1), text("15 dBi"), text("1.5 dB"), text("0.25 dB")})
+            QVERIFY2(inputs.contains(part), qPrintable(inputs));
+    }
+
+    void measuresInTheChamber()
+    {
+        SimulatorProcess chamber;
+        QVERIFY(chamber.start({text("--pattern"), sample("horn.csv"), text("--rotator"), text("0"),
+                               text("--rotator-speed"), text("60"), text("--noise"), text("0")}));
+        m_workbench->rememberFolder(file("any.csv"));
+        const QString address = text("127.0.0.1:%1");
+        QVector<QDoubleSpinBox *> angles; // from, to, step, zero
+        QVector<QPushButton *> buttons;   // check, start
+        const auto open = [&] {
+            m_window->measuring().measurePattern(address.arg(chamber.port()),
+                                                 address.arg(chamber.rotatorPort()));
+            auto *dialog = m_window->findChild<MeasureDialog *>();
+            angles = dialog->findChildren<QDoubleSpinBox *>().toVector();
+            buttons = dialog->findChild<QDialogButtonBox *>()->findChildren<QPushButton *>().toVector();
+            for (QSpinBox *field : dialog->findChildren<QSpinBox *>())
+                field->setValue(0); // settling, readings: as few as there may be
+            QVERIFY(!buttons.at(1)->isEnabled());
+            buttons.at(0)->click();
+            QTRY_VERIFY(buttons.at(1)->isEnabled());
+        };
+        open();
+        struct Plan
+        {
+            QVector<double> angles;
+            bool possible;
+        };
+        for (const Plan &plan : {Plan{{-180, 181, 5, 0}, false}, Plan{{-180, 180, 5, 300}, false},
+                                 Plan{{-180, 180, 5, 450}, true}, Plan{{0, 4, 2, 0}, true}}) {
+            for (int i = 0; i < plan.angles.size(); ++i)
+                angles.at(i)->setValue(plan.angles.at(i));
+            QCOMPARE(buttons.at(1)->isEnabled(), plan.possible);
+        }
+        buttons.at(1)->click();
+        const QVector<QPointF> expected{{0, 20.87}, {2, 20.71}, {4, 20.22}};
+        QTRY_COMPARE_WITH_TIMEOUT(curves().points(1), expected, 20000);
+        QTRY_VERIFY(!m_window->findChild<MeasureStrip *>());
+        QVERIFY(curves().record(1).isSaved && QFile::exists(curves().record(1).file));
+        open();
+        angles.at(0)->setValue(90);
+        angles.at(1)->setValue(0);
+        buttons.at(1)->click();
+        QVERIFY(!chamber.notes().contains(text("rotator P 90.0000 0.0000")));
+        QTRY_VERIFY(chamber.notes().contains(text("rotator P 90.0000 0.0000")));
+        m_window->close();
+        QTRY_COMPARE(chamber.notes().filter(text("rotator")).last(), text("rotator S"));
     }
 
     void unsavedCurvesAreAskedFor()
