@@ -8,6 +8,7 @@
 #include "patterns/measure/measurestrip.h"
 
 #include <QDir>
+#include <QTimer>
 
 namespace {
 
@@ -69,8 +70,9 @@ Measurement::Measurement(CurveDesk &desk, std::unique_ptr<SweepDevices> devices,
     connect(run, &SweepSession::measured, this, &Measurement::showCurve);
     connect(run, &SweepSession::progressed, this, &Measurement::showProgress);
     connect(run, &SweepSession::ended, this, &Measurement::takeEnd);
-    showCurve();
     showProgress();
+    // What a run that is resumed brings along, once the strip has its place.
+    QTimer::singleShot(0, this, &Measurement::showCurve);
 }
 
 Measurement::~Measurement()
@@ -147,6 +149,8 @@ void Measurement::takeEnd()
     else if (run.isMarked())
         m_desk.warn(tr("The level drifted by %1 dB while the pattern was measured.")
                         .arg(*run.drift(), 0, 'f', 2));
+    else if (m_session->cause() == SweepRun::Cause::User)
+        m_desk.tell(tr("Stopped; measured so far: %1").arg(file));
     else
         m_desk.tell(tr("Measured: %1").arg(file));
 }

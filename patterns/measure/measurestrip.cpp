@@ -102,8 +102,13 @@ void MeasureStrip::showAgain()
     else if (state.isEmpty() && now.state == SweepRun::State::Returning)
         state = tr("The table turns back");
     m_state->setText(state);
-    m_pause->setEnabled(!isPaused && now.state != SweepRun::State::Returning);
-    m_resume->setEnabled(isPaused);
+    QPushButton *next = isPaused ? m_resume : m_pause;
+    QPushButton *other = isPaused ? m_pause : m_resume;
+    next->setEnabled(now.state != SweepRun::State::Returning);
+    // A button that is disabled would hand the keyboard on to Stop.
+    if (other->hasFocus())
+        next->setFocus();
+    other->setEnabled(false);
 }
 
 void MeasureStrip::changeEvent(QEvent *event)

@@ -293,9 +293,11 @@ private slots:
         QVERIFY(script.isDone());
         QCOMPARE(curves().points(2), measured);
         constexpr double peak = 8.195; // of the patch
-        QVERIFY(qAbs(curves().points(3).at(7).y() - measured.at(7).y() - (15.0 - peak + 1.25)) < 1e-9);
+        QVERIFY(qAbs(curves().points(3).at(7).y() - measured.at(7).y() - (15.0 - peak + 1.25)) <
+                1e-9);
         const QString inputs = curves().record(3).notes.last();
-        for (const QString &part : {curves().name(1), text("15 dBi"), text("1.5 dB"), text("0.25 dB")})
+        for (const QString &part :
+             {curves().name(1), text("15 dBi"), text("1.5 dB"), text("0.25 dB")})
             QVERIFY2(inputs.contains(part), qPrintable(inputs));
     }
 
@@ -313,7 +315,8 @@ private slots:
                                                  address.arg(chamber.rotatorPort()));
             auto *dialog = m_window->findChild<MeasureDialog *>();
             angles = dialog->findChildren<QDoubleSpinBox *>().toVector();
-            buttons = dialog->findChild<QDialogButtonBox *>()->findChildren<QPushButton *>().toVector();
+            buttons =
+                dialog->findChild<QDialogButtonBox *>()->findChildren<QPushButton *>().toVector();
             for (QSpinBox *field : dialog->findChildren<QSpinBox *>())
                 field->setValue(0); // settling, readings: as few as there may be
             QVERIFY(!buttons.at(1)->isEnabled());

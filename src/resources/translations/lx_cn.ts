@@ -2035,6 +2035,10 @@ correction</source>
         <source>Measured: %1</source>
         <translation>已测量：%1</translation>
     </message>
+    <message>
+        <source>Stopped; measured so far: %1</source>
+        <translation>已停止；已测量部分：%1</translation>
+    </message>
 </context>
 <context>
     <name>MessageDialog</name>

@@ -2035,6 +2035,10 @@ correction</translation>
         <source>Measured: %1</source>
         <translation>Measured: %1</translation>
     </message>
+    <message>
+        <source>Stopped; measured so far: %1</source>
+        <translation>Stopped; measured so far: %1</translation>
+    </message>
 </context>
 <context>
     <name>MessageDialog</name>
