@@ -262,7 +262,7 @@ measuring() {
     xdotool type "$work/horn.pdf"
     press Return
     until [[ -s $work/horn.pdf ]]; do sleep 0.2; done
-    pdftoppm -r 68.5 -png -singlefile "$work/horn.pdf" "$work/report"
+    pdftoppm -r 90 -H 798 -png -singlefile "$work/horn.pdf" "$work/report"
     bench
     convert \( "$work/bench.png" "$work/dialog.png" -background white -append \) "$work/live.png" \
         \( "$work/report.png" -bordercolor '#b0b6c0' -border 1 \) +append -strip +dither -colors 128 "PNG8:$pictures/measuring$2.png"

@@ -286,7 +286,7 @@ private slots:
             fields.at(3)->setValue(0.25);
             qobject_cast<QDialog *>(dialog)->accept();
         }});
-        for (QAction *entry : action("actionUndo").parent()->findChildren<QAction *>()) {
+        for (QAction *entry : m_window->findChild<QMenu *>(text("menuEdit"))->actions()) {
             if (entry->text().contains(text("Comparison")))
                 entry->trigger();
         }
