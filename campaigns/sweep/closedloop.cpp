@@ -3,10 +3,11 @@
 #include "2d/data/curvetext.h"
 #include "simulatorprocess.h"
 #include "sweep/runfile.h"
+#include "testfiles.h"
 
-#include <QFile>
 #include <QProcess>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -19,12 +20,6 @@ const char *const tableFaults[] = {
     "late:700,p=0.005",     "no-reply,p=0.0008",         "refuse,p=0.004",
     "garbage,p=0.002",      "pieces:5,p=0.05",           "drop-before,p=0.0008",
     "drop-inside,p=0.0008", "drop-after,only=P,p=0.003", "two-lines,only=p,p=0.01"};
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// Whether the program says that there is nothing left to do; it is killed after \a patience ms.
 bool isFinished(const QStringList &arguments, int patience, QStringList &wrong)
