@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int smallest = 48;
+constexpr int smallest = 30;
 constexpr int largest = 300;
 
 QFont sized(const QLabel *label, int pixels)

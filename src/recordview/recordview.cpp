@@ -18,6 +18,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QSaveFile>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTimer>
@@ -55,7 +56,8 @@ RecordView::RecordView(QWidget *parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
     m_chart->setAcceptDrops(false); // files dropped on it are the window's
-    resize(1200, 700);
+    constexpr QSize frame(8, 40);
+    resize(QSize(1200, 700).boundedTo(QGuiApplication::primaryScreen()->availableSize() - frame));
     auto *splitter = new QSplitter(this);
     splitter->addWidget(m_chart);
     splitter->addWidget(m_tables);
