@@ -186,12 +186,12 @@ private slots:
         QVERIFY(series->pointsVector().isEmpty());
         chart.feed(level, 0);
         chart.feed(level, 20'500); // the instrument kept the console waiting
-        chart.feed(level, 21'100); // what was left of a second counts
-        chart.feed(Reading::missing(), 21'200);
+        chart.feed(level, 22'100); // what was left of a second counts
+        chart.feed(Reading::missing(), 22'200);
         QCOMPARE(
             series->pointsVector(),
             (QVector<QPointF>{
-                {1 / 60.0, -20.0}, {21 / 60.0, -20.0}, {22 / 60.0, -20.0}, {23 / 60.0, 100.0}}));
+                {1 / 60.0, -20.0}, {21 / 60.0, -20.0}, {23 / 60.0, -20.0}, {24 / 60.0, 100.0}}));
         chart.feed(level, 3600'000);
         QCOMPARE(series->pointsVector(), (QVector<QPointF>{{0.0, -20.0}}));
     }

@@ -41,6 +41,11 @@ private slots:
         QCOMPARE(seen({-5, 4, 4, -5}), QLineF()); // past a corner
         QCOMPARE(seen({-1, 0, -1, 10}), QLineF());
         QCOMPARE(seen({5, 5, std::nan(""), 5}), QLineF());
+        // What is thinned begins and ends where the curve does.
+        const auto thinned =
+            visibleSegments(Points{{1, 1}, {5, 5}, {9, 9}}, QRectF(0, 0, 10, 10), 1.0);
+        QCOMPARE(thinned.constFirst().p1(), QPointF(1, 1));
+        QCOMPARE(thinned.constLast().p2(), QPointF(9, 9));
     }
 
     void piecesJoin()
