@@ -5,11 +5,9 @@
 #include "patterns/svgdevice.h"
 
 #include <QBuffer>
-#include <QChart>
 #include <QFileInfo>
 #include <QFontInfo>
 #include <QImageWriter>
-#include <QLegend>
 #include <QPainter>
 
 namespace {
@@ -49,7 +47,7 @@ QVector<LegendLine> legendLines(const CurveSet &curves, const QFontMetrics &metr
             continue;
         LegendEntry entry{curves.name(id), curves.color(id), 0};
         entry.name =
-            metrics.elidedText(entry.name, Qt::ElideRight, width - 2 * margin - swatchSize);
+            metrics.elidedText(entry.name, Qt::ElideMiddle, width - 2 * margin - swatchSize);
         entry.width = swatchSize + swatchGap + metrics.horizontalAdvance(entry.name);
         if (!lines.last().isEmpty() &&
             widthOf(lines.last() + LegendLine{entry}) > width - 2 * margin)
@@ -75,24 +73,12 @@ void paintLegend(QPainter &painter, const QVector<LegendLine> &lines, const QRec
     }
 }
 
-/// What a view shows above its legend, or left of it.
-QRect chartArea(const GraphicsBase &view)
-{
-    const QtCharts::QLegend *legend = view.chart()->legend();
-    if (!legend->isVisible())
-        return {QPoint(), view.size()};
-    const QRectF place = legend->geometry();
-    if (legend->alignment() == Qt::AlignRight)
-        return {0, 0, qMin(qRound(place.left()), view.width()), view.height()};
-    return {0, 0, view.width(), qMin(qRound(place.top()), view.height())};
-}
-
 /// Where the parts of the picture stand.
 struct Layout
 {
     explicit Layout(const ListChart &form)
-        : left(chartArea(form.polarChart()))
-        , right(chartArea(form.cartesianChart()))
+        : left(form.polarChart().areaAboveLegend())
+        , right(form.cartesianChart().areaAboveLegend())
     {
         const int width = left.width() + right.width();
         legend = legendLines(form.curves(), QFontMetrics(form.font()), width);

@@ -21,7 +21,7 @@ void prepare(GraphicsBase &view)
 {
     QFont font = view.chart()->legend()->font();
     font.setWeight(QFont::Normal);
-    view.showLegend(Qt::AlignBottom, font);
+    view.showLegend(font);
     view.setXDivisions(circleDivisions);
     view.setLabelFormat(QStringLiteral("%g"));
 }

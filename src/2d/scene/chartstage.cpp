@@ -1,8 +1,10 @@
 #include "2d/scene/chartstage.h"
 
 #include "2d/data/chartmapping.h"
+#include "2d/scene/chartlegend.h"
 #include "2d/scene/curveseries.h"
 #include "2d/scene/directionlabels.h"
+#include "2d/scene/ticklabels.h"
 
 #include <QChart>
 #include <QGraphicsLayout>
@@ -12,6 +14,7 @@
 #include <QLineSeries>
 #include <QPolarChart>
 #include <QValueAxis>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -72,43 +75,6 @@ QString shownAsText(const QString &text)
 {
     const bool special = text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'));
     return special ? text.toHtmlEscaped() : text;
-}
-
-/// A name as the legend shows it: long ones lose their middle, since they often differ at the end.
-QString legendLabel(const QString &name)
-{
-    constexpr int mostCharacters = 28;
-    if (name.size() <= mostCharacters)
-        return shownAsText(name);
-    constexpr int half = mostCharacters / 2 - 1;
-    return shownAsText(name.left(half) + QChar(0x2026) + name.right(half));
-}
-
-/// A format with the digits that the numbers at the ticks need: those of \a format as long as they
-/// tell every number to a twentieth of the step.
-QString fittingFormat(const QValueAxis &axis, const QString &format)
-{
-    const double step = (axis.max() - axis.min()) / std::max(1, axis.tickCount() - 1);
-    if (!(step > 0.0) || !std::isfinite(step))
-        return format;
-    constexpr int mostDecimals = 9;
-    const auto strayFrom = [&](double unit) { // the most that a number differs, in steps
-        double most = 0.0;
-        for (int tick = 0; tick < axis.tickCount(); ++tick) {
-            const double number = (axis.min() + tick * step) * unit;
-            most = std::max(most, std::abs(number - std::round(number)) / (step * unit));
-        }
-        return most;
-    };
-    const bool isGeneral = format == QLatin1String("%g");
-    constexpr double exactly = 1e-9;
-    if (isGeneral && strayFrom(1.0) < exactly)
-        return format;
-    for (int decimals = isGeneral ? 0 : 1; decimals <= mostDecimals; ++decimals) {
-        if (strayFrom(std::pow(10.0, decimals)) <= 0.05)
-            return QStringLiteral("%.%1f").arg(decimals);
-    }
-    return format;
 }
 
 /// By way of the empty title, which makes the chart lay itself out again.
@@ -240,7 +206,23 @@ void ChartStage::setXDivisions(int divisions)
     if (!m_chart)
         return;
     const LayoutGuard guard(*this);
+    m_xDivisions = divisions;
     m_xAxis->setTickCount(divisions + 1);
+    fitLabels();
+}
+
+/// Numbers along the bottom that would not find room are left out, rather than shortened.
+void ChartStage::fitDivisions()
+{
+    if (!hasXRange() || m_xDivisions == 0 || plotArea().isEmpty())
+        return;
+    const int divisions =
+        TickLabels::fittingDivisions(*m_xAxis, m_xDivisions, m_labelFormat, plotArea().width());
+    if (divisions + 1 == m_xAxis->tickCount())
+        return;
+    const LayoutGuard guard(*this);
+    m_xAxis->setTickCount(divisions + 1);
+    fitLabels();
 }
 
 void ChartStage::setYDivisions(int divisions)
@@ -262,8 +244,10 @@ void ChartStage::setLabelFormat(const QString &format)
 
 void ChartStage::fitLabels()
 {
+    fitDivisions();
     for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
-        const QString format = fittingFormat(*axis, m_labelFormat);
+        TickLabels::settleZero(*axis);
+        const QString format = TickLabels::fittingFormat(*axis, m_labelFormat);
         if (format != axis->labelFormat())
             axis->setLabelFormat(format);
     }
@@ -293,17 +277,15 @@ void ChartStage::resize(const QSizeF &size)
         return;
     const LayoutGuard guard(*this);
     m_chart->resize(size);
+    placeLegend();
 }
 
-void ChartStage::showLegend(Qt::Alignment side, const QFont &font)
+void ChartStage::showLegend(const QFont &font)
 {
     if (!m_chart)
         return;
     const LayoutGuard guard(*this);
-    m_legendBelow = side == Qt::AlignBottom;
-    m_chart->legend()->setAlignment(side);
-    m_chart->legend()->setFont(font);
-    m_chart->legend()->show();
+    m_legend = new ChartLegend(*m_chart, font);
     placeLegend();
 }
 
@@ -319,11 +301,12 @@ void ChartStage::setLegendEntry(const CurveSeries &series, const QString &name, 
     const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
     for (QLegendMarker *entry : entries) {
         entry->setVisible(true);
-        entry->setLabel(legendLabel(name));
+        entry->setLabel(shownAsText(name));
         entry->setBrush(shade);
         entry->setPen(QPen(shade));
         entry->setLabelBrush(greyed ? QColor(Qt::gray) : QColor(Qt::black));
     }
+    placeLegend();
 }
 
 bool ChartStage::hasLegendEntry(const CurveSeries &series, const QString &name) const
@@ -332,18 +315,18 @@ bool ChartStage::hasLegendEntry(const CurveSeries &series, const QString &name) 
         return false;
     const QList<QLegendMarker *> entries = m_chart->legend()->markers(series.line());
     return !entries.isEmpty() &&
-           (entries.first()->label() == name || entries.first()->label() == legendLabel(name));
+           (entries.first()->label() == name || entries.first()->label() == shownAsText(name));
 }
 
-/// Below the chart a few names find room; more stand in a list beside it.
 void ChartStage::placeLegend()
 {
-    constexpr int mostBelow = 6;
-    if (!m_legendBelow)
+    if (!m_legend)
         return;
-    const auto side = m_series.size() > mostBelow ? Qt::AlignRight : Qt::AlignBottom;
-    if (m_chart->legend()->alignment() != side)
-        m_chart->legend()->setAlignment(side);
+    m_legendHeight = m_legend->arrange(m_chart->size());
+    const QMargins margins(0, 0, 0, qCeil(m_legendHeight));
+    if (m_chart->margins() != margins)
+        m_chart->setMargins(margins);
+    m_legend->update();
 }
 
 ViewRange ChartStage::axisRange() const
@@ -431,12 +414,18 @@ ChartStage::LayoutGuard::LayoutGuard(ChartStage &stage)
 
 ChartStage::LayoutGuard::~LayoutGuard()
 {
-    if (--m_stage.m_guards > 0)
+    if (m_stage.m_guards > 1) {
+        --m_stage.m_guards;
         return;
+    }
     // The layout that a change asks for would otherwise come with the next event, past this guard.
     QChart *chart = m_stage.m_chart;
-    if (chart && !chart->size().isEmpty())
+    if (chart && !chart->size().isEmpty()) {
         chart->layout()->activate();
+        m_stage.fitDivisions(); // the width for the numbers is known only now
+        chart->layout()->activate();
+    }
+    --m_stage.m_guards;
     for (CurveSeries *series : qAsConst(m_stage.m_series))
         series->putBack();
 }

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class ChartLegend;
 class CurveSeries;
 class DirectionLabels;
 
@@ -64,7 +65,7 @@ public:
     /// The titles of the axis along the bottom or round the circle, and of the other one.
     void setXTitle(const QString &title);
     void setYTitle(const QString &title);
-    /// One more than the number of ticks.
+    /// One less than the number of ticks; along the bottom fewer where they find no room.
     void setXDivisions(int divisions);
     void setYDivisions(int divisions);
     /// A printf format of a double for the numbers along both axes. Where it would show different
@@ -76,7 +77,10 @@ public:
     void setXRange(double min, double max);
     void setYRange(double min, double max);
     void resize(const QSizeF &size);
-    void showLegend(Qt::Alignment side, const QFont &font);
+    /// Shows the names of the curves below the chart.
+    void showLegend(const QFont &font);
+    /// The height that they take, pixels.
+    double legendHeight() const { return m_legendHeight; }
     /// Shows the entry of \a series in \a color, or greyed.
     void setLegendEntry(const CurveSeries &series, const QString &name, const QColor &color,
                         bool greyed);
@@ -98,6 +102,7 @@ private:
     void placeDirections();
 
     void fitLabels();
+    void fitDivisions();
     void placeLegend();
 
     int m_kind;
@@ -107,7 +112,9 @@ private:
     QVector<CurveSeries *> m_series;
     QString m_title;
     QString m_labelFormat = QStringLiteral("%.1f");
-    bool m_legendBelow = false;
+    int m_xDivisions = 0; ///< wanted; 0: as the chart was built
+    ChartLegend *m_legend = nullptr; ///< the chart's
+    double m_legendHeight = 0.0;
     int m_guards = 0;
     std::optional<PolarView> m_polarView;
     DirectionLabels *m_directions = nullptr; ///< the chart's

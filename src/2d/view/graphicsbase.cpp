@@ -14,6 +14,7 @@
 #include <QLineSeries>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
+#include <QtMath>
 
 using namespace QtCharts;
 
@@ -152,9 +153,14 @@ void GraphicsBase::setLabelFormat(const QString &format)
     m_stage->setLabelFormat(format);
 }
 
-void GraphicsBase::showLegend(Qt::Alignment side, const QFont &font)
+void GraphicsBase::showLegend(const QFont &font)
 {
-    m_stage->showLegend(side, font);
+    m_stage->showLegend(font);
+}
+
+QRect GraphicsBase::areaAboveLegend() const
+{
+    return {0, 0, width(), height() - qCeil(m_stage->legendHeight())};
 }
 
 // Hovering over a curve shows nothing: names and values stand in the tables.

@@ -98,8 +98,10 @@ public:
     void retitle();
     /// A printf format of a double for the numbers along both axes.
     void setLabelFormat(const QString &format);
-    /// Shows the legend at \a side.
-    void showLegend(Qt::Alignment side, const QFont &font);
+    /// Shows the names of the curves below the chart.
+    void showLegend(const QFont &font);
+    /// The part of the view above them, pixels.
+    QRect areaAboveLegend() const;
 
 signals:
     void doubleClick(const GraphicsBase *view);
