@@ -180,6 +180,15 @@ private slots:
         };
         QCOMPARE(selectedAt({20, -20}), 1);
         QCOMPARE(selectedAt({50, -20}), 2); // where two of them cross
+        // There the one that lies on top would be dragged, were it not for the selection.
+        bench.view.updatePathSelection(1);
+        QWidget *viewport = bench.view.viewport();
+        const QPoint cross = bench.view.toScene({50, -20}).toPoint();
+        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, cross);
+        QCOMPARE(bench.view.scene()->mouseGrabberItem(),
+                 static_cast<QGraphicsItem *>(bench.view.paths().value(2)->pathItem()));
+        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, cross);
+        QVERIFY(!bench.view.scene()->mouseGrabberItem());
         QCOMPARE(selectedAt({20, -35}), 3);
         for (const PathInfo *path : bench.view.paths())
             QCOMPARE(path->isSelected(), path->pathId() == 3);
@@ -423,6 +432,12 @@ private slots:
         QCOMPARE(table->item(1, 2)->text(), text("-20.00"));
         // Every row can be seen.
         QVERIFY(table->height() >= table->horizontalHeader()->height() + 2 * table->rowHeight(0));
+        // A press on the table is none on the curve below it.
+        const QPointF below = bench.view.toScene({50, -20});
+        bench.path->markTablePanel()->setPos(below - QPointF(20, 20));
+        run(bench.view, "clearSelectionSlot");
+        click(bench.view, below);
+        QVERIFY(!bench.view.selectedPath());
         run(bench.view, "showOrHideMarkTableSlot");
         QVERIFY(!panel->isVisible());
     }

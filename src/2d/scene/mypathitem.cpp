@@ -381,6 +381,13 @@ void MyPathItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
     event->accept();
 }
 
+void MyPathItem::takePress(const QPointF &position)
+{
+    m_pressX = position.x();
+    m_pressY = position.y();
+    grabMouse();
+}
+
 void MyPathItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     const bool pressed = m_pressX >= 0.0 && m_pressY >= 0.0;

@@ -70,6 +70,8 @@ public:
 
     /// Whether the scene position \a position lies on the drawn curve, give or take a few pixels.
     bool hits(const QPointF &position) const;
+    /// Holds the mouse, pressed at the scene position \a position, as if the press had come here.
+    void takePress(const QPointF &position);
 
     /// The highest scene position of the drawn curve in the plot area, if any of it is there.
     std::optional<QPointF> highestPoint() const;

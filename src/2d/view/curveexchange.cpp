@@ -75,6 +75,7 @@ void CurveExchange::exportData()
         fileName, CurveText::toFile(m_target.chartTitle(), path->name(), path->points()));
     switch (outcome.kind) {
     case FileOutcome::Kind::Written:
+        m_target.noteExport(path->pathId(), fileName);
         tell(tr("Export csv successfully"), Success);
         break;
     case FileOutcome::Kind::OpenFailed:

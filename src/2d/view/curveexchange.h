@@ -28,6 +28,8 @@ public:
     /// Takes note of the name that an imported file gives its curve.
     virtual void setSeriesName(QString name) = 0;
     virtual QPixmap picture() = 0;
+    /// The curve \a pathId is in \a fileName now.
+    virtual void noteExport(int pathId, const QString &fileName) = 0;
 };
 
 /// The ways in which curves leave and enter one chart view: clipboard, drag and drop, CSV files,

@@ -115,6 +115,8 @@ signals:
     void lookChanged(int pathId);
     /// Another curve, or none, is selected now.
     void selectionChanged();
+    /// The user has written the curve \a pathId to \a fileName.
+    void curveExported(int pathId, const QString &fileName);
     /// The user shows another range.
     void rangeChanged();
 
@@ -195,6 +197,7 @@ private:
     QWidget *dialogParent() override { return window(); }
     QString chartTitle() const override;
     QPixmap picture() override;
+    void noteExport(int pathId, const QString &fileName) override;
 
     void connectParts();
     void showFigures(PathInfo &path);
@@ -205,6 +208,7 @@ private:
     bool pressKey(int key);
     void placeFigures();
     void pressCurves(const QPoint &position);
+    void handDragOver(const QPoint &position);
     void zoomAbout(const QPointF &centre, double factor);
     void showRange(const ViewRange &range);
     ChartSituation situation() const;

@@ -3,6 +3,7 @@
 #include "2d/scene/chartstage.h"
 #include "2d/scene/mycustomproxy.h"
 #include "2d/scene/mypathitem.h"
+#include "2d/scene/tablepanel.h"
 #include "2d/view/chartmenu.h"
 #include "2d/view/curvelist.h"
 #include "2d/view/graphicsbase.h"
@@ -94,7 +95,10 @@ void GraphicsBase::mousePressEvent(QMouseEvent *event)
     }
     if (!m_steering.isPanning()) {
         QGraphicsView::mousePressEvent(event);
+        if (dynamic_cast<const TablePanel *>(itemAt(event->pos())))
+            return; // what lies under a table is not meant
         pressCurves(event->pos());
+        handDragOver(event->pos());
         return;
     }
     if (event->button() != Qt::LeftButton)
@@ -116,6 +120,18 @@ void GraphicsBase::pressCurves(const QPoint &position)
     }
 }
 
+/// The curve that lies on top holds the mouse; where the press has selected another one, that is
+/// the one to be dragged.
+void GraphicsBase::handDragOver(const QPoint &position)
+{
+    auto *held = dynamic_cast<MyPathItem *>(scene()->mouseGrabberItem());
+    const PathInfo *selected = selectedPath();
+    if (held && selected && selected->pathItem() != held) {
+        held->ungrabMouse();
+        selected->pathItem()->takePress(mapToScene(position));
+    }
+}
+
 // Release and move go on only to an item that holds the mouse: a marker, a curve that is dragged
 // out, a table that is moved. The view itself does nothing with them.
 void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
@@ -124,8 +140,12 @@ void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
         viewport()->setCursor(m_steering.cursor());
         return;
     }
-    if (!m_steering.isPanning() && scene()->mouseGrabberItem())
-        QGraphicsView::mouseReleaseEvent(event);
+    if (m_steering.isPanning() || !scene()->mouseGrabberItem())
+        return;
+    QGraphicsView::mouseReleaseEvent(event);
+    // Of a mouse that was handed over the scene does not let go by itself.
+    if (auto *held = dynamic_cast<MyPathItem *>(scene()->mouseGrabberItem()))
+        held->ungrabMouse();
 }
 
 void GraphicsBase::mouseMoveEvent(QMouseEvent *event)
@@ -217,6 +237,11 @@ QPixmap GraphicsBase::picture()
 {
     const PlainLook look(*m_curves);
     return unfocusedPicture();
+}
+
+void GraphicsBase::noteExport(int pathId, const QString &fileName)
+{
+    emit curveExported(pathId, fileName);
 }
 
 void GraphicsBase::updatePathSelection(int pathId)
