@@ -2,6 +2,8 @@
 #include "ui_patternwindow.h"
 
 #include "2d/data/curvetext.h"
+#include "2d/form/listchart.h"
+#include "2d/view/graphicsbase.h"
 #include "patterns/chartpicture.h"
 #include "patterns/curvedesk.h"
 #include "patterns/curvehistory.h"
@@ -41,6 +43,8 @@ SaveActions::SaveActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
     connect(m_ui.actionSaveReport, &QAction::triggered, this, &SaveActions::askReport);
     connect(m_ui.actionExportPattern, &QAction::triggered, this, &SaveActions::askPattern);
     connect(m_ui.actionPrint, &QAction::triggered, this, &SaveActions::print);
+    for (const GraphicsBase *view : {&m_desk.form().polarChart(), &m_desk.form().cartesianChart()})
+        connect(view, &GraphicsBase::curveExported, this, &SaveActions::noteSaved);
 }
 
 void SaveActions::update()
@@ -155,16 +159,21 @@ bool SaveActions::saveCurve(const QString &file)
 
 bool SaveActions::saveOne(int id, const QString &file)
 {
-    CurveSet &curves = m_desk.curves();
+    const CurveSet &curves = m_desk.curves();
     if (!m_desk.save(file,
                      CurveText::toFile(m_desk.form().title(), curves.name(id), curves.points(id))))
         return false;
+    noteSaved(id, file);
+    return true;
+}
+
+void SaveActions::noteSaved(int id, const QString &file)
+{
     const CurveHistory::Step noStep(m_desk.history(), {}, CurveHistory::Kind::Final);
-    CurveRecord record = curves.record(id);
+    CurveRecord record = m_desk.curves().record(id);
     record.file = QFileInfo(file).absoluteFilePath();
     record.isSaved = true;
-    curves.setRecord(id, record);
-    return true;
+    m_desk.curves().setRecord(id, record);
 }
 
 bool SaveActions::savePicture(const QString &file)

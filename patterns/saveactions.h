@@ -45,6 +45,7 @@ private:
     void print();
     bool saveAll(const QList<int> &ids);
     bool saveOne(int id, const QString &file);
+    void noteSaved(int id, const QString &file);
 
     Ui::PatternWindow &m_ui;
     CurveDesk &m_desk;

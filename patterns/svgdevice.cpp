@@ -102,8 +102,10 @@ private:
     {
         const QPainterPath mapped = m_transform.map(path);
         m_isClipped = operation != Qt::NoClip;
-        if (!m_isClipped)
+        if (!m_isClipped) {
+            m_clip = {}; // or enabling clips would bring it back
             return;
+        }
         m_clip = operation == Qt::IntersectClip && !m_clip.isEmpty() ? m_clip.intersected(mapped)
                                                                      : mapped;
         ++m_clips;

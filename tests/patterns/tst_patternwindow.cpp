@@ -129,6 +129,9 @@ private slots:
         QVERIFY(m_window->saving().savePicture(file("x.png")));
         const QImage image(file("x.png"));
         QVERIFY(pixelsOf(image, image.rect(), curves().color(1), 10).isEmpty());
+        // The names below a drawing are not cut off with its charts.
+        QVERIFY(m_window->saving().savePicture(file("x.svg")));
+        QVERIFY(!contentOf(file("x.svg")).trimmed().endsWith("</g>\n</svg>"));
     }
 
     void reportsHoldThePicture()
@@ -358,6 +361,9 @@ private slots:
         QVERIFY(told([&] { QVERIFY(!m_window->saving().mayClose()); }).contains(text("Mine")));
         curves().select(1);
         QVERIFY(m_window->saving().saveCurve(file("mine.csv")));
+        QVERIFY(m_window->saving().mayClose());
+        curves().rename(1, text("Other"));
+        emit m_window->form().polarChart().curveExported(1, file("other.csv"));
         QVERIFY(m_window->saving().mayClose());
         QCOMPARE(withSuffix(text("/a/b"), {{{}, {text("html")}}, {{}, {text("pdf")}}},
                             {{}, {text("pdf")}}),
