@@ -1,5 +1,7 @@
 #include "patterns/report.h"
 
+#include "2d/data/paratabletext.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -128,8 +130,7 @@ QString verdicts(const Report &report)
         rows += QStringLiteral("<tr>%1</tr>\n")
                     .arg(cells({verdict.curve, verdict.mask,
                                 verdict.passes ? ReportText::tr("pass") : ReportText::tr("fail"),
-                                QString::number(verdict.margin, 'f', 2),
-                                QString::number(verdict.angle, 'f', 2)}));
+                                fixedNumber(verdict.margin, 2), fixedNumber(verdict.angle, 2)}));
     }
     return table(rows);
 }

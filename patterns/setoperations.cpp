@@ -1,6 +1,7 @@
 #include "patterns/setoperations.h"
 
 #include "2d/data/curvealgebra.h"
+#include "2d/data/paratabletext.h"
 #include "patterns/curvedesk.h"
 #include "patterns/curvehistory.h"
 #include "patterns/maskfile.h"
@@ -169,7 +170,7 @@ private:
         desk.addDerived(tr("Compare"), {made});
     }
 
-    static QString number(double value) { return QString::number(value, 'f', 2); }
+    static QString number(double value) { return fixedNumber(value, 2); }
 };
 
 class LoadMask : public CurveOperation

@@ -177,6 +177,9 @@ private slots:
         row("a second header is text", "F1\nAngle,Power\n0,-3.5\nAngle,Power\n", name,
             {{0, -3.5}, {0, 0}});
         row("spreadsheet", "F1\t\nAngle\tPower\n0\t-3,5\n90\t12\n", name, points);
+        row("numbers alone", "0,-3.5\n90,12\n", {}, points);
+        row("numbers as a name", "0,5\nAngle,Power\n0,-3.5\n90,12\n", QStringLiteral("0,5"),
+            points);
         row("some sentence", "Antennas\nare nice", QStringLiteral("Antennas"), {}, Status::NoCurve);
         row("addresses of dropped files", "file:///a,b.csv\nfile:///c,d.csv",
             QStringLiteral("file:///a,b.csv"), {{0, 0}}, Status::NoCurve);

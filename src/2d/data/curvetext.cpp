@@ -197,6 +197,13 @@ void appendRow(CurveText::Curve &curve, std::string_view line)
     curve.points.append(QPointF(row->x, row->y));
 }
 
+/// Whether \a line is nothing but two numbers and a comma.
+bool isRowByCommas(std::string_view line)
+{
+    const std::optional<Row> row = rowByCommas(line);
+    return row && row->isNumeric && !row->hasMore;
+}
+
 /// Whether \a line is a row of two numbers that no comma parts.
 bool isRowOfCells(std::string_view line)
 {
@@ -419,7 +426,11 @@ Curve fromClipboard(const QString &text)
     };
     bool headed = isCellHeader(line);
     bool isCurve = headed;
-    if (isRowOfCells(line)) {
+    std::string_view second;
+    Lines ahead = lines;
+    // Two numbers above a header are the name of a curve, elsewhere its first point.
+    const bool isPoint = isRowByCommas(line) && !(ahead.next(second) && isHeader(second));
+    if (isPoint || isRowOfCells(line)) {
         isCurve = true;
         appendRow(curve, line);
     } else if (!headed) {

@@ -9,24 +9,14 @@ namespace {
 constexpr double naturalLogOfTen = 2.302585092994046;
 constexpr double noCrossPolarData = 255.0;
 
-QString fixed(double value, int decimals)
-{
-    QString text = QStringLiteral("%1").arg(value, 0, 'f', decimals);
-    // What rounds to nothing has no sign.
-    static const QRegularExpression negativeZero(QStringLiteral("^-0\\.?0*$"));
-    if (negativeZero.match(text).hasMatch())
-        text.remove(0, 1);
-    return text;
-}
-
 FloatingTableRow row(const QPair<double, double> &figure)
 {
-    return {fixed(figure.first, 2), fixed(figure.second, 2)};
+    return {fixedNumber(figure.first, 2), fixedNumber(figure.second, 2)};
 }
 
 FloatingTableRow row(double level)
 {
-    return {QString(), fixed(level, 2)};
+    return {QString(), fixedNumber(level, 2)};
 }
 
 double beforeAfterOfFloatingTable(const ParaInfo &info)
@@ -36,10 +26,21 @@ double beforeAfterOfFloatingTable(const ParaInfo &info)
 
 QString crossPolarCell(double ratio)
 {
-    return std::abs(ratio - noCrossPolarData) <= 1e-6 ? QStringLiteral("nan") : fixed(ratio, 4);
+    return std::abs(ratio - noCrossPolarData) <= 1e-6 ? QStringLiteral("nan")
+                                                      : fixedNumber(ratio, 4);
 }
 
 } // namespace
+
+QString fixedNumber(double value, int decimals)
+{
+    QString text = QStringLiteral("%1").arg(value, 0, 'f', decimals);
+    // What rounds to nothing has no sign.
+    static const QRegularExpression negativeZero(QStringLiteral("^-0\\.?0*$"));
+    if (negativeZero.match(text).hasMatch())
+        text.remove(0, 1);
+    return text;
+}
 
 double beforeAfterRatio(const ParaInfo &info)
 {
@@ -48,8 +49,9 @@ double beforeAfterRatio(const ParaInfo &info)
 
 std::array<FloatingTableRow, floatingTableRows> floatingTableCells(const ParaInfo &info)
 {
-    const FloatingTableRow width{fixed(info.halfPowerRight.first - info.halfPowerLeft.first, 2),
-                                 fixed(info.halfPowerLeft.second, 2)};
+    const FloatingTableRow width{
+        fixedNumber(info.halfPowerRight.first - info.halfPowerLeft.first, 2),
+        fixedNumber(info.halfPowerLeft.second, 2)};
     return {row(info.gain),
             row(info.halfPowerLeft),
             row(info.halfPowerRight),
@@ -66,16 +68,16 @@ std::array<FloatingTableRow, floatingTableRows> floatingTableCells(const ParaInf
 QStringList frequencyTableCells(const ParaInfo &info, const QString &frequency)
 {
     return {frequency,
-            fixed(info.gain.second, 4),
-            fixed(std::abs(info.halfPowerRight.first - info.halfPowerLeft.first), 4),
-            fixed(info.firstSideLobeLeft.second, 4),
-            fixed(info.firstSideLobeRight.second, 4),
-            fixed(beforeAfterRatio(info), 4),
-            fixed(info.axialRatio.second, 4),
+            fixedNumber(info.gain.second, 4),
+            fixedNumber(std::abs(info.halfPowerRight.first - info.halfPowerLeft.first), 4),
+            fixedNumber(info.firstSideLobeLeft.second, 4),
+            fixedNumber(info.firstSideLobeRight.second, 4),
+            fixedNumber(beforeAfterRatio(info), 4),
+            fixedNumber(info.axialRatio.second, 4),
             crossPolarCell(info.crossPolarRatio.second)};
 }
 
 QString amplitudeCell(const ParaInfo &info)
 {
-    return fixed(std::pow(10.0, info.gain.second / 20.0), 4);
+    return fixedNumber(std::pow(10.0, info.gain.second / 20.0), 4);
 }

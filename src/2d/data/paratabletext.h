@@ -7,6 +7,9 @@
 
 #include <array>
 
+/// \a value with so many decimals, but without the sign of what rounds to nothing.
+QString fixedNumber(double value, int decimals);
+
 /// The two figures of one row of the table that floats on the chart.
 struct FloatingTableRow
 {

@@ -80,7 +80,14 @@ AxisScale angleScale(const QVector<QVector<QPointF>> &curves)
         return {-180.0, 180.0, 8};
     if (shown.within(0.0, 360.0))
         return {0.0, 360.0, 8};
+    if (shown.within(-180.0, 360.0))
+        return {-180.0, 360.0, 6};
     return roundScale(shown);
+}
+
+double roundedLevel(double level)
+{
+    return std::round(level * 10.0) / 10.0 + 0.0; // and never -0
 }
 
 AxisScale dividedScale(double min, double max)

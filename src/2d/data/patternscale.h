@@ -21,5 +21,8 @@ AxisScale levelScale(const QVector<QVector<QPointF>> &curves);
 /// round ends around what the points cover. The circle from -180 degrees without any point.
 AxisScale angleScale(const QVector<QVector<QPointF>> &curves);
 
+/// \a level in dB to a tenth, as the fields for levels show it.
+double roundedLevel(double level);
+
 /// The range from \a min to \a max as given, with round ticks where they fit the range.
 AxisScale dividedScale(double min, double max);

@@ -1,6 +1,7 @@
 #include "2d/data/supplementtext.h"
 
 #include "2d/data/curvefigures.h"
+#include "2d/data/paratabletext.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -15,10 +16,7 @@ constexpr int differenceColumns = 3;
 
 QString cell(const std::optional<double> &value)
 {
-    if (!value)
-        return QStringLiteral("\u2013");
-    const QString text = QString::number(*value, 'f', 2);
-    return text == QStringLiteral("-0.00") ? text.mid(1) : text;
+    return value ? fixedNumber(*value, 2) : QStringLiteral("\u2013");
 }
 
 } // namespace

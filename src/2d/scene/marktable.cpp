@@ -1,12 +1,11 @@
 #include "2d/scene/marktable.h"
 
+#include "2d/data/paratabletext.h"
 #include "2d/scene/mymarkitem.h"
 #include "2d/scene/tablepanel.h"
 
 #include <QEvent>
 #include <QHeaderView>
-
-#include <cmath>
 
 namespace {
 
@@ -25,9 +24,7 @@ QTableWidgetItem *cell(const QString &text, Qt::Alignment alignment)
 QTableWidgetItem *numberCell(double value)
 {
     constexpr int decimals = 2;
-    constexpr double leastShown = 0.005;
-    const double shown = std::abs(value) < leastShown ? 0.0 : value; // no "-0.00"
-    return cell(QString::number(shown, 'f', decimals), Qt::AlignRight | Qt::AlignVCenter);
+    return cell(fixedNumber(value, decimals), Qt::AlignRight | Qt::AlignVCenter);
 }
 
 } // namespace
