@@ -119,6 +119,7 @@ bool addCurves(ListChart &form, const QVector<ReadCurve> &curves, ImportProgress
                QStringList &opened)
 {
     CurveSet &set = form.curves();
+    progress.rest();
     const Clashes clashes = askAboutClashes(form, curves);
     QList<int> added;
     for (int i = 0; i < curves.size() && !progress.isWindowGone(); ++i) {

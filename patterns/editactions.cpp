@@ -90,7 +90,10 @@ void EditActions::paste()
     const CurveHistory::Step step(m_desk.history(), tr("Paste"));
     CurveRecord record;
     record.isSaved = false;
-    m_desk.form().addCurve(curve.name, curve.points, record);
+    // Numbers alone have no name that anybody chose.
+    const QString name =
+        curve.name.trimmed().isEmpty() ? m_desk.curves().freeName(tr("Pasted curve")) : curve.name;
+    m_desk.form().addCurve(name, curve.points, record);
 }
 
 void EditActions::copyParameters()

@@ -43,6 +43,8 @@ PatternWindow::PatternWindow(WindowContext &context, QWidget *parent)
     // In the list alone: in the charts the key is the markers'.
     ui->actionRemoveCurve->setShortcut(QKeySequence::Delete);
     ui->actionRemoveCurve->setShortcutContext(Qt::WidgetShortcut);
+    ui->actionRedo->setShortcuts(
+        {ui->actionRedo->shortcut(), QKeySequence(QStringLiteral("Ctrl+Y"))});
     connect(ui->actionClose, &QAction::triggered, this, &QWidget::close);
     connect(ui->actionQuit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
     connect(ui->actionAboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);

@@ -120,8 +120,10 @@ private slots:
         view.setLabelFormat(text("%g"));
         view.setXRange(-180, 170);
         QCOMPARE(x->labelFormat(), text("%g"));
-        view.setXRange(-171.31, 170.9);
+        view.setXRange(-171.31, 171.9);
         QCOMPARE(x->labelFormat(), text("%.0f"));
+        view.setXRange(-171.31, 170.9); // with a tick that would read "-0"
+        QCOMPARE(x->labelFormat(), text("%.1f"));
         // Charts take their texts for rich ones.
         view.setChartTitle(text("a<b> & c"));
         QCOMPARE(view.chart()->title(), text("a&lt;b&gt; &amp; c"));

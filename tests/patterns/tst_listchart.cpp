@@ -16,10 +16,12 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QUrl>
+#include <QValueAxis>
 
 #include <cmath>
 
 using namespace ChartProbe;
+using namespace QtCharts;
 
 namespace {
 
@@ -164,6 +166,8 @@ private slots:
             QCOMPARE(m_form->curves().selected(), 0);
         }
         m_form->curves().select(1);
+        m_form->addCurve(text("C"), lobes(5, 20)); // makes the list anew
+        QCOMPARE(table.selectionModel()->selectedRows().value(0).row(), 0);
         m_form->curves().setHidden(1, true);
         QCOMPARE(m_form->curves().selected(), 0);
         QVERIFY(table.selectionModel()->selectedRows().isEmpty());
@@ -240,6 +244,22 @@ private slots:
         m_form->curves().setHidden(3, true); // what is not seen takes no room
         child<QPushButton>("fitButton").click();
         QCOMPARE(child<LineEdit>("levelMax").value(), 30.0);
+    }
+
+    void namesAndAnglesFindRoom()
+    {
+        for (int i = 0; i < 20; ++i)
+            m_form->addCurve(text("Antenna of quite a long name, number %1").arg(i), lobes(i, 40));
+        const auto *angles =
+            qobject_cast<QValueAxis *>(cartesian().chart()->axes(Qt::Horizontal).first());
+        for (const auto &[size, all] :
+             {std::pair(QSize(800, 400), true), {QSize(260, 400), false}}) {
+            cartesian().resize(size);
+            const QRectF area = cartesian().chart()->plotArea();
+            QVERIFY(area.width() > 0.6 * size.width());
+            QVERIFY(area.height() > 0.4 * size.height());
+            QCOMPARE(angles->tickCount() == 9, all);
+        }
     }
 
     void titleComesFromTheFiles()

@@ -24,6 +24,7 @@ void prepare(GraphicsBase &view)
     view.showLegend(font);
     view.setXDivisions(circleDivisions);
     view.setLabelFormat(QStringLiteral("%g"));
+    view.setFocusPolicy(Qt::StrongFocus);
 }
 
 void setTitle(GraphicsBase &view, const QString &title)

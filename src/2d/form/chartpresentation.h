@@ -8,7 +8,7 @@ struct AxisScale;
 /// itself.
 namespace ChartPresentation {
 
-/// Gives \a view its legend and round angle ticks, once after it was made.
+/// Gives \a view its legend, round angle ticks and the tabulator, once after it was made.
 void prepare(GraphicsBase &view);
 
 void setTitle(GraphicsBase &view, const QString &title);

@@ -35,17 +35,17 @@ constexpr double levelLimit = 1000.0;
 QStringList rowTexts(const QTableWidget &table, int row)
 {
     QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column)
-        texts.append(table.item(row, column)->text());
+    for (int column = 0; column < table.columnCount(); ++column) {
+        const QTableWidgetItem *cell =
+            row < 0 ? table.horizontalHeaderItem(column) : table.item(row, column);
+        texts.append(cell->text());
+    }
     return texts;
 }
 
 QStringList headings(const QTableWidget &table)
 {
-    QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column)
-        texts.append(table.horizontalHeaderItem(column)->text());
-    return texts;
+    return rowTexts(table, -1);
 }
 
 /// The local files that are dragged in from a file manager. They have to be told from a curve's
@@ -99,8 +99,6 @@ void ListChart::setUpCharts()
         view->viewport()->installEventFilter(this);
     }
     m_polar->setPolarView({});
-    m_polar->setAccessibleName(tr("Polar chart"));
-    m_cartesian->setAccessibleName(tr("Cartesian chart"));
     ui->mainSplitter->setStretchFactor(0, 1);
     ui->mainSplitter->setStretchFactor(1, 0);
     ui->upperSplitter->setStretchFactor(0, 0);
@@ -140,7 +138,9 @@ void ListChart::setUpTables()
     ui->pointTable->setModel(m_pointModel);
     ui->pointTable->horizontalHeader()->setDefaultSectionSize(PointTableModel::columnWidth);
     ui->pointTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui->listSplitter->setSizes({200, 300});
+    ui->listSplitter->setSizes({300, 200});
+    setTabOrder(ui->pointTable, m_polar);
+    setTabOrder(m_polar, m_cartesian);
     // The table is as high as its rows and one more, which its heading must not exceed.
     ui->paraTable->horizontalHeader()->setMaximumHeight(
         ui->paraTable->verticalHeader()->defaultSectionSize());
@@ -151,6 +151,9 @@ void ListChart::connectParts()
     connect(m_curves.get(), &CurveSet::changed, this, &ListChart::refresh);
     connect(m_curves.get(), &CurveSet::selectionChanged, this, &ListChart::showSelection);
     connect(m_curveModel, &CurveTableModel::refused, this, &ListChart::message);
+    // A curve that comes or goes makes the list anew, without a selection.
+    connect(m_curveModel, &CurveTableModel::modelReset, this,
+            [this] { showSelection(m_curves->selected()); });
     const auto select = [this](const QModelIndex &current) {
         if (current.isValid())
             m_curves->select(m_curveModel->curveAt(current.row()));
@@ -169,8 +172,7 @@ void ListChart::connectParts()
             });
     connect(ui->titleEdit, &QLineEdit::textEdited, this, [this](const QString &text) {
         m_ownTitle = text.trimmed();
-        ChartPresentation::setTitle(*m_polar, title());
-        ChartPresentation::setTitle(*m_cartesian, title());
+        showTitle();
         emit titleChanged();
     });
     connect(ui->titleEdit, &QLineEdit::editingFinished, this, &ListChart::showTitle);
@@ -246,8 +248,7 @@ void ListChart::fit()
         if (!m_curves->isHidden(id))
             shown.append(m_curves->points(id));
     }
-    const AxisScale angles = angleScale(shown);
-    ChartPresentation::showAngles(*m_cartesian, angles);
+    ChartPresentation::showAngles(*m_cartesian, angleScale(shown));
     if (!m_ownLevels) {
         const AxisScale levels = levelScale(shown);
         showLevels(levels.min, levels.max);
@@ -308,12 +309,8 @@ void ListChart::setBeamLevels(const QVector<double> &drops)
 
 void ListChart::setSymmetry(bool on)
 {
-    for (GraphicsBase *view : {m_polar, m_cartesian}) {
-        if (on)
-            view->SymmetrySlot();
-        else
-            view->SymmetryResetSlot();
-    }
+    for (GraphicsBase *view : {m_polar, m_cartesian})
+        on ? view->SymmetrySlot() : view->SymmetryResetSlot();
 }
 
 void ListChart::setParameterLines(bool on)
@@ -341,6 +338,8 @@ void ListChart::retitleCharts()
 {
     ChartPresentation::setAxisTitles(*m_polar, QString(), QString());
     ChartPresentation::setAxisTitles(*m_cartesian, tr("Angle [°]"), tr("Level [dB]"));
+    m_polar->setAccessibleName(tr("Polar chart"));
+    m_cartesian->setAccessibleName(tr("Cartesian chart"));
     m_hint->setText(tr("Open a file (Ctrl+O), drop files here, paste two columns of numbers, or "
                        "begin with File, Open Samples."));
 }
@@ -425,6 +424,9 @@ void ListChart::showSelection(int id)
         selection->setCurrentIndex(current,
                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         ui->curveTable->scrollTo(current);
+        const int topRow = qMax(0, ui->pointTable->rowAt(0));
+        for (const int pointColumn : {2 * row + 1, 2 * row})
+            ui->pointTable->scrollTo(m_pointModel->index(topRow, pointColumn));
     }
     ui->curveTable->viewport()->update();
 }
@@ -433,8 +435,8 @@ void ListChart::showSelection(int id)
 void ListChart::followLevels(const GraphicsBase &view)
 {
     const ViewRange shown = view.shownRange();
-    ui->levelMin->setValue(shown.yMin);
-    ui->levelMax->setValue(shown.yMax);
+    ui->levelMin->setValue(roundedLevel(shown.yMin));
+    ui->levelMax->setValue(roundedLevel(shown.yMax));
     m_levels.min = ui->levelMin->value();
     m_levels.max = ui->levelMax->value();
 }
@@ -459,8 +461,6 @@ void ListChart::changeEvent(QEvent *event)
     if (event->type() != QEvent::LanguageChange)
         return;
     ui->retranslateUi(this);
-    m_polar->setAccessibleName(tr("Polar chart"));
-    m_cartesian->setAccessibleName(tr("Cartesian chart"));
     retitleCharts();
     refresh();
 }

@@ -13,7 +13,7 @@ class PointTableModel : public QAbstractTableModel
 
 public:
     /// What a column is wide, in pixels; a longer name is shortened in the heading.
-    static constexpr int columnWidth = 120;
+    static constexpr int columnWidth = 104;
 
     /// One curve; the points are shared with their owner.
     struct Curve

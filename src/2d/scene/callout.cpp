@@ -55,17 +55,15 @@ void Callout::setAnchor(const QPointF &anchor, const QRectF &room)
     update();
 }
 
-QSizeF Callout::boxSize() const
-{
-    const QFontMetricsF metrics(calloutFont());
-    return {std::ceil(metrics.horizontalAdvance(m_text)) + 2.0 * padding,
-            std::ceil(metrics.height()) + padding};
-}
-
 /// Above the anchor where there is room, else below it, and never past the sides.
 void Callout::placeBox()
 {
-    const QSizeF size = boxSize();
+    const QFontMetricsF metrics(calloutFont());
+    m_shownText = m_room.isEmpty() ? m_text
+                                   : metrics.elidedText(m_text, Qt::ElideMiddle,
+                                                        m_room.width() - 2.0 * padding - 1.0);
+    const QSizeF size(std::ceil(metrics.horizontalAdvance(m_shownText)) + 2.0 * padding,
+                      std::ceil(metrics.height()) + padding);
     m_box = QRectF(
         QPointF(m_anchor.x() - size.width() / 2.0, m_anchor.y() - distance - size.height()), size);
     if (m_room.isEmpty())
@@ -105,5 +103,5 @@ void Callout::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, Q
     painter->drawPath(box.united(pointer));
     painter->setFont(calloutFont());
     painter->setPen(Qt::black);
-    painter->drawText(m_box, Qt::AlignCenter, m_text);
+    painter->drawText(m_box, Qt::AlignCenter, m_shownText);
 }

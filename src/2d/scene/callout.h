@@ -22,10 +22,10 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
-    QSizeF boxSize() const;
     void placeBox();
 
     QString m_text;
+    QString m_shownText; ///< as much of it as finds room
     QColor m_color = Qt::black;
     QPointF m_anchor;
     QRectF m_room;

@@ -3,15 +3,16 @@
 #include "2d/scene/generatecolors.h"
 
 #include <QChart>
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGraphicsSceneHoverEvent>
 #include <QGraphicsSceneMouseEvent>
+#include <QHash>
 #include <QLegend>
 #include <QLegendMarker>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace QtCharts;
 
@@ -22,8 +23,9 @@ constexpr double rowHeight = 19.0;
 constexpr double swatch = 9.0;
 constexpr double swatchGap = 5.0;
 constexpr double columnGap = 12.0;
-constexpr double margin = 6.0;
+constexpr double sideMargin = 6.0;
 constexpr double narrowestColumn = 64.0;
+constexpr double widestColumn = 220.0; // one long name is no reason for a single column
 /// The rows take no more of the chart's height.
 constexpr double greatestShare = 0.3;
 
@@ -39,11 +41,6 @@ int commonStart(const QStringList &names)
     return length;
 }
 
-bool hasTwins(QStringList names)
-{
-    return names.removeDuplicates() > 0;
-}
-
 } // namespace
 
 ChartLegend::ChartLegend(QChart &chart, const QFont &font)
@@ -51,6 +48,8 @@ ChartLegend::ChartLegend(QChart &chart, const QFont &font)
     , m_chart(chart)
     , m_font(font)
 {
+    // On paper points would be taken for those of the page.
+    m_font.setPixelSize(QFontInfo(font).pixelSize());
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
 }
@@ -75,7 +74,7 @@ double ChartLegend::arrange(const QSizeF &size)
     }
     if (m_cells.isEmpty() || size.isEmpty())
         return 0.0;
-    if (width <= size.width() - 2.0 * margin)
+    if (width <= size.width() - 2.0 * sideMargin)
         arrangeRow(names, size);
     else
         arrangeGrid(names, size);
@@ -103,26 +102,26 @@ void ChartLegend::arrangeRow(const QStringList &names, const QSizeF &size)
 void ChartLegend::arrangeGrid(const QStringList &names, const QSizeF &size)
 {
     const int count = m_cells.size();
-    const double width = size.width() - 2.0 * margin;
+    const double width = size.width() - 2.0 * sideMargin;
     const int mostRows = std::max(1, static_cast<int>(size.height() * greatestShare / rowHeight));
     const int mostColumns = std::max(1, static_cast<int>(width / narrowestColumn));
     double longest = narrowestColumn;
     for (const QString &name : names)
-        longest = std::max(longest, widthOf(name));
-    int columns = qBound(1, static_cast<int>(width / longest), count);
-    if (columns * mostRows < count)
-        columns = std::min(mostColumns, (count + mostRows - 1) / mostRows);
-    const int rows = std::min(mostRows, (count + columns - 1) / columns);
-    const double column = std::min(longest, width / columns);
+        longest = qBound(longest, widthOf(name), widestColumn);
+    int across = qBound(1, static_cast<int>(width / longest), count);
+    if (across * mostRows < count)
+        across = std::min(mostColumns, (count + mostRows - 1) / mostRows);
+    const int down = std::min(mostRows, (count + across - 1) / across);
+    const double column = std::min(longest, width / across);
     const QStringList texts = shortened(names, column - swatch - swatchGap - columnGap);
-    const double left = (size.width() - columns * column + columnGap) / 2.0;
-    const double top = size.height() - rows * rowHeight;
+    const double left = (size.width() - across * column + columnGap) / 2.0;
+    const double top = size.height() - down * rowHeight;
     for (int i = 0; i < count; ++i) {
         m_cells[i].text = texts.at(i);
-        m_cells[i].place = {left + (i % columns) * column,
-                            top + std::floor(i / columns) * rowHeight, column, rowHeight};
+        const int row = i / across;
+        m_cells[i].place = {left + (i % across) * column, top + row * rowHeight, column, rowHeight};
     }
-    const int room = rows * columns;
+    const int room = down * across;
     if (count <= room)
         return;
     m_cells.resize(room);
@@ -130,18 +129,23 @@ void ChartLegend::arrangeGrid(const QStringList &names, const QSizeF &size)
     m_cells.last().text = QStringLiteral("+%1").arg(count - room + 1);
 }
 
-/// Without their middles; or, where that makes some of them alike, without the start that all have.
+/// Without their middles; those that this makes alike, without the start that they share instead.
 QStringList ChartLegend::shortened(const QStringList &names, double width) const
 {
     const QFontMetricsF metrics(m_font);
+    QStringList elided;
+    QHash<QString, QStringList> twins;
+    for (const QString &name : names) {
+        elided.append(metrics.elidedText(name, Qt::ElideMiddle, width));
+        twins[elided.last()].append(name);
+    }
     QStringList texts;
-    for (const QString &name : names)
-        texts.append(metrics.elidedText(name, Qt::ElideMiddle, width));
-    const int start = commonStart(names);
-    if (!hasTwins(texts) || start == 0)
-        return texts;
-    for (int i = 0; i < texts.size(); ++i)
-        texts[i] = metrics.elidedText(QChar(0x2026) + names.at(i).mid(start), Qt::ElideRight, width);
+    for (int i = 0; i < names.size(); ++i) {
+        const QStringList alike = twins.value(elided.at(i));
+        const int start = alike.size() > 1 ? commonStart(alike) : 0;
+        texts.append(start > 0 ? metrics.elidedText(names.at(i).mid(start), Qt::ElideRight, width)
+                               : elided.at(i));
+    }
     return texts;
 }
 
@@ -164,9 +168,8 @@ void ChartLegend::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWi
 
 const ChartLegend::Cell *ChartLegend::cellAt(const QPointF &position) const
 {
-    const auto cell = std::find_if(m_cells.cbegin(), m_cells.cend(), [&](const Cell &each) {
-        return each.place.contains(position);
-    });
+    const auto cell = std::find_if(m_cells.cbegin(), m_cells.cend(),
+                                   [&](const Cell &each) { return each.place.contains(position); });
     return cell == m_cells.cend() || !cell->entry ? nullptr : cell;
 }
 

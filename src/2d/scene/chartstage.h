@@ -112,7 +112,7 @@ private:
     QVector<CurveSeries *> m_series;
     QString m_title;
     QString m_labelFormat = QStringLiteral("%.1f");
-    int m_xDivisions = 0; ///< wanted; 0: as the chart was built
+    int m_xDivisions = 0;            ///< wanted; 0: as the chart was built
     ChartLegend *m_legend = nullptr; ///< the chart's
     double m_legendHeight = 0.0;
     int m_guards = 0;

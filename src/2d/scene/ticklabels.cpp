@@ -23,7 +23,7 @@ public:
     {}
 
     int count() const { return m_divisions + 1; }
-    double step() const { return (m_max - m_min) / m_divisions; }
+    double stride() const { return (m_max - m_min) / m_divisions; }
     /// To the last bit as the chart computes it.
     double number(int tick) const { return m_min + tick * (m_max - m_min) / m_divisions; }
 
@@ -33,10 +33,10 @@ private:
     int m_divisions;
 };
 
-bool isNextToNothing(double number, double step)
+bool isNextToNothing(double number, double stride)
 {
     constexpr double little = 1e-9;
-    return std::abs(number) < little * step;
+    return std::abs(number) < little * stride;
 }
 
 /// The most that a number differs from what \a unit lets be written, in steps; more than any when
@@ -47,10 +47,10 @@ double strayFrom(const Ticks &ticks, double unit)
     for (int tick = 0; tick < ticks.count(); ++tick) {
         const double number = ticks.number(tick) * unit;
         const double written = std::round(number);
-        const double step = ticks.step() * unit;
-        if (written == 0.0 && number < 0.0 && !isNextToNothing(number, step))
+        const double stride = ticks.stride() * unit;
+        if (written == 0.0 && number < 0.0 && !isNextToNothing(number, stride))
             return std::numeric_limits<double>::infinity();
-        most = std::max(most, std::abs(number - written) / step);
+        most = std::max(most, std::abs(number - written) / stride);
     }
     return most;
 }
@@ -58,7 +58,7 @@ double strayFrom(const Ticks &ticks, double unit)
 /// The decimals that \a ticks need; nothing where the general notation or that of \a format does.
 std::optional<int> fittingDecimals(const Ticks &ticks, const QString &format)
 {
-    if (!(ticks.step() > 0.0) || !std::isfinite(ticks.step()))
+    if (!(ticks.stride() > 0.0) || !std::isfinite(ticks.stride()))
         return std::nullopt;
     constexpr int mostDecimals = 9;
     constexpr double exactly = 1e-9;
@@ -99,10 +99,10 @@ QString fittingFormat(const QValueAxis &axis, const QString &format)
 
 int fittingDivisions(const QValueAxis &axis, int wanted, const QString &format, double width)
 {
-    constexpr double gap = 10.0; // pixels, with what the chart keeps free round a label
+    constexpr double room = 10.0; // pixels, with what the chart keeps free round a label
     for (int divisions = wanted; divisions > 1; --divisions) {
         if (wanted % divisions == 0 &&
-            (widestLabel(axis, Ticks(axis, divisions), format) + gap) * divisions <= width)
+            (widestLabel(axis, Ticks(axis, divisions), format) + room) * divisions <= width)
             return divisions;
     }
     return 1;
@@ -116,7 +116,7 @@ void settleZero(QValueAxis &axis)
         bool isBelow = false;
         for (int tick = 0; tick < ticks.count(); ++tick) {
             const double number = ticks.number(tick);
-            isBelow = isBelow || (number < 0.0 && isNextToNothing(number, ticks.step()));
+            isBelow = isBelow || (number < 0.0 && isNextToNothing(number, ticks.stride()));
         }
         if (!isBelow)
             return;

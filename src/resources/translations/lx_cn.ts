@@ -413,6 +413,10 @@
         <source>&amp;Cancel All</source>
         <translation>全部取消(&amp;C)</translation>
     </message>
+    <message>
+        <source>Drawing %1...</source>
+        <translation>正在绘制 %1……</translation>
+    </message>
 </context>
 <context>
     <name>CurveHistory</name>
@@ -573,6 +577,10 @@ correction</source>
     <message>
         <source>The parameter table is on the clipboard.</source>
         <translation>参数表已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Pasted curve</source>
+        <translation>粘贴的曲线</translation>
     </message>
 </context>
 <context>

@@ -413,6 +413,10 @@
         <source>&amp;Cancel All</source>
         <translation>&amp;Cancel All</translation>
     </message>
+    <message>
+        <source>Drawing %1...</source>
+        <translation>Drawing %1...</translation>
+    </message>
 </context>
 <context>
     <name>CurveHistory</name>
@@ -573,6 +577,10 @@ correction</translation>
     <message>
         <source>The parameter table is on the clipboard.</source>
         <translation>The parameter table is on the clipboard.</translation>
+    </message>
+    <message>
+        <source>Pasted curve</source>
+        <translation>Pasted curve</translation>
     </message>
 </context>
 <context>
