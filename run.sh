@@ -211,6 +211,11 @@ run_on_virtual_screen() {
 }
 
 read_options "$@"
+# Before the first command: one that ends well just as Ctrl+C comes would make bash go on.
+trap stop_all EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+trap 'exit 129' HUP
 needed=(build run)
 has_display || needed+=(virtual)
 scripts/install-dependencies.sh "${needed[@]}"
@@ -244,10 +249,6 @@ if $demo; then
 else
     build mz6218 mz6218-sim
 fi
-trap stop_all EXIT
-trap 'exit 130' INT
-trap 'exit 143' TERM
-trap 'exit 129' HUP
 state=$(mktemp -d)
 if $demo; then
     run_demo

@@ -88,7 +88,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_clockTimer, &QTimer::timeout, this, &MainWindow::timerOut);
     m_clockTimer->start(clockPeriod);
     QDir::setCurrent(QCoreApplication::applicationDirPath());
-    m_panel.setDefaultRecordFolder();
+    m_panel.setRecordFolder(ConsolePanel::defaultRecordFolder());
     m_panel.showRecords(*m_records);
 
     on_actionCommunication_by_Serial_triggered(true);
@@ -170,6 +170,7 @@ void MainWindow::connectSession()
             [this](LinkMode mode) { m_panel.showLinkState(mode, false); });
     connect(m_session, &LinkSession::stateChanged, this, &MainWindow::showLinkState);
     connect(m_session, &LinkSession::portChanged, this, [this](const QString &port, int value) {
+        m_status.showIdentity({}); // it was told at another port
         m_status.showPort(port, value);
         if (m_session->mode() == serialLink)
             m_panel.showPort(port);
@@ -194,9 +195,14 @@ void MainWindow::connectSession()
     m_session->setRecordInterval([this] { return m_panel.recordInterval(); });
     connect(m_status.stopButton(), &QPushButton::clicked, m_session, &LinkSession::stopOpening);
     connect(m_gate, &InputGate::escaped, m_session, &LinkSession::stopOpening);
-    connect(m_records, &RecordKeeper::changed, this, [this] { m_panel.showRecords(*m_records); });
+    connect(m_records, &RecordKeeper::changed, this, [this] {
+        m_panel.showRecords(*m_records);
+        if (!m_records->failure())
+            m_status.clearNotice(Notice::Records);
+    });
     connect(m_records, &RecordKeeper::failed, this, [this](const QString &reason) {
-        m_status.showNotice([reason] { return tr("Records are not written: %1").arg(reason); });
+        m_status.showNotice(Notice::Records,
+                            [reason] { return tr("Records are not written: %1").arg(reason); });
     });
 }
 
@@ -235,6 +241,7 @@ void MainWindow::showLinkState(LinkSession::State state)
         m_chart.restartTime();
         m_settings->forget();
         m_status.clearNotice();
+        m_refused.reset();
         m_status.showLink(m_session->isDisconnected() ? StatusLabels::Link::Disconnected
                                                       : StatusLabels::Link::Closed);
         m_panel.showLinkState(m_session->mode(), false);
@@ -260,10 +267,10 @@ void MainWindow::showWaiting(const QString &what)
     m_gate->setClosed(isWaiting);
     m_status.stopButton()->setVisible(isWaiting);
     if (!isWaiting) {
-        m_status.clearNotice();
+        m_status.clearNotice(Notice::Waiting);
         return;
     }
-    m_status.showNotice([what] { return what; });
+    m_status.showNotice(Notice::Waiting, [what] { return what; });
 }
 
 void MainWindow::errorMessageBox(QString error)

@@ -123,6 +123,7 @@ private slots:
 
 private:
     using Setting = LinkSession::Setting;
+    using Notice = StatusLabels::Notice;
 
     void connectLink();
     void connectSession();
@@ -163,5 +164,5 @@ private:
     std::optional<StartOptions> m_startOptions; // until the window is painted
     LogDays m_logDays;
     bool m_errorBoxOpen = false;
-    bool m_isRefusalShown = false; // in the status bar
+    std::optional<Setting> m_refused; // as the status bar says
 };

@@ -103,21 +103,25 @@ void MainWindow::tellConfirmed(Setting setting)
 {
     if (m_session->isOpening())
         return;
-    m_isRefusalShown = false;
+    m_refused.reset();
     if (m_settings->disagreement(setting).isEmpty())
-        m_status.clearNotice();
+        m_status.clearNotice(Notice::Setting);
     else
-        m_status.showNotice([this, setting] { return m_settings->disagreement(setting); });
+        m_status.showNotice(Notice::Setting,
+                            [this, setting] { return m_settings->disagreement(setting); });
 }
 
 void MainWindow::tellRefused(Setting setting)
 {
-    m_status.showNotice([setting] {
-        return tr("%1 was not confirmed. Polling rests until it is set again or the link is opened "
-                  "anew.")
-            .arg(SettingBoxes::nameOf(setting));
+    m_refused = setting;
+    m_status.showNotice(Notice::Setting, [this, setting] {
+        const QString text =
+            m_session->isResting()
+                ? tr("%1 was not confirmed. Polling rests until it is set again or the link is "
+                     "opened anew.")
+                : tr("%1 was not confirmed.");
+        return text.arg(SettingBoxes::nameOf(setting));
     });
-    m_isRefusalShown = true;
     showReading();
 }
 
@@ -219,9 +223,14 @@ void MainWindow::updatePower(double dialValue, QString showText)
 void MainWindow::showReading()
 {
     m_panel.showReading(*m_session);
+    if (!m_refused || m_session->isResting())
+        return;
     // A record that was due has read the power, and polling goes on from there.
-    if (!m_session->isResting() && std::exchange(m_isRefusalShown, false))
-        m_status.clearNotice();
+    m_status.retranslate();
+    if (m_settings->isUnsent(*m_refused))
+        return;
+    m_refused.reset();
+    m_status.clearNotice(Notice::Setting);
 }
 
 void MainWindow::saveValue()
@@ -264,13 +273,17 @@ void MainWindow::on_btnPath_clicked()
         return;
     }
     warn(tr("No directory selected."));
-    m_panel.setDefaultRecordFolder();
+    useRecordFolder(ConsolePanel::defaultRecordFolder());
 }
 
 void MainWindow::on_lineEditPath_editingFinished()
 {
-    if (m_ui->lineEditPath->isModified())
+    if (!m_ui->lineEditPath->isModified())
+        return;
+    if (m_ui->lineEditPath->isEnabled())
         useRecordFolder(m_ui->lineEditPath->text());
+    else // the link has ended under it, and a question would keep that from being told
+        m_panel.setRecordFolder(m_panel.recordFolder());
 }
 
 void MainWindow::useRecordFolder(const QString &folder)

@@ -2,6 +2,7 @@
 
 #include "console/linksession.h"
 #include "console/recordkeeper.h"
+#include "frame/appstyle.h"
 #include "storage/consolesettings.h"
 #include "storage/recordfile.h"
 #include "storage/writecheck.h"
@@ -15,7 +16,6 @@
 #include <QLocale>
 #include <QScrollBar>
 #include <QSerialPortInfo>
-#include <QStyle>
 
 namespace {
 
@@ -168,15 +168,16 @@ void ConsolePanel::setRecordFolder(const QString &folder)
 {
     m_recordFolder = folder;
     m_ui->lineEditPath->setText(folder);
+    m_ui->lineEditPath->setCursorPosition(0); // a long one is cut at the right
     m_ui->lineEditPath->setToolTip(folder);
 }
 
-void ConsolePanel::setDefaultRecordFolder()
+QString ConsolePanel::defaultRecordFolder()
 {
     const QDir current;
     if (!current.exists(QStringLiteral("DataRecord")))
         current.mkdir(QStringLiteral("DataRecord"));
-    setRecordFolder(QStringLiteral("%1/DataRecord").arg(QDir::currentPath()));
+    return QStringLiteral("%1/DataRecord").arg(QDir::currentPath());
 }
 
 ConsoleSettings ConsolePanel::settings() const
@@ -209,6 +210,5 @@ void ConsolePanel::showRecords(const RecordKeeper &records)
     else
         m_ui->labelRecord->setText(tr("No row yet"));
     m_ui->labelRecord->setProperty("failing", failure.has_value());
-    m_ui->labelRecord->style()->unpolish(m_ui->labelRecord);
-    m_ui->labelRecord->style()->polish(m_ui->labelRecord);
+    AppStyle::restyle(m_ui->labelRecord);
 }

@@ -55,8 +55,8 @@ public:
     /// The same from now on, or nothing changes and the obstacle is told.
     std::optional<QString> chooseRecordFolder(const QString &folder);
     void setRecordFolder(const QString &folder);
-    /// Back to "DataRecord" in the current directory, which is created if need be.
-    void setDefaultRecordFolder();
+    /// "DataRecord" in the current directory, which is created if need be.
+    static QString defaultRecordFolder();
     /// What of the settings the panel shows: all but language and address.
     ConsoleSettings settings() const;
     /// Shows that part of \a settings; a folder of records that is gone becomes the program's own.

@@ -2,7 +2,19 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QWidget>
+
+namespace {
+
+/// Whether \a object belongs to a message, which stands in front of everything else until it has
+/// been answered.
+bool isInBox(QObject *object)
+{
+    return qobject_cast<QMessageBox *>(static_cast<QWidget *>(object)->window()) != nullptr;
+}
+
+} // namespace
 
 InputGate::InputGate(QWidget *exempt)
     : QObject(exempt)
@@ -32,8 +44,10 @@ bool InputGate::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
     case QEvent::ContextMenu:
-        // A window passes on to the widget that is meant.
-        if (!watched->isWidgetType() || watched == m_exempt)
+        // A window passes on to the widget that is meant, but a shortcut reaches an action at once.
+        if (!watched->isWidgetType())
+            return event->type() == QEvent::Shortcut;
+        if (watched == m_exempt || isInBox(watched))
             return false;
         if (event->type() == QEvent::KeyPress &&
             static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)

@@ -4,8 +4,9 @@
 
 class QWidget;
 
-/// Keeps keys and clicks from all widgets but one, while something blocks the window between
-/// whiles: what is pressed then would otherwise come in when it means something else.
+/// Keeps keys and clicks from all widgets but one and those of message boxes, while something
+/// blocks the window between whiles: what is pressed then would otherwise come in when it means
+/// something else.
 class InputGate : public QObject
 {
     Q_OBJECT

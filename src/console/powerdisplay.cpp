@@ -99,8 +99,10 @@ PowerDisplay::PowerDisplay(const Labels &labels)
 
 QString PowerDisplay::figures(const Reading &reading)
 {
-    return reading.state == Reading::State::None ? QStringLiteral("--.--")
-                                                 : QString::number(reading.level, 'f', 2);
+    if (reading.state == Reading::State::None)
+        return QStringLiteral("--.--");
+    const QString text = QString::number(reading.level, 'f', 2);
+    return text == QStringLiteral("-0.00") ? text.mid(1) : text;
 }
 
 QString PowerDisplay::describe(const Reading &reading, State state, int age)

@@ -2,10 +2,10 @@
 
 #include "Logic/frequencyunit.h"
 #include "Logic/seriallogic.h"
+#include "frame/appstyle.h"
 #include "ui_mainwindow.h"
 
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QVariant>
 
 #include <cmath>
@@ -34,9 +34,7 @@ void setMark(QWidget *widget, bool isMarked, const QString &toolTip)
         if (isMarked)
             widget->setProperty(usualToolTip, widget->toolTip());
         widget->setProperty(markProperty, isMarked);
-        widget->style()->unpolish(widget); // the style sheet looks at properties only then
-        widget->style()->polish(widget);
-        widget->update();
+        AppStyle::restyle(widget);
         if (!isMarked)
             widget->setToolTip(widget->property(usualToolTip).toString());
     }
@@ -76,7 +74,7 @@ void SettingBoxes::watchButton(QRadioButton *button, Setting setting)
     connect(button, &QRadioButton::clicked, this, [this, button, setting] {
         // A change sends by itself, and a click on ON always does, for a new reference.
         if (!std::exchange(m_isToggled, false) && button != m_ui->radioButtonRelativeON &&
-            isUnsent(setting))
+            (isUnsent(setting) || isUntold(setting)))
             emit wantedAgain(setting);
     });
 }
@@ -144,7 +142,9 @@ void SettingBoxes::hold(Setting setting, double value)
 {
     // A question that was not answered shows as nothing or zero, which nobody has measured.
     const bool isAnswered = std::exchange(m_outcome, Outcome::Ok) == Outcome::Ok;
-    m_held[setting].value = isAnswered ? std::optional<double>(value) : std::nullopt;
+    Held &held = m_held[setting];
+    held.value = isAnswered ? std::optional<double>(value) : std::nullopt;
+    held.isUntold = !isAnswered;
     mark(setting);
 }
 
@@ -276,6 +276,12 @@ bool SettingBoxes::isUnsent(Setting setting) const
            differ(setting, shown(setting), *held->second.value);
 }
 
+bool SettingBoxes::isUntold(Setting setting) const
+{
+    const auto held = m_held.find(setting);
+    return held != m_held.end() && held->second.isUntold;
+}
+
 QString SettingBoxes::disagreement(Setting setting) const
 {
     const auto found = m_held.find(setting);
@@ -329,16 +335,20 @@ QVector<QWidget *> SettingBoxes::widgetsOf(Setting setting) const
 
 void SettingBoxes::mark(Setting setting)
 {
-    const bool isMarked = isUnsent(setting);
-    const QString held = isMarked ? textOf(setting, *m_held.at(setting).value) : QString();
+    const bool isUnsentNow = isUnsent(setting);
+    const bool isUntoldNow = isUntold(setting);
+    const QString held = isUnsentNow ? textOf(setting, *m_held.at(setting).value) : QString();
     for (QWidget *widget : widgetsOf(setting)) {
         const auto *button = qobject_cast<const QRadioButton *>(widget);
-        if (button != nullptr)
-            setMark(widget, isMarked && button->isChecked(),
-                    tr("Not confirmed: the instrument holds %1.").arg(held));
+        const bool isShown = button == nullptr || button->isChecked();
+        QString toolTip;
+        if (isUntoldNow)
+            toolTip = tr("Not known: the instrument did not tell what it holds.");
+        else if (button != nullptr)
+            toolTip = tr("Not confirmed: the instrument holds %1.").arg(held);
         else
-            setMark(widget, isMarked,
-                    tr("Not sent: the instrument holds %1. Esc puts that back.").arg(held));
+            toolTip = tr("Not sent: the instrument holds %1. Esc puts that back.").arg(held);
+        setMark(widget, isShown && (isUnsentNow || isUntoldNow), toolTip);
     }
 }
 

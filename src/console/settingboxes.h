@@ -19,8 +19,8 @@ class MainWindow;
 
 /// What the user sets in the instrument: the boxes and buttons of the panel, what they hold, what
 /// was asked for and what the instrument has told. A value that the instrument does not hold is
-/// marked until it is sent or put back. Nothing here sends anything, or makes a signal of the form
-/// do so.
+/// marked until it is sent or put back, one that it did not tell until it does. Nothing here sends
+/// anything, or makes a signal of the form do so.
 class SettingBoxes : public QObject
 {
     Q_OBJECT
@@ -76,12 +76,14 @@ private:
     {
         std::optional<double> value; ///< kHz, dB, a count, 1 for on or for dBm
         std::optional<double> asked;
+        bool isUntold = false; ///< it was asked for the value and did not answer
     };
 
     double shown(Setting setting) const;
     QString textOf(Setting setting, double value) const;
     QVector<QWidget *> widgetsOf(Setting setting) const;
     bool differ(Setting setting, double a, double b) const;
+    bool isUntold(Setting setting) const;
     void hold(Setting setting, double value);
     void mark(Setting setting);
     void markAll();

@@ -39,15 +39,23 @@ struct Known
     QCommandLineOption language{QStringLiteral("language"), {}, QStringLiteral("en|cn")};
 };
 
-/// What is wrong with \a value, or nothing.
-std::optional<QString> readSerial(const QString &value, StartOptions &options)
+/// What is wrong with the baud rate of \a address, or nothing.
+std::optional<QString> faultOfRate(const SerialAddress &address)
 {
-    const SerialAddress address = SerialAddress::read(value);
     // Paths that tell ports apart by where they are plugged in hold colons of their own.
     const int colon = address.port.lastIndexOf(QLatin1Char(':'));
     if (colon >= 0 && !address.port.contains(QLatin1String("/by-")) &&
         !QFileInfo::exists(address.port))
         return QStringLiteral("'%1' is no baud rate.").arg(address.port.mid(colon + 1));
+    return std::nullopt;
+}
+
+/// What is wrong with \a value, or nothing.
+std::optional<QString> readSerial(const QString &value, StartOptions &options)
+{
+    const SerialAddress address = SerialAddress::read(value);
+    if (const auto wrong = faultOfRate(address))
+        return wrong;
     if (address.baudRate <= 0)
         return QStringLiteral("%1 is no baud rate.").arg(address.baudRate);
     if (address.port.isEmpty())
@@ -68,7 +76,9 @@ std::optional<QString> readExamination(const QCommandLineParser &parser, const K
         return QStringLiteral("--doctor takes one address or port.");
     options.wish = StartOptions::Wish::Examine;
     options.examined = parser.positionalArguments().value(0);
-    return std::nullopt;
+    const SerialAddress name =
+        SerialAddress::read(options.examined.section(QLatin1Char(':'), 0, -2));
+    return name.isPort({}) ? faultOfRate(SerialAddress::read(options.examined)) : std::nullopt;
 }
 
 /// What is wrong with what was asked for, or nothing.

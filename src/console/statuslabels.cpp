@@ -63,13 +63,20 @@ void StatusLabels::showTime(const QDateTime &now)
     m_clock->setText(QLocale::c().toString(now, QStringLiteral("yyyy-MM-dd hh:mm:ss")));
 }
 
-void StatusLabels::showNotice(const std::function<QString()> &text)
+void StatusLabels::showNotice(Notice about, const std::function<QString()> &text)
 {
+    m_noticeTopic = about;
     m_noticeText = text;
     m_notice->setText(text());
     m_notice->setVisible(true);
     m_identity->setVisible(false);
     m_port->setVisible(false);
+}
+
+void StatusLabels::clearNotice(Notice about)
+{
+    if (m_noticeText && m_noticeTopic == about)
+        clearNotice();
 }
 
 void StatusLabels::clearNotice()
@@ -89,6 +96,7 @@ QString StatusLabels::notice() const
 void StatusLabels::retranslate()
 {
     m_stop->setText(tr("Stop"));
+    m_stop->setToolTip(tr("Give up opening the link (Esc)"));
     if (m_noticeText)
         m_notice->setText(m_noticeText());
     switch (m_shownLink) {

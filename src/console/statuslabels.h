@@ -28,8 +28,14 @@ public:
     void showLink(Link link);
     void showTime(const QDateTime &now);
 
-    /// Shows what \a text says, in the language of the time, until the notice is cleared.
-    void showNotice(const std::function<QString()> &text);
+    /// What a notice is about.
+    enum class Notice { Waiting, Setting, Records, Reconnecting };
+
+    /// Shows what \a text says, in the language of the time, until the notice is cleared or another
+    /// one is shown.
+    void showNotice(Notice about, const std::function<QString()> &text);
+    /// Takes the notice away if it is about that.
+    void clearNotice(Notice about);
     void clearNotice();
     QString notice() const;
     /// The button that goes with a notice of something that can be stopped; hidden at first.
@@ -46,5 +52,6 @@ private:
     QLabel *m_notice;
     QPushButton *m_stop;
     Link m_shownLink = Link::Closed;
+    Notice m_noticeTopic = Notice::Waiting;
     std::function<QString()> m_noticeText;
 };

@@ -26,6 +26,7 @@ TaskWait::TaskWait(QWidget *window)
 void TaskWait::run(const QString &name)
 {
     m_dialog->setTaskLabelText(name);
+    m_dialog->setAccessibleName(name);
     countDown();
     m_timer->start(second);
     m_dialog->exec();

@@ -321,7 +321,8 @@ void WatchDesk::showReconnecting()
     if (m_isTrying)
         return; // the opening tells what it is at
     if (m_reconnector.isActive()) {
-        m_console.status->showNotice([this] { return m_reconnector.text(); });
+        m_console.status->showNotice(StatusLabels::Notice::Reconnecting,
+                                     [this] { return m_reconnector.text(); });
         m_console.form->btnClose->setEnabled(m_console.session->mode() == serialLink);
     }
 }
@@ -331,7 +332,7 @@ void WatchDesk::endTries()
     if (!m_reconnector.isActive())
         return;
     m_reconnector.stop();
-    m_console.status->clearNotice();
+    m_console.status->clearNotice(StatusLabels::Notice::Reconnecting);
     const bool isOpen = m_console.session->isOpen();
     m_console.form->btnClose->setEnabled(m_console.session->mode() == serialLink && isOpen);
 }

@@ -4,7 +4,9 @@
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPalette>
+#include <QStyle>
 
 namespace AppStyle {
 
@@ -42,6 +44,18 @@ void applyStyleSheet()
     // The sheet's first rule is "QPalette{background:#FFFFFF;}": its colour starts at character 20.
     QApplication::setPalette(QPalette(QColor(sheet.mid(20, 7))));
     qApp->setStyleSheet(sheet);
+}
+
+void restyle(QWidget *widget)
+{
+    widget->style()->unpolish(widget); // the style sheet looks at properties only then
+    // A font from the style sheet would outlive its rule, in the editor inside a box as well.
+    widget->setFont(QFont());
+    const auto editors = widget->findChildren<QLineEdit *>();
+    for (QLineEdit *editor : editors)
+        editor->setFont(QFont());
+    widget->style()->polish(widget);
+    widget->update();
 }
 
 } // namespace AppStyle

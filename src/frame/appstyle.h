@@ -2,6 +2,7 @@
 
 class QFont;
 class QString;
+class QWidget;
 
 /// The look of the programs.
 namespace AppStyle {
@@ -18,5 +19,9 @@ QFont applicationFont();
 
 /// Gives the application the style sheet from the resources and the palette that goes with it.
 void applyStyleSheet();
+
+/// Shows \a widget as the style sheet wants it now that one of its properties has changed. The
+/// widget must have no font of its own.
+void restyle(QWidget *widget);
 
 } // namespace AppStyle

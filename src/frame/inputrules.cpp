@@ -15,7 +15,7 @@ namespace {
 class CommaValidator : public QValidator
 {
 public:
-    CommaValidator(QDoubleSpinBox *box, QObject *parent)
+    CommaValidator(QAbstractSpinBox *box, QObject *parent)
         : QValidator(parent)
         , m_box(box)
     {}
@@ -27,13 +27,32 @@ public:
         if (isDecimal)
             input.replace(QLatin1Char(','), QLatin1Char('.'));
         // The box itself would take other commas for group separators, which nobody can have meant.
-        return input.contains(QLatin1Char(',')) ? Invalid : m_box->validate(input, pos);
+        if (input.contains(QLatin1Char(',')))
+            return Invalid;
+        const State state = m_box->validate(input, pos);
+        return state == Invalid && isWholeButForFraction(input) ? Intermediate : state;
     }
 
     void fixup(QString &input) const override { m_box->fixup(input); }
 
 private:
-    QDoubleSpinBox *m_box;
+    /// Whether \a input is a fraction in a box for whole numbers. Refusing its point alone would
+    /// make ten times as much of it; as it is, the box goes back to the whole part when it is left.
+    bool isWholeButForFraction(QString input) const
+    {
+        const auto *box = qobject_cast<const QDoubleSpinBox *>(m_box);
+        const int point = input.indexOf(QLatin1Char('.'));
+        if (point < 0 || (box && box->decimals() > 0))
+            return false;
+        int end = point + 1;
+        while (end < input.size() && input.at(end).isDigit())
+            ++end;
+        input.remove(point, end - point);
+        int pos = 0;
+        return m_box->validate(input, pos) != Invalid;
+    }
+
+    QAbstractSpinBox *m_box;
 };
 
 class Rules : public QObject
@@ -65,9 +84,10 @@ private:
         if (box->focusPolicy() == Qt::WheelFocus)
             box->setFocusPolicy(Qt::StrongFocus);
         box->setLocale(QLocale()); // the parent may be older than the rules
-        auto *number = qobject_cast<QDoubleSpinBox *>(object);
-        auto *editor = number ? number->findChild<QLineEdit *>() : nullptr;
-        if (editor)
+        if (!qobject_cast<QDoubleSpinBox *>(object) && !qobject_cast<QSpinBox *>(object))
+            return;
+        auto *number = static_cast<QAbstractSpinBox *>(object);
+        if (auto *editor = number->findChild<QLineEdit *>())
             editor->setValidator(new CommaValidator(number, editor));
     }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTextDocument>
 
 ElidedLabel::ElidedLabel(QWidget *parent)
     : QLabel(parent)
@@ -22,7 +23,9 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
     const QString whole = text();
     const QString cut =
         fontMetrics().elidedText(whole, Qt::ElideRight, contentsRect().width() - 2 * margin());
-    const QString wanted = cut == whole ? QString() : whole;
+    QString wanted = cut == whole ? QString() : whole;
+    if (Qt::mightBeRichText(wanted)) // a tool tip would leave out what looks like a tag
+        wanted = Qt::convertFromPlainText(wanted);
     if (toolTip() != wanted)
         setToolTip(wanted);
     if (cut == whole) {

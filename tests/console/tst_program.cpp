@@ -18,13 +18,18 @@ QByteArray contentOfAll(const QString &folder)
     return all;
 }
 
-/// Ends \a program by \a signal, which it has to take like the closing of its window.
-void endIt(QProcess &program, const char *signal)
+void send(const char *signal, const QProcess &program)
 {
     QCOMPARE(QProcess::execute(QStringLiteral("kill"),
                                {QStringLiteral("-s"), QString::fromLatin1(signal),
                                 QString::number(program.processId())}),
              0);
+}
+
+/// Ends \a program by \a signal, which it has to take like the closing of its window.
+void endIt(QProcess &program, const char *signal)
+{
+    send(signal, program);
     QVERIFY(program.waitForFinished());
     QCOMPARE(int(program.exitStatus()), int(QProcess::NormalExit));
     QCOMPARE(program.exitCode(), 0);
@@ -43,7 +48,7 @@ public:
 
     void startConsole(const QStringList &arguments)
     {
-        start(path(QStringLiteral("mz6218")), arguments);
+        start(QStringLiteral("nohup"), QStringList(path(QStringLiteral("mz6218"))) + arguments);
     }
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -123,6 +128,8 @@ private slots:
         CopiedProgram program;
         program.startConsole({QStringLiteral("--lan"), simulator.address(),
                               QStringLiteral("--language"), QStringLiteral("cn")});
+        QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 1, 30000));
+        send("HUP", program); // nohup keeps that from it
         QVERIFY(simulator.waitForCommand(QStringLiteral("GET?"), 3, 30000));
         QTRY_COMPARE(contentOfAll(program.path(QStringLiteral("DataRecord"))).count('\n'), 2);
         const QByteArray log = program.log();

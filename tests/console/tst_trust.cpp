@@ -1,10 +1,12 @@
 #include "2d/scene/mymarkitem.h"
 #include "2d/view/graphicsbase.h"
 #include "2d/view/pathinfo.h"
+#include "Logic/seriallogic.h"
 #include "consoletester.h"
 #include "simulatorprocess.h"
 #include "testmain.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -75,8 +77,12 @@ private slots:
         type(console, "doubleSpinBoxOffset", typed);
         QTEST(console.find<QDoubleSpinBox>("doubleSpinBoxOffset")->value(), "value");
         console.window().updateFrequency(2450000, QStringLiteral("KHz"));
-        QCOMPARE(console.find<QDoubleSpinBox>("doubleSpinBoxFreq")->text(),
-                 QStringLiteral("2450000"));
+        auto *frequency = console.find<QDoubleSpinBox>("doubleSpinBoxFreq");
+        QCOMPARE(frequency->text(), QStringLiteral("2450000"));
+        console.find<QWidget>("groupBoxFrquency")->setEnabled(true);
+        type(console, "doubleSpinBoxFreq", QStringLiteral("2450,5")); // no 24505
+        frequency->interpretText();
+        QCOMPARE(frequency->text(), QStringLiteral("2450"));
     }
 
     void refusedSettingIsTold_data()
@@ -125,6 +131,17 @@ private slots:
         QTest::keyClick(widget, Qt::Key_Escape);
         QVERIFY(!isMarked(console, box.constData()));
         QVERIFY(!widget->toolTip().contains(QStringLiteral("the instrument holds")));
+    }
+
+    void untoldSettingIsMarked()
+    {
+        const ConsoleTester console;
+        auto *link = console.window().findChild<SerialLogic *>();
+        emit link->replied("AVER:COUN?\n", {}, Outcome::Timeout);
+        emit link->updateAverageCount(0);
+        QVERIFY(isMarked(console, "spinBoxAverageCount"));
+        emit link->updateAverageCount(4);
+        QVERIFY(!isMarked(console, "spinBoxAverageCount"));
     }
 
     void differenceIsTold()
@@ -213,7 +230,9 @@ private slots:
     void lostRecordsAreToldOnce()
     {
         const ConsoleTester console;
-        console.find<QLineEdit>("lineEditPath")->setText(QStringLiteral("/no such folder"));
+        auto *line = console.find<QLineEdit>("lineEditPath");
+        const QString former = line->text();
+        line->setText(QStringLiteral("/no such folder"));
         console.window().saveValue();
         QVERIFY(notice(console).startsWith(QStringLiteral("Records are not written: ")));
         const QString since = console.text("labelRecord");
@@ -221,6 +240,9 @@ private slots:
         type(console, "lineEditPath", {});
         console.window().saveValue();
         QCOMPARE(console.text("labelRecord"), since);
+        line->setText(former);
+        console.window().saveValue();
+        QCOMPARE(notice(console), QString());
     }
 
     void recordBetweenSettingAndReadingWaitsForIt()
@@ -249,11 +271,15 @@ private slots:
             if (!notice(console).contains(QStringLiteral("identity")))
                 return;
             console.click("btnOpen"); // what is pressed meanwhile goes nowhere
+            auto *connectAction = console.find<QAction>("actionConnect");
+            QShortcutEvent shortcut(connectAction->shortcut(), 0);
+            QApplication::sendEvent(connectAction, &shortcut);
+            QVERIFY(!console.find<QWidget>("ConnectDialog")->isVisible());
             QTest::mouseClick(console.find<QWidget>("btnStopOpening"), Qt::LeftButton);
         });
         look.start(10);
         QVERIFY(!console.connectTo(simulator));
-        QCOMPARE(simulator.commands(), startUpQueries.mid(0, 1));
+        QTRY_COMPARE(simulator.commands(), startUpQueries.mid(0, 1));
         QCOMPARE(console.faultsOfState(false), QStringList());
         QCOMPARE(notice(console), QString());
     }

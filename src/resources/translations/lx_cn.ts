@@ -1505,6 +1505,10 @@ correction</source>
         <source>No records can be written to &quot;%1&quot;: %2. The folder stays as it was.</source>
         <translation>无法将记录写入“%1”：%2。文件夹保持不变。</translation>
     </message>
+    <message>
+        <source>%1 was not confirmed.</source>
+        <translation>%1未得到确认。</translation>
+    </message>
 </context>
 <context>
     <name>ManagerGraph</name>
@@ -3483,6 +3487,10 @@ Replace it?</source>
         <source>%1 was confirmed, but could not be read back.</source>
         <translation>%1已确认，但无法读回。</translation>
     </message>
+    <message>
+        <source>Not known: the instrument did not tell what it holds.</source>
+        <translation>未知：仪器没有告知实际值。</translation>
+    </message>
 </context>
 <context>
     <name>Smooth</name>
@@ -3599,6 +3607,10 @@ Replace it?</source>
     <message>
         <source>Stop</source>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>Give up opening the link (Esc)</source>
+        <translation>放弃打开连接（Esc）</translation>
     </message>
 </context>
 <context>

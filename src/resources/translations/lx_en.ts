@@ -1505,6 +1505,10 @@ correction</translation>
         <source>No records can be written to &quot;%1&quot;: %2. The folder stays as it was.</source>
         <translation>No records can be written to &quot;%1&quot;: %2. The folder stays as it was.</translation>
     </message>
+    <message>
+        <source>%1 was not confirmed.</source>
+        <translation>%1 was not confirmed.</translation>
+    </message>
 </context>
 <context>
     <name>ManagerGraph</name>
@@ -3483,6 +3487,10 @@ Replace it?</translation>
         <source>%1 was confirmed, but could not be read back.</source>
         <translation>%1 was confirmed, but could not be read back.</translation>
     </message>
+    <message>
+        <source>Not known: the instrument did not tell what it holds.</source>
+        <translation>Not known: the instrument did not tell what it holds.</translation>
+    </message>
 </context>
 <context>
     <name>Smooth</name>
@@ -3599,6 +3607,10 @@ Replace it?</translation>
     <message>
         <source>Stop</source>
         <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Give up opening the link (Esc)</source>
+        <translation>Give up opening the link (Esc)</translation>
     </message>
 </context>
 <context>
