@@ -101,6 +101,13 @@ private slots:
         QCOMPARE(rounded(supplementaryFigures(oneNull).firstNullBeamWidth), 360.0F);
         const auto twoLobes = withLevels({0, -10, -40, -10, 0, -10, -40, -10}, -180, 45);
         QCOMPARE(rounded(supplementaryFigures(twoLobes).sideLobeLevel), 0.0F);
+        Points rough; // its side lobes stand on the foot of the main one
+        for (int angle = -180; angle < 180; ++angle) {
+            const double off = std::abs(angle);
+            const double level = std::max(-off / 2.0, -5.0 - std::abs(off - 26.0) / 2.0);
+            rough.append({double(angle), std::max(level, -30.0) + (angle % 2 == 0 ? 0.1 : -0.1)});
+        }
+        QCOMPARE(std::round(supplementaryFigures(rough).sideLobeLevel.value()), -5.0);
     }
 
     void nullsHaveToBeDeep()

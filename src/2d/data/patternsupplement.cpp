@@ -55,11 +55,11 @@ std::pair<int, int> reachOf(const AngularPattern &pattern, int top, double drop)
 class FittedLobe
 {
 public:
-    FittedLobe(const AngularPattern &pattern, int top)
+    /// Through what lies between two indices; \a noise is that of the levels, dB.
+    FittedLobe(const AngularPattern &pattern, const std::pair<int, int> &reach, double noise)
     {
-        constexpr double drop = 6.0;
         constexpr int fewest = 9;
-        const auto [first, last] = reachOf(pattern, top, drop);
+        const auto [first, last] = reach;
         m_from = pattern.angle(first);
         m_to = pattern.angle(last);
         m_isUsable = last - first >= fewest;
@@ -69,11 +69,21 @@ public:
         for (int i = first; i <= last; ++i)
             fit.add(pattern.angle(i), pattern.level(i));
         m_shape = fit.solved();
+        // A lobe of another shape than a polynomial has is better told by its samples.
+        double squares = 0.0;
+        for (int i = first; i <= last; ++i) {
+            const double error = pattern.level(i) - m_shape(pattern.angle(i));
+            squares += error * error;
+        }
+        constexpr int factors = 5;
+        m_isUsable = std::sqrt(squares / (last - first + 1 - factors)) <= 2.0 * noise;
         for (int i = 1; i <= steps; ++i) {
             if (level(i) > level(m_top))
                 m_top = i;
         }
     }
+
+    static constexpr double drop = 6.0;
 
     bool isUsable() const { return m_isUsable; }
     double topLevel() const { return level(m_top); }
@@ -108,15 +118,15 @@ private:
 /// The main lobe: its top, and where it has fallen from there.
 struct MainLobe
 {
-    /// \a isNoisy: its top is that of a fit.
-    MainLobe(const AngularPattern &pattern, bool isNoisy)
+    /// With \a noise (dB) its top is that of a fit.
+    MainLobe(const AngularPattern &pattern, double noise)
         : peak(pattern.peak())
         , level(pattern.level(peak))
         , angle(pattern.angle(peak))
     {
-        if (!isNoisy)
+        if (!(noise > 0.0))
             return;
-        const FittedLobe fitted(pattern, peak);
+        const FittedLobe fitted(pattern, reachOf(pattern, peak, FittedLobe::drop), noise);
         if (!fitted.isUsable())
             return;
         fit = fitted;
@@ -184,6 +194,14 @@ std::vector<std::pair<int, int>> outside(const AngularPattern &pattern, std::opt
     return ranges;
 }
 
+double greatestLevel(const AngularPattern &pattern, int from, int to)
+{
+    double greatest = pattern.level(from);
+    for (int i = from + 1; i <= to; ++i)
+        greatest = std::max(greatest, pattern.level(i));
+    return greatest;
+}
+
 /// The greatest level in \a ranges; of noisy lobes the greatest of their fitted tops, since the
 /// greatest sample of many is the one with the most noise on it.
 std::optional<double> greatestLevel(const AngularPattern &pattern,
@@ -191,8 +209,9 @@ std::optional<double> greatestLevel(const AngularPattern &pattern,
 {
     std::optional<double> greatest;
     for (const auto &[from, to] : ranges) {
-        for (int i = from; i <= to; ++i)
-            greatest = std::max(greatest.value_or(pattern.level(i)), pattern.level(i));
+        if (from <= to)
+            greatest =
+                std::max(greatest.value_or(pattern.level(from)), greatestLevel(pattern, from, to));
     }
     if (!greatest || !(noise > 0.0))
         return greatest;
@@ -203,10 +222,14 @@ std::optional<double> greatestLevel(const AngularPattern &pattern,
         for (int i = from; i <= to; ++i) {
             if (pattern.level(i) < *greatest - nearness * noise)
                 continue;
-            const FittedLobe lobe(pattern, i);
-            const double level = lobe.isUsable() ? lobe.topLevel() : pattern.level(i);
+            // A point on the foot of the main lobe must not take that in.
+            const auto [first, last] = reachOf(pattern, i, FittedLobe::drop);
+            const FittedLobe lobe(pattern, {std::max(first, from), std::min(last, to)}, noise);
+            const int end = std::max(i, reachOf(pattern, i, nearness * noise + 1.0).second);
+            const double level =
+                lobe.isUsable() ? lobe.topLevel() : greatestLevel(pattern, i, std::min(end, to));
             fitted = std::max(fitted.value_or(level), level);
-            i = std::max(i, reachOf(pattern, i, nearness * noise + 1.0).second);
+            i = end;
         }
     }
     return fitted;
@@ -243,12 +266,12 @@ PatternSupplement supplementaryFigures(const QVector<QPointF> &points, double nu
         return {};
     AngularPattern pattern(points);
     if (!isNoisy(pattern))
-        return figuresOf(pattern, MainLobe(pattern, false), nullProminence, 0.0);
+        return figuresOf(pattern, MainLobe(pattern, 0.0), nullProminence, 0.0);
     pattern = pattern.thinned(finest);
     const double noise = pattern.noise();
     // Rises that noise alone does not make in a thousand samples.
     constexpr double certain = 8.0;
-    return figuresOf(pattern, MainLobe(pattern, true), std::max(nullProminence, certain * noise),
+    return figuresOf(pattern, MainLobe(pattern, noise), std::max(nullProminence, certain * noise),
                      noise);
 }
 
@@ -261,7 +284,7 @@ QVector<BeamWidth> beamWidths(const QVector<QPointF> &points, const QVector<doub
     const bool noisy = isNoisy(pattern);
     if (noisy)
         pattern = pattern.thinned(finest);
-    const MainLobe lobe(pattern, noisy);
+    const MainLobe lobe(pattern, noisy ? pattern.noise() : 0.0);
     for (const double drop : drops)
         widths.append(lobe.width(pattern, drop));
     return widths;
