@@ -3,6 +3,7 @@
 #include "2d/form/listchart.h"
 #include "patterns/curveimport.h"
 #include "patterns/reportpage.h"
+#include "patterns/workbenchsettings.h"
 
 namespace Batch {
 
@@ -14,6 +15,10 @@ ExitStatus writeReport(const QString &output, const QStringList &files, QTextStr
     ListChart form;
     form.setAttribute(Qt::WA_DontShowOnScreen);
     form.resize(1280, 800);
+    const WorkbenchSettings settings;
+    form.setPolarView(settings.polarView());
+    form.setNullProminence(settings.nullProminence());
+    form.setBeamLevels(settings.beamLevels());
     form.show(); // the charts have no size before
     for (const ReadCurve &curve : read.curves)
         form.addCurve(curve.name, curve.points, recordOf(curve));

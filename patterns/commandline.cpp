@@ -89,6 +89,30 @@ QString complaint(const QCommandLineParser &parser, const BatchOptions &options,
     return line.files.isEmpty() ? QStringLiteral("There are no files to read.") : QString();
 }
 
+/// The options of the window, and those that every program has.
+struct WindowOptions
+{
+    QCommandLineOption language{QStringLiteral("language"),
+                                QStringLiteral("Language of the program: en or cn."),
+                                QStringLiteral("en|cn")};
+    QCommandLineOption measure{
+        QStringLiteral("measure"),
+        QStringLiteral("Open the dialog that measures a pattern, with the meter's address."),
+        QStringLiteral("HOST[:PORT]")};
+    QCommandLineOption rotator{QStringLiteral("rotator"),
+                               QStringLiteral("The rotator's address for --measure."),
+                               QStringLiteral("HOST[:PORT]")};
+};
+
+QString languageComplaint(const QCommandLineParser &parser, const QCommandLineOption &option)
+{
+    const QString language = parser.value(option);
+    const bool isKnown = language == QStringLiteral("en") || language == QStringLiteral("cn");
+    if (isKnown || !parser.isSet(option))
+        return {};
+    return QStringLiteral("Unknown language \"%1\": en and cn are known.").arg(language);
+}
+
 /// Whether \a arguments ask for work without a window, in however wrong a way.
 bool asksForWork(const QStringList &arguments, const BatchOptions &options)
 {
@@ -112,51 +136,33 @@ CommandLine readCommandLine(const QStringList &arguments)
     parser.setApplicationDescription(QStringLiteral("Antenna pattern workbench of the MZ6218."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption language(QStringLiteral("language"),
-                                      QStringLiteral("Language of the program: en or cn."),
-                                      QStringLiteral("en|cn"));
-    parser.addOption(language);
-    const QCommandLineOption measure(
-        QStringLiteral("measure"),
-        QStringLiteral("Open the dialog that measures a pattern, with the meter's address."),
-        QStringLiteral("HOST[:PORT]"));
-    const QCommandLineOption rotator(QStringLiteral("rotator"),
-                                     QStringLiteral("The rotator's address for --measure."),
-                                     QStringLiteral("HOST[:PORT]"));
-    parser.addOptions({measure, rotator});
-    const BatchOptions options;
-    parser.addOptions(options.all());
+    const WindowOptions window;
+    parser.addOptions({window.language, window.measure, window.rotator});
+    const BatchOptions batch;
+    parser.addOptions(batch.all());
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Curve files and pattern files (MSI, NSMA, NEC2)."),
                                  QStringLiteral("[files...]"));
 
     CommandLine line;
     const bool understood = parser.parse(arguments);
-    line.language = parser.value(language);
+    line.language = parser.value(window.language);
     line.files = parser.positionalArguments();
-    line.meter = parser.value(measure);
-    line.rotator = parser.value(rotator);
-    line.task = taskOf(parser, options);
-    line.isBatch = asksForWork(arguments.mid(1), options);
+    line.meter = parser.value(window.measure);
+    line.rotator = parser.value(window.rotator);
+    line.task = taskOf(parser, batch);
+    line.isBatch = asksForWork(arguments.mid(1), batch);
     line.wish = line.isBatch ? CommandLine::Wish::Batch : CommandLine::Wish::Run;
-    if (!understood) {
-        line.wish = CommandLine::Wish::Refuse;
-        line.text = parser.errorText();
-    } else if (parser.isSet(help)) {
+    if (understood && (parser.isSet(help) || parser.isSet(version))) {
         line.wish = CommandLine::Wish::Print;
-        line.text = parser.helpText();
-    } else if (parser.isSet(version)) {
-        line.wish = CommandLine::Wish::Print;
-        line.text = QStringLiteral("mz6218-patterns " MZ_VERSION);
-    } else if (parser.isSet(language) && line.language != QStringLiteral("en") &&
-               line.language != QStringLiteral("cn")) {
-        line.wish = CommandLine::Wish::Refuse;
         line.text =
-            QStringLiteral("Unknown language \"%1\": en and cn are known.").arg(line.language);
-    } else if (line.isBatch) {
-        line.text = complaint(parser, options, line);
-        if (!line.text.isEmpty())
-            line.wish = CommandLine::Wish::Refuse;
+            parser.isSet(help) ? parser.helpText() : QStringLiteral("mz6218-patterns " MZ_VERSION);
+        return line;
     }
+    line.text = understood ? languageComplaint(parser, window.language) : parser.errorText();
+    if (line.text.isEmpty() && line.isBatch)
+        line.text = complaint(parser, batch, line);
+    if (!line.text.isEmpty())
+        line.wish = CommandLine::Wish::Refuse;
     return line;
 }

@@ -19,6 +19,8 @@ CurveRecord recordOf(const ReadCurve &curve)
     const QString notes = PatternFormats::describe(curve.details);
     if (!notes.isEmpty())
         record.notes = notes.split(QLatin1Char('\n'));
+    for (const PatternFormats::Detail &one : curve.details)
+        record.facts.append({one.key, one.value});
     return record;
 }
 

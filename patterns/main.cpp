@@ -28,9 +28,7 @@ int print(const CommandLine &line)
     useParentConsole();
     const bool refused = line.wish == CommandLine::Wish::Refuse;
     QTextStream(refused ? stderr : stdout) << line.text << '\n';
-    if (refused)
-        return line.isBatch ? Batch::WrongUsage : 1;
-    return 0;
+    return refused ? Batch::WrongUsage : Batch::Done;
 }
 
 /// Work without a window; the report alone needs a QApplication.
@@ -87,9 +85,11 @@ int main(int argc, char **argv)
         return work(line);
     if (line.wish != CommandLine::Wish::Run)
         return print(line);
-    if (!hasDisplay)
-        return print(
-            {CommandLine::Wish::Refuse, Display::missingText(), {}, {}, false, {}, {}, {}});
+    if (!hasDisplay) {
+        useParentConsole();
+        QTextStream(stderr) << Display::missingText() << '\n';
+        return Batch::Failed;
+    }
 
     // The link tells each line that it sends and reads.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));

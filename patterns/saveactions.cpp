@@ -29,6 +29,14 @@ SaveFormat curveFormat()
     return {SaveActions::tr("Curve files"), {QStringLiteral("csv")}};
 }
 
+/// What the curves of an export share, else the name of the first.
+QString patternName(const CurveSet &curves, const PatternChoice &choice)
+{
+    const QString horizontal = curves.name(choice.horizontal);
+    const QString vertical = curves.name(choice.vertical);
+    return horizontal.isEmpty() ? vertical : MsiFormat::commonName(horizontal, vertical);
+}
+
 } // namespace
 
 SaveActions::SaveActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent)
@@ -101,11 +109,7 @@ void SaveActions::askPattern()
         ExportDialog::ask(m_desk.dialogParent(), m_desk.curves());
     if (!choice)
         return;
-    const CurveSet &curves = m_desk.curves();
-    const QString horizontal = curves.name(choice->horizontal);
-    const QString vertical = curves.name(choice->vertical);
-    const QString name =
-        horizontal.isEmpty() ? vertical : MsiFormat::commonName(horizontal, vertical);
+    const QString name = patternName(m_desk.curves(), *choice);
     QVector<SaveFormat> formats{
         {tr("MSI pattern"), {QStringLiteral("msi"), QStringLiteral("pln")}}};
     if (choice->format == Format::Nsma)
@@ -119,17 +123,20 @@ void SaveActions::askPattern()
 
 bool SaveActions::savePattern(const PatternChoice &choice, const QString &file)
 {
-    const auto cut = [this](int id,
-                            PatternFormats::Plane plane) -> std::optional<PatternFormats::Cut> {
+    const CurveSet &curves = m_desk.curves();
+    const auto cut = [&](int id, PatternFormats::Plane plane) {
+        std::optional<PatternFormats::Cut> made;
         if (id == 0)
-            return std::nullopt;
-        const CurveSet &curves = m_desk.curves();
-        PatternFormats::Cut made;
-        made.title = curves.name(id);
-        made.name = made.title;
-        made.frequency = curves.record(id).frequency;
-        made.points = curves.points(id);
-        made.plane = plane;
+            return made;
+        const CurveRecord record = curves.record(id);
+        made.emplace();
+        made->title = patternName(curves, choice);
+        made->name = curves.name(id);
+        made->frequency = record.frequency;
+        made->points = curves.points(id);
+        made->plane = plane;
+        for (const auto &[key, value] : record.facts)
+            made->details.append({key, value});
         return made;
     };
     const PatternFormats::Written written = PatternFormats::write(

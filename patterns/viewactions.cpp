@@ -13,7 +13,6 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
     : QObject(parent)
     , m_ui(ui)
     , m_desk(desk)
-    , m_beamLevels(QStringLiteral("-3, -6, -10"))
 {
     ListChart *form = &m_desk.form();
     connect(m_ui.actionFit, &QAction::triggered, form, &ListChart::fitToData);
@@ -30,6 +29,8 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
     connect(form, &ListChart::nullProminenceChosen, context, &WindowContext::setNullProminence);
     connect(context, &WindowContext::nullProminenceChanged, form, &ListChart::setNullProminence);
     form->setNullProminence(context->nullProminence());
+    connect(context, &WindowContext::beamLevelsChanged, form, &ListChart::setBeamLevels);
+    form->setBeamLevels(context->beamLevels());
     setUpMarkers();
     setUpPolarView();
     setUpLanguages();
@@ -38,10 +39,12 @@ ViewActions::ViewActions(Ui::PatternWindow &ui, CurveDesk &desk, QObject *parent
 void ViewActions::askBeamLevels()
 {
     bool accepted = false;
+    const QVector<double> shown = m_desk.context().beamLevels();
+    const QString proposed = shown.isEmpty() ? QStringLiteral("-3, -6, -10") : dropsText(shown);
     const QString levels = QInputDialog::getText(
         m_desk.dialogParent(), tr("Beam Widths"),
         tr("Levels below the peak in dB, for instance -3, -6, -10; none hides them:"),
-        QLineEdit::Normal, m_beamLevels, &accepted);
+        QLineEdit::Normal, proposed, &accepted);
     if (!accepted)
         return;
     const std::optional<QVector<double>> drops = readDrops(levels);
@@ -49,8 +52,7 @@ void ViewActions::askBeamLevels()
         m_desk.warn(tr("These are no levels: %1").arg(levels));
         return;
     }
-    m_beamLevels = levels;
-    m_desk.form().setBeamLevels(*drops);
+    m_desk.context().setBeamLevels(*drops);
 }
 
 void ViewActions::setUpMarkers()

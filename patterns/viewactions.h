@@ -30,5 +30,4 @@ private:
 
     Ui::PatternWindow &m_ui;
     CurveDesk &m_desk;
-    QString m_beamLevels; ///< as the user wrote them last
 };

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /// What a window of the workbench needs of the program around it: the things that all windows
 /// share. Windows know this alone, so that none of them depends on how the program makes others.
@@ -46,6 +47,11 @@ public:
     /// Computes the supplementary figures of all windows anew, also at the next start.
     virtual void setNullProminence(double prominence) = 0;
 
+    /// Levels below the peak at which beam widths are shown, positive dB, ascending.
+    virtual QVector<double> beamLevels() const = 0;
+    /// Shows other beam widths in all windows, also at the next start.
+    virtual void setBeamLevels(const QVector<double> &levels) = 0;
+
     /// What was entered for the last measurement.
     virtual QJsonObject measuring() const = 0;
     virtual void rememberMeasuring(const QJsonObject &inputs) = 0;
@@ -58,6 +64,7 @@ public:
 signals:
     void polarViewChanged(const PolarView &view);
     void nullProminenceChanged(double prominence);
+    void beamLevelsChanged(const QVector<double> &levels);
     void languageChanged();
     void recentFilesChanged();
 };

@@ -12,6 +12,7 @@ Workbench::Workbench(const QString &settingsFile, QObject *parent)
     , m_recentFiles(m_settings.recentFiles())
     , m_polarView(m_settings.polarView())
     , m_nullProminence(m_settings.nullProminence())
+    , m_beamLevels(m_settings.beamLevels())
 {
     m_language.set(m_settings.language());
 }
@@ -48,6 +49,13 @@ void Workbench::setNullProminence(double prominence)
     m_nullProminence = prominence;
     m_settings.setNullProminence(prominence);
     emit nullProminenceChanged(prominence);
+}
+
+void Workbench::setBeamLevels(const QVector<double> &levels)
+{
+    m_beamLevels = levels;
+    m_settings.setBeamLevels(levels);
+    emit beamLevelsChanged(levels);
 }
 
 void Workbench::stop()

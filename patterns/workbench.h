@@ -36,6 +36,8 @@ public:
     void setPolarView(const PolarView &view) override;
     double nullProminence() const override { return m_nullProminence; }
     void setNullProminence(double prominence) override;
+    QVector<double> beamLevels() const override { return m_beamLevels; }
+    void setBeamLevels(const QVector<double> &levels) override;
     QJsonObject measuring() const override { return m_settings.measuring(); }
     void rememberMeasuring(const QJsonObject &inputs) override { m_settings.setMeasuring(inputs); }
     QString language() const override { return m_language.code(); }
@@ -54,6 +56,7 @@ private:
     RecentFiles m_recentFiles;
     PolarView m_polarView;
     double m_nullProminence;
+    QVector<double> m_beamLevels;
     Language m_language;
     bool m_isStopping = false;
 };

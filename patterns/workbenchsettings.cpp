@@ -1,6 +1,7 @@
 #include "patterns/workbenchsettings.h"
 
 #include "2d/data/patternsupplement.h"
+#include "2d/data/supplementtext.h"
 #include "storage/filewriting.h"
 
 #include <QDebug>
@@ -128,6 +129,17 @@ double WorkbenchSettings::nullProminence() const
 void WorkbenchSettings::setNullProminence(double prominence)
 {
     store(m_file, QStringLiteral("nullProminence"), prominence);
+}
+
+QVector<double> WorkbenchSettings::beamLevels() const
+{
+    const QString levels = stored(m_file, QStringLiteral("beamLevels")).toString();
+    return readDrops(levels).value_or(QVector<double>());
+}
+
+void WorkbenchSettings::setBeamLevels(const QVector<double> &levels)
+{
+    store(m_file, QStringLiteral("beamLevels"), dropsText(levels));
 }
 
 QJsonObject WorkbenchSettings::measuring() const

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /// What the workbench remembers from one session to the next: a JSON file in the user's own
 /// configuration folder, since the program's folder may well be read-only.
@@ -35,6 +36,10 @@ public:
     /// dB; the usual one when nothing, or nothing sensible, was stored.
     double nullProminence() const;
     void setNullProminence(double prominence);
+
+    /// Levels below the peak at which beam widths are shown, positive dB, ascending.
+    QVector<double> beamLevels() const;
+    void setBeamLevels(const QVector<double> &levels);
 
     /// What was entered for the last measurement, as it was stored.
     QJsonObject measuring() const;

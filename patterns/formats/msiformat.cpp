@@ -19,9 +19,18 @@ constexpr std::array<std::string_view, 2> sections{"HORIZONTAL", "VERTICAL"};
 constexpr std::array<std::string_view, 12> headerKeys{
     "NAME", "MAKE", "FREQUENCY",       "H_WIDTH",         "V_WIDTH",      "FRONT_TO_BACK",
     "GAIN", "TILT", "ELECTRICAL_TILT", "MECHANICAL_TILT", "POLARIZATION", "COMMENT"};
-/// What an export hands on; the others are the data's own matter.
+/// What an export hands on; the others are the data's own matter. NSMA has other keys for some.
 constexpr std::array<std::string_view, 6> keptKeys{
     "MAKE", "TILT", "ELECTRICAL_TILT", "MECHANICAL_TILT", "POLARIZATION", "COMMENT"};
+
+QString keptKey(const QString &key)
+{
+    if (key == QStringLiteral("ANTMAN"))
+        return QStringLiteral("MAKE");
+    if (key == QStringLiteral("POLARI"))
+        return QStringLiteral("POLARIZATION");
+    return key == QStringLiteral("DESCR1") ? QStringLiteral("COMMENT") : key;
+}
 
 template<typename Keys>
 bool isOneOf(std::string_view key, const Keys &keys)
@@ -351,8 +360,9 @@ Written write(const Pattern &pattern)
     written.bytes +=
         headerLine(QStringLiteral("GAIN"), CurveText::number(gain) + QStringLiteral(" dBi"));
     for (const Detail &detail : pattern.details) {
-        if (isOneOf(detail.key.toStdString(), keptKeys))
-            written.bytes += headerLine(detail.key, detail.value);
+        const QString key = keptKey(detail.key);
+        if (isOneOf(key.toStdString(), keptKeys))
+            written.bytes += headerLine(key, detail.value);
     }
     written.bytes += section("HORIZONTAL", horizontal, gain) + section("VERTICAL", vertical, gain);
     return written;

@@ -142,15 +142,16 @@ void Measurement::takeEnd()
     emit ended(); // before a message that waits for the user
     const QString file = QDir::toNativeSeparators(store.curvePath());
     const QString cause = m_session->causeText();
-    if (!m_session->isWritten())
+    if (!m_session->isWritten()) {
         m_desk.warn(tr("The curve could not be written: %1\n%2").arg(file, store.reason()));
-    else if (!cause.isEmpty())
+    } else if (!cause.isEmpty()) {
         m_desk.warn(tr("The measurement has ended early. %1").arg(cause));
-    else if (run.isMarked())
+    } else if (run.isMarked()) {
         m_desk.warn(tr("The level drifted by %1 dB while the pattern was measured.")
                         .arg(*run.drift(), 0, 'f', 2));
-    else if (m_session->cause() == SweepRun::Cause::User)
+    } else if (m_session->cause() == SweepRun::Cause::User) {
         m_desk.tell(tr("Stopped; measured so far: %1").arg(file));
-    else
+    } else {
         m_desk.tell(tr("Measured: %1").arg(file));
+    }
 }

@@ -1,6 +1,7 @@
 #include "2d/data/supplementtext.h"
 
 #include "2d/data/curvefigures.h"
+#include "2d/data/curvetext.h"
 #include "2d/data/paratabletext.h"
 
 #include <QLocale>
@@ -41,6 +42,14 @@ std::optional<QVector<double>> readDrops(const QString &text)
     }
     std::sort(drops.begin(), drops.end());
     return drops;
+}
+
+QString dropsText(const QVector<double> &drops)
+{
+    QStringList parts;
+    for (const double drop : drops)
+        parts.append(CurveText::number(-drop));
+    return parts.join(QStringLiteral(", "));
 }
 
 QStringList supplementCells(const CurveFigures &figures, const SupplementColumns &columns)

@@ -20,6 +20,9 @@ struct SupplementColumns
 /// when it holds something else; empty for an empty text.
 std::optional<QVector<double>> readDrops(const QString &text);
 
+/// \a drops as readDrops() reads them: "-3, -6, -10".
+QString dropsText(const QVector<double> &drops);
+
 /// The cells of one row of the supplementary table: half-power beam width and first-null beam width
 /// in degrees, side-lobe level and front-to-back ratio in dB, direction of the peak and squint in
 /// degrees, then the further \a columns; two decimals; a dash for what is missing.

@@ -12,8 +12,8 @@ bool operator==(const CurveRecord &a, const CurveRecord &b)
 {
     return a.file == b.file && a.title == b.title && a.frequency == b.frequency &&
            a.material == b.material && a.correction == b.correction &&
-           a.extrapolated == b.extrapolated && a.notes == b.notes && a.isSaved == b.isSaved &&
-           a.isMask == b.isMask && a.difference == b.difference;
+           a.extrapolated == b.extrapolated && a.notes == b.notes && a.facts == b.facts &&
+           a.isSaved == b.isSaved && a.isMask == b.isMask && a.difference == b.difference;
 }
 
 CurveSet::CurveSet(GraphicsBase &polar, GraphicsBase &cartesian, QObject *parent)

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QPair>
 #include <QPointF>
 #include <QStringList>
 #include <QVector>
@@ -26,6 +27,8 @@ struct CurveRecord
     /// What else is known, a sentence each: what its file says of maker, model or polarisation,
     /// how it was computed. Shown in the curve's tool tip and in the report.
     QStringList notes;
+    /// What its pattern file tells of the antenna, as key and value: goes out again with the curve.
+    QVector<QPair<QString, QString>> facts;
     bool isSaved = true; ///< a file holds the curve as it is
     bool isMask = false; ///< a limit for the others; it has no figures
     /// Of a difference of two curves, within the main part of the first.
