@@ -109,7 +109,7 @@ class Compare : public CurveOperation
     Q_DECLARE_TR_FUNCTIONS(Compare)
 
 public:
-    QString text() const override { return tr("C&ompare"); }
+    QString text() const override { return tr("Comp&are"); }
     QString tip() const override
     {
         return tr("Makes the difference of two curves, the selected one minus the other");

@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int nameColumnWidth = 104; // pixels
@@ -92,4 +94,8 @@ void SupplementaryTable::retranslate()
     setHorizontalHeaderLabels(names);
     for (int column = 0; column < columnCount(); ++column)
         horizontalHeaderItem(column)->setToolTip(meanings.at(column));
+    int widest = leastWidth;
+    for (int column = 1; column < columnCount(); ++column)
+        widest = std::max(widest, horizontalHeader()->sectionSizeHint(column));
+    horizontalHeader()->setMinimumSectionSize(widest);
 }

@@ -128,8 +128,8 @@
 <context>
     <name>Compare</name>
     <message>
-        <source>C&amp;ompare</source>
-        <translation>比较(&amp;O)</translation>
+        <source>Comp&amp;are</source>
+        <translation>比较(&amp;A)</translation>
     </message>
     <message>
         <source>Makes the difference of two curves, the selected one minus the other</source>

@@ -128,8 +128,8 @@
 <context>
     <name>Compare</name>
     <message>
-        <source>C&amp;ompare</source>
-        <translation>C&amp;ompare</translation>
+        <source>Comp&amp;are</source>
+        <translation>Comp&amp;are</translation>
     </message>
     <message>
         <source>Makes the difference of two curves, the selected one minus the other</source>
