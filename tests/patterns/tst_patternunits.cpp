@@ -95,6 +95,7 @@ private slots:
         QCOMPARE(ticks(0, 2.5), (Scale{0, 2.5, 5}));
         QCOMPARE(ticks(0, 3.14159), (Scale{0, 3.14159, 5})); // no round tick fits
         QCOMPARE(ticks(10, -10), (Scale{10, -10, 1}));       // upside down
+        QVERIFY(std::isfinite(levels({{{0, 1e308}, {1, -1e308}}}).at(1)));
     }
 
     void frequencies()

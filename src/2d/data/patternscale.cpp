@@ -19,6 +19,9 @@ struct Extent
 
     void take(double value)
     {
+        // A file may hold any number; the span of a scale has to be one too.
+        constexpr double most = 1e100;
+        value = qBound(-most, value, most);
         low = std::min(low, value);
         high = std::max(high, value);
     }
@@ -96,7 +99,7 @@ AxisScale dividedScale(double min, double max)
     constexpr int most = 12;
     constexpr int fallback = 5;
     const double span = max - min;
-    if (!(span > 0.0))
+    if (!(span > 0.0) || !std::isfinite(span))
         return {min, max, 1};
     // From the largest step that leaves enough divisions down to the smallest that is still
     // legible.
