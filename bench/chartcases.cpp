@@ -23,6 +23,7 @@ struct CurveTimes
     double load = 0.0;
     double zoom = 0.0;
     double resize = 0.0;
+    double hitTest = 0.0;
     double press = 0.0;
 };
 
@@ -81,11 +82,12 @@ CurveTimes timesOf(CurveChart &chart, const QVector<QPointF> &points)
 
     // One press on the curve, one 15 dB above it, and so on.
     constexpr double degrees = 12.0;
-    bool beside = false;
-    times.press = Measure::medianMs([&] {
-        chart.press(QPointF(degrees, testLevel(CurveShape::Pattern, degrees) + (beside ? 15 : 0)));
-        beside = !beside;
-    });
+    const double level = testLevel(CurveShape::Pattern, degrees);
+    const QPointF places[] = {chart.position({degrees, level}),
+                              chart.position({degrees, level + 15})};
+    int count = 0;
+    times.hitTest = Measure::medianMs([&] { chart.hitTest(places[++count % 2]); });
+    times.press = Measure::medianMs([&] { chart.press(places[++count % 2]); });
     return times;
 }
 
@@ -136,6 +138,7 @@ void curveRows(const QString &kind, const Makers &makers, const ChartSink &sink)
         add(QStringLiteral("load"), &CurveTimes::load);
         add(QStringLiteral("zoom step"), &CurveTimes::zoom);
         add(QStringLiteral("resize"), &CurveTimes::resize);
+        add(QStringLiteral("hit test"), &CurveTimes::hitTest);
         add(QStringLiteral("press"), &CurveTimes::press);
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QMouseEvent>
 
 void ChartHost::show(QWidget *chart, QWidget *canvas)
 {
@@ -11,6 +12,7 @@ void ChartHost::show(QWidget *chart, QWidget *canvas)
     chart->resize(measured);
     canvas->installEventFilter(this);
     m_chart = chart;
+    m_canvas = canvas;
     m_window.show();
     settle();
 }
@@ -18,6 +20,16 @@ void ChartHost::show(QWidget *chart, QWidget *canvas)
 void ChartHost::resize(const QSize &size)
 {
     m_chart->resize(size);
+}
+
+void ChartHost::click(const QPointF &position)
+{
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, position, m_canvas->mapToGlobal(position.toPoint()), Qt::LeftButton,
+                          held, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_canvas, &event);
+    }
 }
 
 void ChartHost::settle()

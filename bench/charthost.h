@@ -24,11 +24,14 @@ public:
 protected:
     /// Shows \a chart, which the host's window deletes; its \a canvas is what gets painted.
     void show(QWidget *chart, QWidget *canvas);
+    /// Presses and releases the left button on the canvas.
+    void click(const QPointF &position);
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QWidget m_window;
     QWidget *m_chart = nullptr;
+    QWidget *m_canvas = nullptr;
     int m_paintings = 0;
 };
 
@@ -46,8 +49,12 @@ public:
     virtual void clear() = 0;
     /// Widens or narrows the range shown by a twentieth about its middle.
     virtual void zoom(bool widen) = 0;
-    /// Asks whether the curve is where \a value is.
-    virtual void press(const QPointF &value) = 0;
+    /// The place of \a value on the canvas.
+    virtual QPointF position(const QPointF &value) const = 0;
+    /// Asks the curve alone whether it is at \a position.
+    virtual void hitTest(const QPointF &position) = 0;
+    /// Presses and releases the mouse there, which selects the curve if it is hit.
+    void press(const QPointF &position) { click(position); }
 };
 
 /// A chart of ten minutes, one point a second.

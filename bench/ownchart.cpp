@@ -1,20 +1,13 @@
 #include "ownchart.h"
 
+#include "2d/scene/mypathitem.h"
 #include "2d/view/graphicsbase.h"
+#include "2d/view/pathinfo.h"
 
 #include <QCoreApplication>
-#include <QMouseEvent>
 #include <QWheelEvent>
 
 namespace {
-
-void sendMouse(QWidget *target, QEvent::Type type, const QPointF &position)
-{
-    const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, position, target->mapToGlobal(position.toPoint()), Qt::LeftButton,
-                      buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &event);
-}
 
 void turnWheel(QWidget *target, int delta)
 {
@@ -56,11 +49,14 @@ void OwnCurveChart::zoom(bool widen)
     turnWheel(m_view->viewport(), widen ? 120 : -120);
 }
 
-void OwnCurveChart::press(const QPointF &value)
+QPointF OwnCurveChart::position(const QPointF &value) const
 {
-    const QPointF position = m_view->toScene(value);
-    sendMouse(m_view->viewport(), QEvent::MouseButtonPress, position);
-    sendMouse(m_view->viewport(), QEvent::MouseButtonRelease, position);
+    return m_view->toScene(value);
+}
+
+void OwnCurveChart::hitTest(const QPointF &position)
+{
+    m_view->paths().first()->pathItem()->hits(position);
 }
 
 OwnTimeChart::OwnTimeChart()

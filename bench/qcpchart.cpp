@@ -12,6 +12,7 @@ QCustomPlot *makePlot(bool fastPolylines)
 {
     auto *plot = new QCustomPlot;
     plot->setPlottingHint(QCP::phFastPolylines, fastPolylines);
+    plot->setInteractions(QCP::iSelectPlottables);
     return plot;
 }
 
@@ -65,10 +66,13 @@ void QcpCurveChart::zoom(bool widen)
     m_plot->replot();
 }
 
-void QcpCurveChart::press(const QPointF &value)
+QPointF QcpCurveChart::position(const QPointF &value) const
 {
-    const QPointF position(m_plot->xAxis->coordToPixel(value.x()),
-                           m_plot->yAxis->coordToPixel(value.y()));
+    return {m_plot->xAxis->coordToPixel(value.x()), m_plot->yAxis->coordToPixel(value.y())};
+}
+
+void QcpCurveChart::hitTest(const QPointF &position)
+{
     m_plot->graph(0)->selectTest(position, false);
 }
 
@@ -111,9 +115,14 @@ void QcpPolarChart::zoom(bool widen)
     m_plot->replot();
 }
 
-void QcpPolarChart::press(const QPointF &value)
+QPointF QcpPolarChart::position(const QPointF &value) const
 {
-    m_graph->selectTest(m_axis->coordToPixel(value.x(), value.y()), false);
+    return m_axis->coordToPixel(value.x(), value.y());
+}
+
+void QcpPolarChart::hitTest(const QPointF &position)
+{
+    m_graph->selectTest(position, false);
 }
 
 QcpTimeChart::QcpTimeChart(bool fastPolylines)

@@ -19,7 +19,8 @@ public:
     void load() override;
     void clear() override;
     void zoom(bool widen) override;
-    void press(const QPointF &value) override;
+    QPointF position(const QPointF &value) const override;
+    void hitTest(const QPointF &position) override;
 
 private:
     QCustomPlot *m_plot;
@@ -39,7 +40,8 @@ public:
     void load() override;
     void clear() override;
     void zoom(bool widen) override;
-    void press(const QPointF &value) override;
+    QPointF position(const QPointF &value) const override;
+    void hitTest(const QPointF &position) override;
 
 private:
     QCustomPlot *m_plot;

@@ -1,9 +1,11 @@
 #include "qwtchart.h"
 
+#include <qwt_picker_machine.h>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
+#include <qwt_plot_picker.h>
 #include <qwt_scale_map.h>
 
 #include <algorithm>
@@ -42,6 +44,10 @@ void scale(QwtPlot *plot, int axis, double factor)
 QwtCurveChart::QwtCurveChart()
     : m_plot(makePlot())
 {
+    auto *picker = new QwtPlotPicker(QwtPlot::xBottom, QwtPlot::yLeft, m_plot->canvas());
+    picker->setStateMachine(new QwtPickerClickPointMachine);
+    connect(picker, qOverload<const QPointF &>(&QwtPlotPicker::selected), this,
+            [this](const QPointF &value) { hitTest(position(value)); });
     show(m_plot, m_plot->canvas());
     m_plot->setAxisScale(QwtPlot::xBottom, -180, 180);
     m_plot->setAxisScale(QwtPlot::yLeft, -80, 20);
@@ -75,10 +81,14 @@ void QwtCurveChart::zoom(bool widen)
     m_plot->replot();
 }
 
-void QwtCurveChart::press(const QPointF &value)
+QPointF QwtCurveChart::position(const QPointF &value) const
 {
-    const QPointF position(m_plot->canvasMap(QwtPlot::xBottom).transform(value.x()),
-                           m_plot->canvasMap(QwtPlot::yLeft).transform(value.y()));
+    return {m_plot->canvasMap(QwtPlot::xBottom).transform(value.x()),
+            m_plot->canvasMap(QwtPlot::yLeft).transform(value.y())};
+}
+
+void QwtCurveChart::hitTest(const QPointF &position)
+{
     double distance = 0.0;
     m_curve->closestPoint(position.toPoint(), &distance);
 }

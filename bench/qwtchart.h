@@ -17,7 +17,8 @@ public:
     void load() override;
     void clear() override;
     void zoom(bool widen) override;
-    void press(const QPointF &value) override;
+    QPointF position(const QPointF &value) const override;
+    void hitTest(const QPointF &position) override;
 
 private:
     QwtPlot *m_plot;
