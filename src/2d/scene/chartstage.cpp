@@ -1,6 +1,7 @@
 #include "2d/scene/chartstage.h"
 
 #include "2d/data/chartmapping.h"
+#include "2d/scene/chartgrid.h"
 #include "2d/scene/chartlegend.h"
 #include "2d/scene/curveseries.h"
 #include "2d/scene/directionlabels.h"
@@ -129,6 +130,13 @@ ChartStage::ChartStage(int kind, QGraphicsScene &scene)
         m_chart->addAxis(m_yAxis, Qt::AlignLeft);
     }
     styleChart(*m_chart);
+    m_grid = new ChartGrid(m_chart);
+    for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
+        axis->setGridLineVisible(false);
+        axis->setLineVisible(isPolar());
+        QObject::connect(axis, &QValueAxis::tickCountChanged, m_chart, [this] { placeGrid(); });
+    }
+    QObject::connect(m_chart, &QChart::plotAreaChanged, m_chart, [this] { placeGrid(); });
     scene.addItem(m_chart);
 }
 
@@ -360,6 +368,12 @@ void ChartStage::setPolarView(const PolarView &view)
         QObject::connect(m_chart, &QChart::plotAreaChanged, m_chart, [this] { placeDirections(); });
     }
     placeDirections();
+}
+
+void ChartStage::placeGrid()
+{
+    m_grid->show({plotArea(), m_xAxis->tickCount(), m_yAxis->tickCount(), isPolar(),
+                  m_yAxis->gridLinePen(), m_yAxis->linePen()});
 }
 
 void ChartStage::placeDirections()

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class ChartGrid;
 class ChartLegend;
 class CurveSeries;
 class DirectionLabels;
@@ -99,6 +100,7 @@ public:
     QPointF toValue(const QPointF &position) const;
 
 private:
+    void placeGrid();
     void placeDirections();
 
     void fitLabels();
@@ -117,5 +119,6 @@ private:
     double m_legendHeight = 0.0;
     int m_guards = 0;
     std::optional<PolarView> m_polarView;
-    DirectionLabels *m_directions = nullptr; ///< the chart's
+    ChartGrid *m_grid = nullptr; ///< the chart's, as these
+    DirectionLabels *m_directions = nullptr;
 };

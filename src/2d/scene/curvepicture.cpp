@@ -4,6 +4,7 @@
 
 #include <QPaintEngine>
 #include <QPainter>
+#include <QRegion>
 #include <QTransform>
 
 #include <array>
@@ -72,6 +73,26 @@ CurvePicture::CurvePicture(const QVector<QLineF> &segments, const Style &style,
                 line[x] = shade[cover[x]];
         }
     }
+}
+
+CurvePicture::CurvePicture(const QVector<QRectF> &areas, const QTransform &toDevice,
+                           const std::function<void(QPainter &)> &draw)
+    : m_scale(toDevice.m11())
+    , m_fraction(QPointF(toDevice.dx(), toDevice.dy()) - wholePixels(toDevice))
+{
+    QTransform toPixels(m_scale, 0.0, 0.0, m_scale, m_fraction.x(), m_fraction.y());
+    QRegion pixels; // its rectangles do not overlap, so that nothing is blended twice
+    for (const QRectF &area : areas)
+        pixels += toPixels.mapRect(area).toAlignedRect();
+    m_corner = pixels.boundingRect().topLeft();
+    pixels.translate(-m_corner);
+    m_parts = QVector<QRect>(pixels.begin(), pixels.end());
+    m_image = QImage(pixels.boundingRect().size(), QImage::Format_ARGB32_Premultiplied);
+    m_image.fill(Qt::transparent);
+    QPainter painter(&m_image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setWorldTransform(toPixels * QTransform::fromTranslate(-m_corner.x(), -m_corner.y()));
+    draw(painter);
 }
 
 bool CurvePicture::fits(const QTransform &toDevice) const

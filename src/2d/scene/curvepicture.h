@@ -6,16 +6,17 @@
 #include <QRect>
 #include <QVector>
 
-#include <optional>
+#include <functional>
 
 QT_BEGIN_NAMESPACE
 class QPainter;
 class QTransform;
 QT_END_NAMESPACE
 
-/// The strokes of a curve's segments as a picture in the pixels of one device.
+/// The strokes of a curve's segments, or another drawing, as a picture in the pixels of one device.
 ///
-/// Painting them by QPainter takes a hundred times as long in one path, and leaves seams in pieces.
+/// Painting strokes by QPainter takes a hundred times as long in one path, and leaves seams in
+/// pieces.
 class CurvePicture
 {
 public:
@@ -33,6 +34,9 @@ public:
 
     /// \a toDevice leads from the scene to the pixels.
     CurvePicture(const QVector<QLineF> &segments, const Style &style, const QTransform &toDevice);
+    /// What \a draw draws in \a areas (scene coordinates).
+    CurvePicture(const QVector<QRectF> &areas, const QTransform &toDevice,
+                 const std::function<void(QPainter &)> &draw);
 
     /// Whether the picture fits, moved by whole pixels, where \a toDevice leads.
     bool fits(const QTransform &toDevice) const;

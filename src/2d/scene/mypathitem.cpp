@@ -117,6 +117,7 @@ void MyPathItem::forgetDrawing()
     m_scale = 0.0;
     m_segments.clear();
     m_pictures.clear();
+    m_highest.reset();
     update();
 }
 
@@ -228,6 +229,7 @@ const QVector<QLineF> &MyPathItem::segments(double pixelsPerUnit) const
                          : visibleSegments(m_outline.points, m_plotArea, pixelsPerUnit);
         m_scale = pixelsPerUnit;
         m_pictures.clear();
+        m_highest.reset();
     }
     return m_segments;
 }
@@ -248,13 +250,17 @@ bool MyPathItem::hits(const QPointF &position) const
 
 std::optional<QPointF> MyPathItem::highestPoint() const
 {
+    const QVector<QLineF> &line = segments();
+    if (m_highest)
+        return *m_highest;
     std::optional<QPointF> highest;
-    for (const QLineF &segment : segments()) {
+    for (const QLineF &segment : line) {
         for (const QPointF &point : {segment.p1(), segment.p2()}) {
             if ((!highest || point.y() < highest->y()) && m_plotArea.contains(point))
                 highest = point;
         }
     }
+    m_highest = highest;
     return highest;
 }
 

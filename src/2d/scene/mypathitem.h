@@ -133,5 +133,6 @@ private:
     bool m_clipped = false;             ///< whether the curve leaves the plot area
     mutable QVector<QLineF> m_segments; ///< what is drawn, for m_scale device pixels a unit
     mutable double m_scale = 0.0;
-    mutable QVector<CurvePicture> m_pictures; ///< as painted last
+    mutable QVector<CurvePicture> m_pictures;                ///< as painted last
+    mutable std::optional<std::optional<QPointF>> m_highest; ///< of the segments, once asked for
 };
