@@ -18,7 +18,7 @@ constexpr qint64 tickLength = 1000; // ms
 } // namespace
 
 TimeChart::TimeChart(QWidget *parent, QBoxLayout *layout)
-    : m_view(new GraphicsBase(0, parent))
+    : m_view(new GraphicsBase(0, layout->parentWidget() ? layout->parentWidget() : parent))
 {
     layout->insertWidget(0, m_view);
     m_view->resetChart({QStringLiteral("Power Meter")});

@@ -77,7 +77,7 @@ private:
     void createMenus();
     void placeAlarm();
     void createPanels();
-    QDockWidget *addPanel(const char *name, QWidget *panel, Qt::DockWidgetArea area);
+    void setUpDock(QDockWidget *dock, const char *name, QWidget *panel, Qt::DockWidgetArea area);
     void connectReadings();
     void connectTraffic();
     void connectReconnector();
@@ -96,9 +96,9 @@ private:
     QMenu *m_viewMenu = nullptr;
     QAction *m_openRecord = nullptr;
     QAction *m_reconnect = nullptr;
-    QDockWidget *m_statisticsDock = nullptr;
-    QDockWidget *m_limitsDock = nullptr;
-    QDockWidget *m_trafficDock = nullptr;
+    QDockWidget *m_statisticsDock;
+    QDockWidget *m_limitsDock;
+    QDockWidget *m_trafficDock;
 
     ReadingStatistics m_statistics;
     StatisticsPanel *m_statisticsPanel;

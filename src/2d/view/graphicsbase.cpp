@@ -29,10 +29,6 @@ GraphicsBase::GraphicsBase(int kind, QWidget *parent)
 {
     retitle();
 
-    m_tableProxy = new MyCustomProxy;
-    scene()->addItem(m_tableProxy);
-    m_tableProxy->hide();
-
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
     connectParts();
@@ -40,9 +36,12 @@ GraphicsBase::GraphicsBase(int kind, QWidget *parent)
 
 void GraphicsBase::connectParts()
 {
-    connect(this, &GraphicsBase::updateParaInfoToTable, m_tableProxy,
-            &MyCustomProxy::updateParaInfo);
-    connect(this, &GraphicsBase::clearParaInfoToTable, m_tableProxy, &MyCustomProxy::clearParaInfo);
+    connect(this, &GraphicsBase::updateParaInfoToTable, this,
+            [this](const ParaInfo &figures) { figuresPanel().updateParaInfo(figures); });
+    connect(this, &GraphicsBase::clearParaInfoToTable, this, [this] {
+        if (m_figuresPanel)
+            m_figuresPanel->clearParaInfo();
+    });
     connect(this, &GraphicsBase::updataSize, m_curves.get(), &CurveList::updataSize);
     connect(m_curves.get(), &CurveList::selectionAsked, this, &GraphicsBase::updatePathSelection);
     connect(m_curves.get(), &CurveList::acceptDropsAsked, this,

@@ -206,6 +206,8 @@ private:
     void deselect();
     bool pressControlKey(int key);
     bool pressKey(int key);
+    MyCustomProxy &figuresPanel();
+    bool areFiguresShown() const;
     void placeFigures();
     void pressCurves(const QPoint &position);
     void handDragOver(const QPoint &position);
@@ -220,8 +222,8 @@ private:
     std::unique_ptr<MarkEditing> m_markEditing;
     ChartSteering m_steering;
     CurveExchange m_exchange;
-    MyCustomProxy *m_tableProxy = nullptr; ///< the figures of the selected curve
-    QPointF m_offset;                      ///< added to every point of the time chart
+    MyCustomProxy *m_figuresPanel = nullptr; ///< of the selected curve
+    QPointF m_offset;                        ///< added to every point of the time chart
     QString m_seriesName;
     QPointF m_menuPosition; ///< where the context menu was opened, on the scene
     bool m_nudging = false; ///< inside the smaller of the two sizes of a nudge

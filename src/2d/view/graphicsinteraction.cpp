@@ -250,7 +250,7 @@ void GraphicsBase::updatePathSelection(int pathId)
     for (PathInfo *path : paths())
         path->setSelected(path->pathId() == pathId);
     PathInfo *now = selectedPath();
-    if (m_tableProxy->getParaTableDataStatus()) {
+    if (areFiguresShown()) {
         if (now && !now->isHidden())
             showFigures(*now);
         else
@@ -279,13 +279,14 @@ void GraphicsBase::clearSelectionSlot()
 
 void GraphicsBase::showOrHideParameterTableSlot()
 {
-    if (m_tableProxy->getParaTableDataStatus()) {
+    if (areFiguresShown()) {
         emit clearParaInfoToTable();
         return;
     }
     PathInfo *path = selectedPath();
     if (!path)
         return;
+    figuresPanel();
     placeFigures();
     showFigures(*path);
 }
@@ -296,14 +297,32 @@ void GraphicsBase::showFigures(PathInfo &path)
     emit updateParaInfoToTable(m_curves->figures(path));
 }
 
+/// Made when it is needed first: the table in it takes longer to make than all the rest of a view.
+MyCustomProxy &GraphicsBase::figuresPanel()
+{
+    if (!m_figuresPanel) {
+        m_figuresPanel = new MyCustomProxy;
+        scene()->addItem(m_figuresPanel);
+        m_figuresPanel->hide();
+        placeFigures();
+    }
+    return *m_figuresPanel;
+}
+
+bool GraphicsBase::areFiguresShown() const
+{
+    return m_figuresPanel && m_figuresPanel->getParaTableDataStatus();
+}
+
 /// Keeps the figures of the selected curve at the right of the plot area, or where the user has
 /// moved them.
 void GraphicsBase::placeFigures()
 {
     constexpr double gap = 8.0;
-    m_tableProxy->place(m_stage->plotArea().topRight() -
-                            QPointF(m_tableProxy->size().width() + gap, -gap),
-                        sceneRect());
+    if (m_figuresPanel)
+        m_figuresPanel->place(m_stage->plotArea().topRight() -
+                                  QPointF(m_figuresPanel->size().width() + gap, -gap),
+                              sceneRect());
 }
 
 ChartSituation GraphicsBase::situation() const
@@ -312,7 +331,7 @@ ChartSituation GraphicsBase::situation() const
     now.curveSelected = selectedPath() != nullptr;
     now.updateFinished = m_curves->areComplete();
     now.markTablesShown = m_curves->markTablesShown();
-    now.parameterTableShown = m_tableProxy->getParaTableDataStatus();
+    now.parameterTableShown = areFiguresShown();
     now.markCount = marks().size();
     now.clipboardText = QApplication::clipboard()->text();
     return now;
