@@ -63,7 +63,7 @@ QValueAxis *polarAxis(const QString &title)
 void setAxisRange(QValueAxis &axis, double min, double max)
 {
     if (min <= max) {
-        axis.setRange(min, max);
+        axis.setRange(TickLabels::settledMin(min, max, axis.tickCount() - 1), max);
         return;
     }
     // An axis cannot hold a range that is upside down; what it makes of it depends on this order.

@@ -17,8 +17,11 @@ class Ticks
 {
 public:
     Ticks(const QValueAxis &axis, int divisions)
-        : m_min(axis.min())
-        , m_max(axis.max())
+        : Ticks(axis.min(), axis.max(), divisions)
+    {}
+    Ticks(double min, double max, int divisions)
+        : m_min(min)
+        , m_max(max)
         , m_divisions(std::max(1, divisions))
     {}
 
@@ -108,20 +111,29 @@ int fittingDivisions(const QValueAxis &axis, int wanted, const QString &format, 
     return 1;
 }
 
-void settleZero(QValueAxis &axis)
+double settledMin(double min, double max, int divisions)
 {
     constexpr int tries = 16;
+    double settled = min;
     for (int i = 0; i < tries; ++i) {
-        const Ticks ticks(axis, axis.tickCount() - 1);
+        const Ticks ticks(settled, max, divisions);
         bool isBelow = false;
         for (int tick = 0; tick < ticks.count(); ++tick) {
             const double number = ticks.number(tick);
             isBelow = isBelow || (number < 0.0 && isNextToNothing(number, ticks.stride()));
         }
         if (!isBelow)
-            return;
-        axis.setMin(std::nextafter(axis.min(), axis.max()));
+            break;
+        settled = std::nextafter(settled, max);
     }
+    return settled;
+}
+
+void settleZero(QValueAxis &axis)
+{
+    const double settled = settledMin(axis.min(), axis.max(), axis.tickCount() - 1);
+    if (settled > axis.min()) // each call has the chart lay itself out
+        axis.setMin(settled);
 }
 
 } // namespace TickLabels

@@ -20,6 +20,9 @@ QString fittingFormat(const QtCharts::QValueAxis &axis, const QString &format);
 int fittingDivisions(const QtCharts::QValueAxis &axis, int wanted, const QString &format,
                      double width);
 
+/// \a min, moved by next to nothing when rounding has left a tick of so many divisions up to \a max
+/// just below 0, which would read as "-0".
+double settledMin(double min, double max, int divisions);
 /// Moves the range by next to nothing when rounding has left a tick just below 0, which would read
 /// as "-0".
 void settleZero(QtCharts::QValueAxis &axis);
