@@ -126,7 +126,7 @@ void NsmaReader::takeKey(int line, const QString &key, const QString &value)
     if (key == QStringLiteral("GUNITS")) {
         takeUnits(line, value);
     } else if (key == QStringLiteral("PATCUT")) {
-        m_cuts.append({value, QString(), frequency(), line, -1, {}});
+        m_cuts.append({value.toUpper(), QString(), frequency(), line, -1, {}});
     } else if (!m_cuts.isEmpty() && key == QStringLiteral("POLARI")) {
         m_cuts.last().polarisation = value;
     } else if (!m_cuts.isEmpty() && key == QStringLiteral("NUPOIN")) {
