@@ -10,8 +10,6 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <csignal>
-
 namespace {
 
 const QString program = QStringLiteral(MZ_BIN_DIR "/mz6218-cli");
@@ -234,7 +232,7 @@ private slots:
                 QStringLiteral("--lan=%1:%2").arg(simulator.address()).arg(simulator.port())} +
                 arguments.split(QLatin1Char(' ')));
         QVERIFY(process.waitForReadyRead(10000));
-        ::kill(pid_t(process.processId()), SIGTERM);
+        process.terminate();
         QVERIFY(process.waitForFinished(10000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QTEST(process.exitCode(), "status");
