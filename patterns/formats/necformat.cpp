@@ -64,6 +64,13 @@ std::vector<std::string_view> rowFields(std::string_view line)
     return fields;
 }
 
+bool hasDecimalComma(std::string_view field)
+{
+    std::string changed(field);
+    std::replace(changed.begin(), changed.end(), ',', '.');
+    return changed != field && toNumber(changed);
+}
+
 /// The angles that occur, ascending.
 QVector<double> distinct(const QVector<Row> &rows, double Row::*angle)
 {
@@ -199,6 +206,8 @@ bool NecReader::takeRow(const TextLines &lines)
 {
     const std::vector<std::string_view> fields = rowFields(lines.line());
     if (!toNumber(fields.front())) {
+        if (hasDecimalComma(fields.front()))
+            fail(lines.number(), tr("The numbers have a decimal comma instead of a point."));
         m_inBlock = m_blocks.last().rows.isEmpty();
         return false;
     }

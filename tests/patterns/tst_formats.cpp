@@ -147,6 +147,8 @@ private slots:
                 "0 0 0 0 1\n9 0 0 0 2\n" + over,
             "file phi 0° 299.8 MHz @299.8: 0=1 9=2\nfile phi 0° 399.8 MHz @399.8: 0=1 9=2");
         row("NEC row cut off", nec + "0 0 0 0 1\n9 0 0 0", "", "Line 6: Fewer than five");
+        row("NEC decimal comma", nec + "0,00 0,00 0 0 1\n" + over, "",
+            "Line 5: The numbers have a");
         row("NEC block cut off", "RP 0 3 1 1000 0\n" + nec + "0 0 0 0 1\n9 0 0 0 2\n", "",
             "2 rows of 3");
         row("NEC that just ends", nec + "0 0 0 0 1\n9 0 0 0 2\n", "file phi 0° @299.8: 0=1 9=2",

@@ -71,7 +71,8 @@ QString CurveTableModel::toolTip(int id, int column) const
     const CurveRecord record = m_curves.record(id);
     if (column == Name) {
         const QString origin = record.notes.isEmpty() ? tr("Pasted or dropped") : QString();
-        QStringList lines(record.file.isEmpty() ? origin : record.file);
+        // The column shortens long names.
+        QStringList lines{text(id, Name), record.file.isEmpty() ? origin : record.file};
         lines += record.notes;
         lines.removeAll(QString());
         return lines.join(QLatin1Char('\n'));

@@ -143,8 +143,10 @@ QStringList ChartLegend::shortened(const QStringList &names, double width) const
     for (int i = 0; i < names.size(); ++i) {
         const QStringList alike = twins.value(elided.at(i));
         const int start = alike.size() > 1 ? commonStart(alike) : 0;
-        texts.append(start > 0 ? metrics.elidedText(names.at(i).mid(start), Qt::ElideRight, width)
-                               : elided.at(i));
+        // One name may be all that another begins with.
+        const bool leavesRest = start > 0 && start < names.at(i).size();
+        texts.append(leavesRest ? metrics.elidedText(names.at(i).mid(start), Qt::ElideRight, width)
+                                : elided.at(i));
     }
     return texts;
 }

@@ -2293,6 +2293,10 @@ correction</source>
         <source>The listing ends with a row of the pattern: it may have been cut off.</source>
         <translation>列表以方向图的一行结束：内容可能不完整。</translation>
     </message>
+    <message>
+        <source>The numbers have a decimal comma instead of a point.</source>
+        <translation>数字使用了小数逗号而不是小数点。</translation>
+    </message>
 </context>
 <context>
     <name>Normalise</name>

@@ -2293,6 +2293,10 @@ correction</translation>
         <source>The listing ends with a row of the pattern: it may have been cut off.</source>
         <translation>The listing ends with a row of the pattern: it may have been cut off.</translation>
     </message>
+    <message>
+        <source>The numbers have a decimal comma instead of a point.</source>
+        <translation>The numbers have a decimal comma instead of a point.</translation>
+    </message>
 </context>
 <context>
     <name>Normalise</name>
