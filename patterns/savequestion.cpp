@@ -93,9 +93,12 @@ bool askReplace(QWidget *parent, const QStringList &files)
     QStringList names;
     for (const QString &file : files)
         names.append(QDir::toNativeSeparators(file));
+    QStringList shown = names.mid(0, 10);
+    if (names.size() > shown.size())
+        shown.append(QStringLiteral("…"));
     QMessageBox box(QMessageBox::Question, QuestionText::tr("Replace"),
                     QuestionText::tr("This exists already:\n%1\nReplace it?")
-                        .arg(names.mid(0, 10).join(QLatin1Char('\n'))),
+                        .arg(shown.join(QLatin1Char('\n'))),
                     QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     if (names.size() > 10)

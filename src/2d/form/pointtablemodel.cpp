@@ -14,7 +14,7 @@ constexpr int nameWidth = PointTableModel::columnWidth - 36;
 
 QString shortened(const QString &name)
 {
-    return QFontMetrics(QGuiApplication::font()).elidedText(name, Qt::ElideRight, nameWidth);
+    return QFontMetrics(QGuiApplication::font()).elidedText(name, Qt::ElideMiddle, nameWidth);
 }
 
 } // namespace

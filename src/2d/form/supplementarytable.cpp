@@ -27,6 +27,8 @@ SupplementaryTable::SupplementaryTable(QWidget *parent)
     horizontalHeader()->resizeSection(0, nameColumnWidth);
     horizontalHeader()->setHighlightSections(false);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTextElideMode(Qt::ElideMiddle);
+    setWordWrap(false);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     retranslate();
 }
