@@ -60,6 +60,7 @@ RecordChart::RecordChart(QWidget *parent)
     m_stage.chart()->setMargins(QMargins(0, 4, rightMargin, 2 * metrics.height() + 8));
     m_xAxis = axisOf(*m_stage.chart(), Qt::Horizontal);
     m_yAxis = axisOf(*m_stage.chart(), Qt::Vertical);
+    m_stage.leaveGridToAxes();
     m_xAxis->setLabelsVisible(false);
     m_xAxis->setTitleVisible(false);
     for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
