@@ -98,6 +98,7 @@ RecordReader::Outcome RecordReader::open(const QStringList &paths, const Progres
     }
     std::stable_sort(m_sources.begin(), m_sources.end(),
                      [](const Source &a, const Source &b) { return a.begin < b.begin; });
+    m_hasToday = !m_sources.empty() && !QFileInfo::exists(nextDayPath(m_sources.back().path));
     m_builder = std::make_unique<RecordBuilder>(m_data, m_kind);
     m_parser = std::make_unique<RowParser>(m_kind);
     qint64 all = 0;
@@ -195,6 +196,8 @@ RecordReader::Outcome RecordReader::follow()
 
 bool RecordReader::addNextDay()
 {
+    if (!m_hasToday)
+        return false; // who opens an old day alone wants that day
     Source next;
     next.path = nextDayPath(m_sources.back().path);
     if (next.path.isEmpty() || !QFileInfo::exists(next.path) || !look(next))

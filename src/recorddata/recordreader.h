@@ -34,7 +34,8 @@ public:
 
     /// Reads \a paths, files of one kind in any order, from their begin; once in a reader's life.
     Outcome open(const QStringList &paths, const Progress &progress);
-    /// Reads what has been added to the latest file, and what the file of the next day holds.
+    /// Reads what has been added to the latest file and, if that had none behind it when it was
+    /// opened, what the file of the next day holds.
     Outcome follow();
 
     QString error() const { return m_error; }
@@ -82,5 +83,6 @@ private:
     std::unique_ptr<RecordBuilder> m_builder;
     std::unique_ptr<RowParser> m_parser;
     int m_linesLeftOut = 0;
+    bool m_hasToday = false; ///< no file of a later day when opened
     QString m_error;
 };

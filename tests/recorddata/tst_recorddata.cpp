@@ -141,6 +141,9 @@ private slots:
         write("b-2026-11-22.csv", csvHeader + csvRowAt(6, "-25"));
         QCOMPARE(reader.follow(), RecordReader::Outcome::Read);
         QCOMPARE(shown(reader.data()), QByteArray("1=-20 2=-21 3=-22 4=-23 5=-24 6=-25"));
+        RecordReader oldDay;
+        QCOMPARE(oldDay.open({second}, {}), RecordReader::Outcome::Read);
+        QCOMPARE(oldDay.follow(), RecordReader::Outcome::Unchanged);
         write("b-2026-11-22.csv", csvHeader);
         QCOMPARE(reader.follow(), RecordReader::Outcome::Replaced);
 
