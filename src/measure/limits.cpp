@@ -1,5 +1,6 @@
 #include "measure/limits.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -61,10 +62,29 @@ QVector<LimitAlarm::Change> LimitAlarm::add(std::optional<double> level)
 
 QVector<LimitAlarm::Change> LimitAlarm::acknowledge()
 {
+    for (Watch &watch : m_watches)
+        watch.isAcknowledged = true;
+    return endWhatMay();
+}
+
+QVector<LimitAlarm::Change> LimitAlarm::setLatched(bool isLatched)
+{
+    m_limits.latched = isLatched;
+    return endWhatMay();
+}
+
+bool LimitAlarm::awaitsAcknowledgement() const
+{
+    return m_limits.latched &&
+           std::any_of(m_watches.begin(), m_watches.end(),
+                       [](const Watch &watch) { return watch.isOn && !watch.isAcknowledged; });
+}
+
+QVector<LimitAlarm::Change> LimitAlarm::endWhatMay()
+{
     QVector<Change> changes;
     for (const Limit limit : both) {
-        Watch &watch = m_watches[limit];
-        watch.isAcknowledged = true;
+        const Watch &watch = m_watches[limit];
         if (watch.isOn && endsByItself(watch))
             end(limit, changes);
     }

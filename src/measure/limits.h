@@ -45,6 +45,12 @@ public:
     /// which; the others end as soon as the level is back.
     QVector<Change> acknowledge();
 
+    /// Latches the alarms or no more, without beginning anew; tells which end by it.
+    QVector<Change> setLatched(bool isLatched);
+
+    /// Whether a latched alarm stands that has not been acknowledged.
+    bool awaitsAcknowledgement() const;
+
     /// Where the last level was, whatever the row and the hysteresis make of it.
     State state() const { return m_state; }
     bool isOn(Limit limit) const { return m_watches[limit].isOn; }
@@ -59,6 +65,7 @@ private:
         int row = 0;
     };
 
+    QVector<Change> endWhatMay();
     void end(Limit limit, QVector<Change> &changes);
     bool endsByItself(const Watch &watch) const;
 

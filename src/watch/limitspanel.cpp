@@ -175,5 +175,5 @@ void LimitsPanel::showState()
     if (m_watch->isAlarm())
         text += QLatin1Char('\n') + tr("Alarm: %1").arg(m_watch->alarmText());
     m_state->setText(text);
-    m_acknowledge->setEnabled(m_watch->isAlarm() && m_watch->limits().latched);
+    m_acknowledge->setEnabled(m_watch->awaitsAcknowledgement());
 }

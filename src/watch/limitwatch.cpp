@@ -9,6 +9,13 @@ QString levelText(double level)
     return QStringLiteral("%1 dBm").arg(level, 0, 'f', 2);
 }
 
+/// Whether \a a and \a b raise the same alarms, latched or not.
+bool watchesTheSame(const Limits &a, const Limits &b)
+{
+    return a.high == b.high && a.low == b.low && a.hysteresis == b.hysteresis &&
+           a.inARow == b.inARow;
+}
+
 } // namespace
 
 LimitWatch::~LimitWatch()
@@ -18,9 +25,15 @@ LimitWatch::~LimitWatch()
 
 void LimitWatch::setLimits(const Limits &limits)
 {
-    startAnew(QStringLiteral("the limits were changed"));
-    m_limits = limits;
-    m_alarm = LimitAlarm(limits);
+    const QString why = QStringLiteral("the limits were changed");
+    if (watchesTheSame(limits, m_limits)) {
+        m_limits = limits;
+        tell(m_alarm.setLatched(limits.latched), why);
+    } else {
+        startAnew(why);
+        m_limits = limits;
+        m_alarm = LimitAlarm(limits);
+    }
     emit changed();
 }
 

@@ -28,7 +28,8 @@ public:
     ~LimitWatch() override;
 
     const Limits &limits() const { return m_limits; }
-    /// Watches \a limits from the next reading on; an alarm of the former ones ends.
+    /// Watches \a limits from the next reading on; an alarm of the former ones ends. When they
+    /// differ in the latch alone, the watch goes on.
     void setLimits(const Limits &limits);
     void setRelative(bool isRelative);
     void take(const Reading &reading);
@@ -38,6 +39,7 @@ public:
     State state() const;
     bool isAlarm(LimitAlarm::Limit limit) const { return m_alarm.isOn(limit); }
     bool isAlarm() const { return isAlarm(LimitAlarm::High) || isAlarm(LimitAlarm::Low); }
+    bool awaitsAcknowledgement() const { return m_alarm.awaitsAcknowledgement(); }
     /// The alarms that stand, in words; empty for none.
     QString alarmText() const;
 

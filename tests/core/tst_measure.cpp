@@ -50,7 +50,7 @@ private slots:
     {
         QTest::addColumn<int>("inARow");
         QTest::addColumn<bool>("latched");
-        QTest::addColumn<QVector<double>>("levels"); // 100: missing, 200: acknowledged
+        QTest::addColumn<QVector<double>>("levels"); // 100 missing, 200 acknowledged, 300 unlatched
         QTest::addColumn<QString>("changes");        // behind each level those that it brought
         QTest::newRow("equality is inside, also after a mean")
             << 1 << false << QVector<double>{-10, -9.99996, -9.9999, -10.1999, -10.2} << "..H.h";
@@ -62,6 +62,8 @@ private slots:
             << 2 << false << QVector<double>{-9, -20, -9, -9} << "...H";
         QTest::newRow("latched until acknowledged and back")
             << 1 << true << QVector<double>{-9, -20, 200, -9, 200, -9, -20} << "H.hH..h";
+        QTest::newRow("latched no more")
+            << 1 << true << QVector<double>{-9, -20, 300, -9, 300, -20} << "H.hH.h";
     }
     void alarm()
     {
@@ -72,8 +74,9 @@ private slots:
         QString told;
         for (const double level : levels) {
             const auto changes =
-                level == 200 ? alarm.acknowledge()
-                             : alarm.add(level == 100 ? std::nullopt : std::optional(level));
+                level == 200   ? alarm.acknowledge()
+                : level == 300 ? alarm.setLatched(false)
+                               : alarm.add(level == 100 ? std::nullopt : std::optional(level));
             for (const LimitAlarm::Change &change : changes) {
                 const QLatin1Char letter(change.limit == LimitAlarm::High ? 'H' : 'L');
                 told += change.isOn ? QChar(letter) : QChar(letter).toLower();
