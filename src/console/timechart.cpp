@@ -13,6 +13,7 @@ namespace {
 constexpr int powerPath = 1;
 constexpr double longestRun = 3600.0; // seconds
 constexpr double secondsPerMinute = 60.0;
+constexpr int minuteDivisions = 10;
 constexpr qint64 tickLength = 1000; // ms
 
 } // namespace
@@ -22,6 +23,7 @@ TimeChart::TimeChart(QWidget *parent, QBoxLayout *layout)
 {
     layout->insertWidget(0, m_view);
     m_view->resetChart({QStringLiteral("Power Meter")});
+    m_view->setXDivisions(minuteDivisions); // as built, but fewer beside wide panels
     m_clock.start();
 }
 
