@@ -119,6 +119,11 @@ private slots:
         QCOMPARE(rounded(supplementaryFigures(rippled, 0.5).firstNullBeamWidth), 40.0F);
         QCOMPARE(rounded(supplementaryFigures(rippled, 3.0).firstNullBeamWidth), 80.0F);
         QVERIFY(!supplementaryFigures(rippled, 30.0).firstNullBeamWidth);
+        // Lobes of a few samples each are no noise.
+        const auto coarse = withLevels({-30, -18, -10.4, -60, -8.6, -9, -17.3, -1.4, 3.3, 11.9, 3.3,
+                                        -1.4, -17.3, -9, -8.6, -60, -10.4, -18, -30},
+                                       -45, 5);
+        QCOMPARE(rounded(supplementaryFigures(coarse).firstNullBeamWidth), 30.0F);
         // Measured across the seam, but not round the circle: nothing is known of the direction
         // behind.
         QVERIFY(!supplementaryFigures(pattern(180, 100, 260)).frontToBackRatio);

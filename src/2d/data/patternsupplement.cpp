@@ -13,11 +13,8 @@ namespace {
 
 /// Below so many dB of noise the samples themselves are nearer to the truth than any fit.
 constexpr double noticeableNoise = 0.03;
-
-bool isNoisy(const AngularPattern &pattern)
-{
-    return pattern.noise() > noticeableNoise;
-}
+constexpr double lobeDrop = 6.0;     ///< dB below its top, how far a lobe is fitted
+constexpr int fewestStepsOfLobe = 9; ///< that a fit needs
 
 /// \a angle within -180 to 180 degrees.
 double direction(double angle)
@@ -50,6 +47,14 @@ std::pair<int, int> reachOf(const AngularPattern &pattern, int top, double drop)
             firstBelow(pattern, top, 1, level).value_or(last)};
 }
 
+/// Whether the samples are noisy. Where a lobe has few of them its shape alone would look like
+/// noise and the nulls beside it like chance.
+bool isNoisy(const AngularPattern &pattern)
+{
+    const auto [first, last] = reachOf(pattern, pattern.peak(), lobeDrop);
+    return last - first >= fewestStepsOfLobe && pattern.noise() > noticeableNoise;
+}
+
 /// A polynomial through a noisy lobe, down to 6 dB below its top: a hundred points know their
 /// middle better than each of them does.
 class FittedLobe
@@ -58,11 +63,10 @@ public:
     /// Through what lies between two indices; \a noise is that of the levels, dB.
     FittedLobe(const AngularPattern &pattern, const std::pair<int, int> &reach, double noise)
     {
-        constexpr int fewest = 9;
         const auto [first, last] = reach;
         m_from = pattern.angle(first);
         m_to = pattern.angle(last);
-        m_isUsable = last - first >= fewest;
+        m_isUsable = last - first >= fewestStepsOfLobe;
         if (!m_isUsable)
             return;
         LeastSquares<4> fit((m_from + m_to) / 2.0, (m_to - m_from) / 2.0);
@@ -82,8 +86,6 @@ public:
                 m_top = i;
         }
     }
-
-    static constexpr double drop = 6.0;
 
     bool isUsable() const { return m_isUsable; }
     double topLevel() const { return level(m_top); }
@@ -126,7 +128,7 @@ struct MainLobe
     {
         if (!(noise > 0.0))
             return;
-        const FittedLobe fitted(pattern, reachOf(pattern, peak, FittedLobe::drop), noise);
+        const FittedLobe fitted(pattern, reachOf(pattern, peak, lobeDrop), noise);
         if (!fitted.isUsable())
             return;
         fit = fitted;
@@ -223,7 +225,7 @@ std::optional<double> greatestLevel(const AngularPattern &pattern,
             if (pattern.level(i) < *greatest - nearness * noise)
                 continue;
             // A point on the foot of the main lobe must not take that in.
-            const auto [first, last] = reachOf(pattern, i, FittedLobe::drop);
+            const auto [first, last] = reachOf(pattern, i, lobeDrop);
             const FittedLobe lobe(pattern, {std::max(first, from), std::min(last, to)}, noise);
             const int end = std::max(i, reachOf(pattern, i, nearness * noise + 1.0).second);
             const double level =
