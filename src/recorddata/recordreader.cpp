@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr qint64 chunkSize = 4 * 1024 * 1024;
-constexpr qint64 longestLine = 64 * 1024;
+constexpr qint64 chunkSize = qint64(4) * 1024 * 1024;
+constexpr qint64 longestLine = qint64(64) * 1024;
 
 std::string_view viewOf(const QByteArray &line)
 {

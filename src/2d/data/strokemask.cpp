@@ -236,7 +236,7 @@ void StrokeMask::touch(const QLineF &segment)
         const int bottom = tileOf(std::max(from.y(), to.y()) + margin, m_height);
         for (int y = top; y <= bottom; ++y) {
             for (int x = left; x <= right; ++x)
-                m_touched[static_cast<std::size_t>(y * m_tilesAcross + x)] = 1;
+                m_touched[tileIndex(x, y)] = 1;
         }
     }
 }
@@ -264,7 +264,7 @@ QVector<QRect> StrokeMask::coveredParts() const
     const QRect all(0, 0, m_width, m_height);
     for (int y = 0; y * tileSize < m_height; ++y) {
         for (int x = 0; x < m_tilesAcross; ++x) {
-            if (m_touched[static_cast<std::size_t>(y * m_tilesAcross + x)] == 0)
+            if (m_touched[tileIndex(x, y)] == 0)
                 continue;
             const QRect tile = QRect(x * tileSize, y * tileSize, tileSize, tileSize) & all;
             if (!parts.isEmpty() && parts.last().top() == tile.top() &&

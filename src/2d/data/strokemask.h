@@ -41,6 +41,11 @@ private:
     {
         return static_cast<std::size_t>(y) * m_stride + static_cast<std::size_t>(x);
     }
+    /// Where m_touched has the tile in column \a x and row \a y.
+    std::size_t tileIndex(int x, int y) const
+    {
+        return std::size_t(y) * std::size_t(m_tilesAcross) + std::size_t(x);
+    }
     void add(QPointF from, QPointF to, double capBefore, double capAfter);
     void addPart(const QPointF &from, const QPointF &to, double capBefore, double capAfter);
     void cover(int y, int first, int last, const Line &line);

@@ -43,7 +43,7 @@ std::array<QRgb, 256> shades(const QColor &color)
 
 bool CurvePicture::isPossible(const QPainter &painter)
 {
-    const QTransform transform = painter.deviceTransform();
+    const QTransform &transform = painter.deviceTransform();
     return painter.paintEngine()->type() == QPaintEngine::Raster &&
            transform.type() <= QTransform::TxScale && transform.m11() > 0.0 &&
            qFuzzyCompare(transform.m11(), transform.m22());
