@@ -141,12 +141,8 @@ void PowerDisplay::show(const Reading &reading, State state, int age)
 void PowerDisplay::fit(const QSize &room)
 {
     constexpr int probe = 100;
-    const QString unit = m_labels.unit->text();
-    if (m_widthAtProbe == 0 || unit != m_probedUnit) {
-        m_widthAtProbe = Fonts(probe, m_labels.power).width(unit); // loads three fonts
-        m_probedUnit = unit;
-    }
-    const Fonts fonts(std::clamp(std::min(room.height() / 8, room.width() * probe / m_widthAtProbe),
+    const int widthAtProbe = Fonts(probe, m_labels.power).width(m_labels.unit->text());
+    const Fonts fonts(std::clamp(std::min(room.height() / 8, room.width() * probe / widthAtProbe),
                                  smallest, largest),
                       m_labels.power);
     m_labels.power->setFont(fonts.power);

@@ -43,6 +43,4 @@ private:
     static QString describe(const Reading &reading, State state, int age);
 
     Labels m_labels;
-    int m_widthAtProbe = 0; ///< of the longest texts, in pixels, with the unit m_probedUnit
-    QString m_probedUnit;
 };
