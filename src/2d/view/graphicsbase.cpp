@@ -1,110 +1,50 @@
 #include "2d/view/graphicsbase.h"
 
 #include "2d/scene/chartstage.h"
-#include "2d/scene/mycustomproxy.h"
+#include "2d/scene/mypathitem.h"
+#include "2d/scene/tablepanel.h"
+#include "2d/view/chartmenu.h"
 #include "2d/view/curvelist.h"
+#include "2d/view/figurespanel.h"
+#include "2d/view/managergraph.h"
 #include "2d/view/markediting.h"
 #include "2d/view/pathinfo.h"
+#include "widgets/messagesimpledialog.h"
 
-#include <QChart>
+#include <QApplication>
+#include <QClipboard>
 #include <QDebug>
+#include <QDropEvent>
 #include <QGraphicsScene>
-#include <QLegend>
-#include <QLegendMarker>
-#include <QLineSeries>
-#include <QResizeEvent>
-#include <QScopedValueRollback>
-#include <QtMath>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QWheelEvent>
 
-using namespace QtCharts;
+#include <array>
+#include <utility>
 
 using Panels = CurveList::Panels;
 
 GraphicsBase::GraphicsBase(int kind, QWidget *parent)
-    : ChartCanvas(parent)
-    , m_stage(std::make_unique<ChartStage>(kind, *scene()))
-    , m_curves(std::make_unique<CurveList>(*m_stage, *scene(), m_ranges))
-    , m_markEditing(std::make_unique<MarkEditing>(*m_stage, *m_curves, m_ranges))
+    : CurveView(kind, parent)
+    , m_markEditing(std::make_unique<MarkEditing>(stage(), curves(), ranges()))
+    , m_figures(std::make_unique<FiguresPanel>(stage(), *scene()))
     , m_exchange(*this)
 {
     retitle();
 
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
-    connectParts();
-}
-
-void GraphicsBase::connectParts()
-{
     connect(this, &GraphicsBase::updateParaInfoToTable, this,
-            [this](const ParaInfo &figures) { figuresPanel().updateParaInfo(figures); });
-    connect(this, &GraphicsBase::clearParaInfoToTable, this, [this] {
-        if (m_figuresPanel)
-            m_figuresPanel->clearParaInfo();
-    });
-    connect(this, &GraphicsBase::updataSize, m_curves.get(), &CurveList::updataSize);
-    connect(m_curves.get(), &CurveList::selectionAsked, this, &GraphicsBase::updatePathSelection);
-    connect(m_curves.get(), &CurveList::acceptDropsAsked, this,
-            &GraphicsBase::setAcceptDropsStatus);
-    connect(m_curves.get(), &CurveList::lookChanged, this, &GraphicsBase::lookChanged);
+            [this](const ParaInfo &figures) { m_figures->show(figures); });
+    connect(this, &GraphicsBase::clearParaInfoToTable, this, [this] { m_figures->clear(); });
+    connect(this, &GraphicsBase::updataSize, this, [this] { m_figures->place(); });
+    connect(this, &GraphicsBase::selectionChanged, this, &GraphicsBase::followSelection);
+    connect(&curves(), &CurveList::acceptDropsAsked, this, &GraphicsBase::setAcceptDropsStatus);
     connect(this, &QWidget::customContextMenuRequested, this, &GraphicsBase::showMenu);
-    if (QChart *current = chart()) {
-        connect(current, &QChart::plotAreaChanged, m_curves.get(), &CurveList::catchUpLater);
-        // Axes that make room for a title do not repaint all of the place where they were.
-        connect(current, &QChart::plotAreaChanged, viewport(), qOverload<>(&QWidget::update));
-    }
 }
 
-GraphicsBase::~GraphicsBase()
-{
-    if (chart())
-        chart()->disconnect(m_curves.get());
-}
-
-QChart *GraphicsBase::chart() const
-{
-    return m_stage->chart();
-}
-
-int GraphicsBase::kind() const
-{
-    return m_stage->kind();
-}
-
-const QMap<int, PathInfo *> &GraphicsBase::paths() const
-{
-    return m_curves->paths();
-}
-
-const QMap<int, MyMarkItem *> &GraphicsBase::marks() const
-{
-    return m_curves->marks().all();
-}
-
-PathInfo *GraphicsBase::selectedPath() const
-{
-    return m_curves->selected();
-}
-
-MyMarkItem *GraphicsBase::selectedMark() const
-{
-    return m_curves->marks().selected();
-}
-
-ViewRange GraphicsBase::shownRange() const
-{
-    return m_ranges.inView(*m_stage);
-}
-
-QPointF GraphicsBase::toScene(const QPointF &value) const
-{
-    return m_stage->toScene(value);
-}
-
-QPointF GraphicsBase::toValue(const QPointF &scenePosition) const
-{
-    return m_stage->toValue(scenePosition);
-}
+GraphicsBase::~GraphicsBase() = default;
 
 QString GraphicsBase::defaultDirectory() const
 {
@@ -121,62 +61,20 @@ QString GraphicsBase::seriesName() const
     return m_seriesName;
 }
 
-QString GraphicsBase::chartTitle() const
-{
-    return m_stage->title();
-}
-
-bool GraphicsBase::hasCurve(const QString &name) const
-{
-    return m_curves->hasName(name);
-}
-
 void GraphicsBase::retitle()
 {
     setAccessibleName(tr("Chart"));
-    if (!m_stage->isPolar())
-        setAxisXTitle(tr("Last %1 minutes").arg(m_ranges.period));
+    if (!stage().isPolar())
+        setAxisXTitle(tr("Last %1 minutes").arg(ranges().period));
     setAxisYTitle(tr("Power[dBm]"));
     // What a running chart has scrolled to stays in view when the language changes.
-    const ViewRange &shown = m_ranges.shown;
-    if (shown.xMin <= 0.0 || !qFuzzyCompare(shown.xMax - shown.xMin, double(m_ranges.period)))
-        m_ranges.startPeriod();
+    const ViewRange &shown = ranges().shown;
+    if (shown.xMin <= 0.0 || !qFuzzyCompare(shown.xMax - shown.xMin, double(ranges().period)))
+        ranges().startPeriod();
     setScaleLevel(5, 20.0, -30.0);
-    m_curves->setComplete(false);
+    curves().setComplete(false);
     m_steering.stop();
-    m_offset = {};
-}
-
-void GraphicsBase::setLabelFormat(const QString &format)
-{
-    m_stage->setLabelFormat(format);
-}
-
-void GraphicsBase::showLegend(const QFont &font)
-{
-    m_stage->showLegend(font);
-}
-
-QRect GraphicsBase::areaAboveLegend() const
-{
-    return {0, 0, width(), height() - qCeil(m_stage->legendHeight())};
-}
-
-// Hovering over a curve shows nothing: names and values stand in the tables.
-void GraphicsBase::tooltip(QPointF point, bool state)
-{
-    Q_UNUSED(point)
-    Q_UNUSED(state)
-}
-
-void GraphicsBase::setChartTitle(QString title)
-{
-    m_stage->setTitle(title);
-}
-
-void GraphicsBase::setChartTitle(QString title, QFont font)
-{
-    m_stage->setTitle(title, font);
+    setOffset(0.0, 0.0);
 }
 
 void GraphicsBase::setSeriesName(QString name)
@@ -184,290 +82,374 @@ void GraphicsBase::setSeriesName(QString name)
     m_seriesName = name;
 }
 
-void GraphicsBase::setAxisXTitle(QString str)
+void GraphicsBase::setLimitXY(const QPointF &centre, const double &factor)
 {
-    m_stage->setXTitle(str);
+    ViewRange &shown = ranges().shown;
+    shown = shown.scaledAbout(centre, factor);
+    qWarning() << "min max.." << shown.xMin << shown.xMax << shown.yMin << shown.yMax << factor;
 }
 
-void GraphicsBase::setAxisYTitle(QString str)
+void GraphicsBase::wheelEvent(QWheelEvent *event)
 {
-    m_stage->setYTitle(str);
-}
-
-void GraphicsBase::setScaleLevel(int div, double scaleDiv, double reference)
-{
-    const ValueSpan span = divisionSpan(div, scaleDiv, reference);
-    m_ranges.shown.yMin = span.low;
-    m_ranges.shown.yMax = span.high;
-    m_ranges.home = m_ranges.shown;
-    {
-        const ChartStage::LayoutGuard guard(*m_stage);
-        m_stage->setYDivisions(div);
-        m_ranges.apply(*m_stage);
-    }
-    m_curves->refresh(Panels::AllTables);
-}
-
-bool GraphicsBase::needsXRange(const char *operation) const
-{
-    if (m_stage->hasXRange())
-        return true;
-    qWarning() << operation << "needs a chart whose X range can change";
-    return false;
-}
-
-PathInfo &GraphicsBase::existingPath(int index, const char *operation) const
-{
-    PathInfo *path = paths().value(index);
-    if (!path)
-        qFatal("%s: there is no curve %d", operation, index);
-    return *path;
-}
-
-void GraphicsBase::setXPeriod(int period)
-{
-    if (!needsXRange("setXPeriod"))
+    event->accept();
+    if (!m_steering.wheelZooms(event->modifiers()) || !chart())
         return;
-    m_ranges.period = period;
-    const ViewRange axes = m_stage->axisRange();
-    setXRange(axes.xMin, axes.xMax);
+    const QPointF centre = toValue(event->position().toPoint());
+    qWarning() << "point .." << centre;
+    zoomAbout(centre, ChartSteering::zoomFactorOfWheel(event->angleDelta().y()));
 }
 
-void GraphicsBase::setXRange(double min, double max)
+void GraphicsBase::zoomAbout(const QPointF &centre, double factor)
 {
-    if (!needsXRange("setXRange"))
-        return;
-    m_ranges.setX(min, max);
-    m_stage->setXRange(min, max);
-    m_curves->refresh(Panels::MarkTables);
-}
-
-void GraphicsBase::setYRange(double min, double max, int div)
-{
-    m_ranges.setY(min, max);
-    {
-        const ChartStage::LayoutGuard guard(*m_stage);
-        m_stage->setYDivisions(div);
-        m_stage->setYRange(min, max);
-    }
-    // Markers and curves stay where they are for whoever asks now; what is seen follows.
-    m_curves->catchUpLater();
-}
-
-void GraphicsBase::setXDivisions(int div)
-{
-    m_stage->setXDivisions(div);
-}
-
-void GraphicsBase::setPolarView(const PolarView &view)
-{
-    m_stage->setPolarView(view);
-    m_curves->refresh(CurveList::Panels::AllTables);
-    viewport()->update();
-}
-
-void GraphicsBase::setOffset(double xOffset, double yOffset)
-{
-    m_offset = {xOffset, yOffset};
-}
-
-void GraphicsBase::resetChart(QStringList list)
-{
-    clearChart();
-    for (const QString &name : qAsConst(list))
-        m_curves->add(name);
-    reconnectLegendMarkers();
-    emit curvesChanged();
-}
-
-void GraphicsBase::updateChart(int index, QPointF point)
-{
-    if (!needsXRange("updateChart"))
-        return;
-    m_curves->setComplete(false);
-    CurveSeries &curve = existingPath(index, "updateChart").curve();
-    constexpr int pointsPerMinute = 60;
-    const QPointF fed = point + m_offset;
-    {
-        const ChartStage::LayoutGuard guard(*m_stage);
-        if (curve.count() > m_ranges.period * pointsPerMinute)
-            curve.removeFirst();
-        m_ranges.shown.followTime(fed.x(), m_ranges.period);
-        m_stage->setXRange(m_ranges.shown.xMin, m_ranges.shown.xMax);
-        const ValueSpan span = autoscaledSpan(curve.points());
-        setYRange(span.low, span.high, 5);
-        curve.append(fed);
-    }
-    updataResize();
-}
-
-void GraphicsBase::setPathInfoHide(int index)
-{
-    for (PathInfo *path : paths())
-        path->setHidden(path->pathId() != index);
-}
-
-void GraphicsBase::finishUpdateChart()
-{
-    if (paths().isEmpty())
-        return;
-    m_curves->setComplete(true);
+    setLimitXY(centre, factor);
+    showRange(ranges().shown);
     for (PathInfo *path : paths()) {
-        path->stackParaTable(sceneRect());
-        path->updateMarkInfo(marks());
+        curves().marks().snap(*path);
+        path->rebuild(stage());
     }
 }
 
-void GraphicsBase::clearChart()
+void GraphicsBase::showRange(const ViewRange &range)
+{
+    ranges().shown = range;
+    ranges().apply(stage());
+    curves().refresh(Panels::AllTables);
+    emit rangeChanged();
+}
+
+void GraphicsBase::zoomSlot()
+{
+    m_steering.startZooming();
+    viewport()->setCursor(Qt::CrossCursor);
+}
+
+void GraphicsBase::panSlot()
+{
+    m_steering.startPanning();
+    viewport()->setCursor(Qt::OpenHandCursor);
+}
+
+void GraphicsBase::resetSlot()
+{
+    m_steering.stop();
+    showRange(ranges().home);
+    viewport()->setCursor(Qt::ArrowCursor);
+}
+
+void GraphicsBase::panResetSlot()
+{
+    m_steering.stopPanning();
+    showRange(ranges().shown);
+}
+
+void GraphicsBase::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::MiddleButton && chart()) {
+        m_steering.hold(toValue(event->localPos()));
+        viewport()->setCursor(Qt::ClosedHandCursor);
+        return;
+    }
+    if (!m_steering.isPanning()) {
+        QGraphicsView::mousePressEvent(event);
+        if (dynamic_cast<const TablePanel *>(itemAt(event->pos())))
+            return; // what lies under a table is not meant
+        pressCurves(event->pos());
+        handDragOver(event->pos());
+        return;
+    }
+    if (event->button() != Qt::LeftButton)
+        return;
+    viewport()->setCursor(Qt::ClosedHandCursor);
+    qDebug() << "leftbtn press: " << toValue(event->localPos().toPoint());
+}
+
+/// A press can hit several curves; the last one keeps the selection.
+void GraphicsBase::pressCurves(const QPoint &position)
+{
+    const QPointF place = mapToScene(position);
+    const QList<PathInfo *> candidates = paths().values();
+    for (const PathInfo *path : candidates) {
+        MyPathItem *item = path->pathItem();
+        if (!path->isHidden() && item->isVisible() && item->hits(place) &&
+            item->selectionMode() != MyPathItem::NotSelectable)
+            emit item->selectPathId(path->pathId());
+    }
+}
+
+/// The curve that lies on top holds the mouse; where the press has selected another one, that is
+/// the one to be dragged.
+void GraphicsBase::handDragOver(const QPoint &position)
+{
+    auto *held = dynamic_cast<MyPathItem *>(scene()->mouseGrabberItem());
+    const PathInfo *selected = selectedPath();
+    if (held && selected && selected->pathItem() != held) {
+        held->ungrabMouse();
+        selected->pathItem()->takePress(mapToScene(position));
+    }
+}
+
+// Release and move go on only to an item that holds the mouse: a marker, a curve that is dragged
+// out, a table that is moved. The view itself does nothing with them.
+void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::MiddleButton && m_steering.release()) {
+        viewport()->setCursor(m_steering.cursor());
+        return;
+    }
+    if (m_steering.isPanning() || !scene()->mouseGrabberItem())
+        return;
+    QGraphicsView::mouseReleaseEvent(event);
+    // Of a mouse that was handed over the scene does not let go by itself.
+    if (auto *held = dynamic_cast<MyPathItem *>(scene()->mouseGrabberItem()))
+        held->ungrabMouse();
+}
+
+void GraphicsBase::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_steering.holds())
+        showRange(
+            m_steering.pulled(ranges().shown, toValue(event->localPos()), stage().hasXRange()));
+    else if (!m_steering.isPanning() && scene()->mouseGrabberItem())
+        QGraphicsView::mouseMoveEvent(event);
+}
+
+void GraphicsBase::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    Q_UNUSED(event)
+    emit doubleClick(this);
+}
+
+void GraphicsBase::keyPressEvent(QKeyEvent *event)
+{
+    const bool withControl = event->modifiers().testFlag(Qt::ControlModifier);
+    if (event->matches(QKeySequence::Copy))
+        copySlot();
+    else if (event->matches(QKeySequence::Paste))
+        pasteSlot();
+    else if (!(withControl ? pressControlKey(event->key()) : pressKey(event->key())))
+        QGraphicsView::keyPressEvent(event);
+}
+
+/// With Control the keys act on markers.
+bool GraphicsBase::pressControlKey(int key)
+{
+    constexpr double markStep = 0.005;
+    switch (key) {
+    case Qt::Key_Left:
+        curves().marks().moveSelected(-markStep);
+        return true;
+    case Qt::Key_Right:
+        curves().marks().moveSelected(markStep);
+        return true;
+    case Qt::Key_PageUp:
+        curves().marks().selectNext(-1);
+        return true;
+    case Qt::Key_PageDown:
+        curves().marks().selectNext(1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool GraphicsBase::pressKey(int key)
+{
+    const ViewRange range = ranges().shown;
+    if (const std::optional<ViewRange> moved = ChartSteering::movedBy(key, range)) {
+        showRange(*moved);
+        return true;
+    }
+    if (const std::optional<double> factor = ChartSteering::zoomFactor(key)) {
+        zoomAbout({(range.xMin + range.xMax) * 0.5, (range.yMin + range.yMax) * 0.5}, *factor);
+        return true;
+    }
+    switch (key) {
+    case Qt::Key_Home:
+        resetSlot();
+        return true;
+    case Qt::Key_Delete:
+        deleteMarkSlot();
+        return true;
+    case Qt::Key_Insert:
+        m_markEditing->addAtHighest();
+        return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        if (const PathInfo *path = curves().neighbourOfSelected(key == Qt::Key_PageUp ? -1 : 1))
+            updatePathSelection(path->pathId());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void GraphicsBase::noteExport(int pathId, const QString &fileName)
+{
+    emit curveExported(pathId, fileName);
+}
+
+void GraphicsBase::clearSelectionSlot()
 {
     deselect();
-    const bool hadCurves = !paths().isEmpty();
-    m_curves->clear();
-    if (hadCurves)
-        emit curvesChanged();
 }
 
-void GraphicsBase::clearChartData(int index)
+/// Shows the figures of the curve that is selected now, or those of none.
+void GraphicsBase::followSelection()
 {
-    if (!needsXRange("clearChartData"))
-        return;
-    PathInfo &path = existingPath(index, "clearChartData");
-    m_ranges.startPeriod();
-    m_stage->setXRange(m_ranges.shown.xMin, m_ranges.shown.xMax);
-    path.setPoints({});
-    path.rebuild(*m_stage);
-    m_curves->removeMarks(path); // they would float over an empty chart
-    m_curves->catchUpLater();
+    PathInfo *now = selectedPath();
+    const int before = std::exchange(m_selectedPathId, now ? now->pathId() : 0);
+    if (m_figures->isShown() && now && !now->isHidden())
+        showFigures(*now);
+    else if (m_figures->isShown() || (before != 0 && before != m_selectedPathId))
+        emit clearParaInfoToTable();
 }
 
-void GraphicsBase::clearChart(int index)
+void GraphicsBase::showOrHideParameterTableSlot()
 {
-    PathInfo *path = paths().value(index);
-    if (!path)
-        return;
-    if (path->isSelected())
-        deselect();
-    m_curves->remove(index);
-    emit curvesChanged();
+    if (m_figures->isShown())
+        emit clearParaInfoToTable();
+    else if (PathInfo *path = selectedPath())
+        showFigures(*path);
 }
 
-PathInfo *GraphicsBase::createPath(const QString &name)
+void GraphicsBase::showFigures(PathInfo &path)
 {
-    PathInfo *path = m_curves->add(name);
-    emit curvesChanged();
-    return path;
+    curves().placeLines(path);
+    emit updateParaInfoToTable(curves().figures(path));
 }
 
-PathInfo *GraphicsBase::addCurve(const QString &name, const QVector<QPointF> &points)
+ChartSituation GraphicsBase::situation() const
 {
-    PathInfo *path = m_curves->add(name);
-    path->setPoints(points);
-    reconnectLegendMarkers();
-    m_curves->refresh(Panels::AllTables);
-    emit curvesChanged();
-    return path;
+    ChartSituation now;
+    now.curveSelected = selectedPath() != nullptr;
+    now.updateFinished = curves().areComplete();
+    now.markTablesShown = curves().markTablesShown();
+    now.parameterTableShown = m_figures->isShown();
+    now.markCount = marks().size();
+    now.clipboardText = QApplication::clipboard()->text();
+    return now;
 }
 
-void GraphicsBase::rebuildPath(int pathId)
+void GraphicsBase::showMenu(const QPoint &position)
 {
-    if (PathInfo *path = paths().value(pathId))
-        path->rebuild(*m_stage);
-}
+    viewport()->setCursor(Qt::ArrowCursor);
+    m_steering.stop();
+    m_menuPosition = mapToScene(position);
 
-ParaInfo GraphicsBase::figures(int pathId) const
-{
-    const PathInfo *path = paths().value(pathId);
-    return path ? m_curves->figures(*path) : ParaInfo();
-}
-
-bool GraphicsBase::parameterLinesVisible() const
-{
-    return m_curves->parameterLinesVisible();
-}
-
-void GraphicsBase::setBeamLevels(int pathId, const QVector<double> &drops)
-{
-    m_curves->setBeamLevels(pathId, drops);
-}
-
-void GraphicsBase::setParameterLinesVisible(bool visible)
-{
-    m_curves->setParameterLinesVisible(visible);
-}
-
-void GraphicsBase::SymmetrySlot()
-{
-    for (PathInfo *path : paths()) {
-        m_curves->marks().snap(*path);
-        path->rebuild(*m_stage);
-        path->drawMirrored(*m_stage);
-    }
-}
-
-void GraphicsBase::SymmetryResetSlot()
-{
-    for (PathInfo *path : paths()) {
-        m_curves->marks().snap(*path);
-        path->rebuild(*m_stage);
-        path->redrawOutline();
-    }
-}
-
-void GraphicsBase::reconnectLegendMarkers()
-{
-    if (!chart())
-        return;
-    const QList<QLegendMarker *> markers = chart()->legend()->markers();
-    for (QLegendMarker *marker : markers) {
-        disconnect(marker, &QLegendMarker::clicked, this, &GraphicsBase::handleMarkerClicked);
-        connect(marker, &QLegendMarker::clicked, this, &GraphicsBase::handleMarkerClicked);
-    }
-}
-
-void GraphicsBase::handleMarkerClicked()
-{
-    auto *marker = qobject_cast<QLegendMarker *>(sender());
-    if (!marker)
-        return;
-    for (PathInfo *path : paths()) {
-        if (path->series() == marker->series())
-            path->setHidden(!path->isHidden());
-    }
-}
-
-// The colours of the curves are not given from outside.
-void GraphicsBase::setColorList(QList<QColor> colorList)
-{
-    Q_UNUSED(colorList)
-}
-
-/// Makes the view a pixel smaller and as large as before: the chart lays itself out and repaints.
-void GraphicsBase::updataResize()
-{
-    const QSize full = size();
-    m_resized = false;
+    using Entry = ChartMenu::Entry;
+    struct Connection
     {
-        const QScopedValueRollback<bool> inner(m_nudging, true);
-        resize(full - QSize(1, 1));
-    }
-    resize(full);
-    if (isVisible() && !m_resized) // at its smallest size the view cannot be nudged
-        m_curves->refresh(Panels::AllTables);
+        ChartMenu::Entry entry;
+        void (GraphicsBase::*slot)();
+    };
+    static const std::array<Connection, 16> connections{{
+        {Entry::Copy, &GraphicsBase::copySlot},
+        {Entry::Paste, &GraphicsBase::pasteSlot},
+        {Entry::AddMark, &GraphicsBase::addMarkSlot},
+        {Entry::DeleteMark, &GraphicsBase::deleteMarkSlot},
+        {Entry::MarkTable, &GraphicsBase::showOrHideMarkTableSlot},
+        {Entry::ParameterTable, &GraphicsBase::showOrHideParameterTableSlot},
+        {Entry::Import, &GraphicsBase::importGraphicsDataSlot},
+        {Entry::ExportData, &GraphicsBase::exportGraphicsDataSlot},
+        {Entry::ExportImage, &GraphicsBase::exportGraphicsImageSlot},
+        {Entry::Manager, &GraphicsBase::managerGraphicsSlot},
+        {Entry::ClearSelection, &GraphicsBase::clearSelectionSlot},
+        {Entry::Zoom, &GraphicsBase::zoomSlot},
+        {Entry::Reset, &GraphicsBase::resetSlot},
+        {Entry::Pan, &GraphicsBase::panSlot},
+        {Entry::Symmetry, &GraphicsBase::SymmetrySlot},
+        {Entry::SymmetryReset, &GraphicsBase::SymmetryResetSlot},
+    }};
+    ChartMenu menu(chartMenuState(situation()), this);
+    for (const auto &[entry, slot] : connections)
+        connect(menu.entry(entry), &QAction::triggered, this, slot);
+    menu.exec(QCursor::pos());
 }
 
-void GraphicsBase::resizeEvent(QResizeEvent *event)
+void GraphicsBase::copySlot()
 {
-    const QSizeF size = event->size();
-    if (scene())
-        scene()->setSceneRect(QRectF(QPointF(0.0, 0.0), size));
-    if (!m_nudging)
-        m_stage->resize(size);
-    QGraphicsView::resizeEvent(event);
-    if (m_nudging) // the real size follows at once
+    m_exchange.copy();
+}
+
+void GraphicsBase::pasteSlot()
+{
+    m_exchange.paste();
+}
+
+void GraphicsBase::importGraphicsDataSlot()
+{
+    m_exchange.importData();
+}
+
+void GraphicsBase::exportGraphicsDataSlot()
+{
+    m_exchange.exportData();
+}
+
+void GraphicsBase::exportGraphicsImageSlot()
+{
+    m_exchange.exportImage();
+}
+
+void GraphicsBase::managerGraphicsSlot()
+{
+    ManagerGraph manager(window()); // the view's own style sheet would reach a dialog below it
+    connect(&manager, &ManagerGraph::updataResize, this, &GraphicsBase::updataResize);
+    manager.updatePathInfo(paths());
+    manager.exec();
+}
+
+void GraphicsBase::setAcceptDropsStatus(bool status)
+{
+    setAcceptDrops(status);
+}
+
+void GraphicsBase::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasText())
+        event->acceptProposedAction();
+}
+
+void GraphicsBase::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (event->mimeData()->hasText())
+        event->acceptProposedAction();
+}
+
+void GraphicsBase::dropEvent(QDropEvent *event)
+{
+    m_exchange.drop(event->mimeData()->text());
+    reconnectLegendMarkers();
+    event->acceptProposedAction();
+}
+
+void GraphicsBase::addMarkSlot()
+{
+    if (!chart() || paths().isEmpty())
         return;
-    m_resized = true;
-    m_curves->refresh(Panels::AllTables);
-    placeFigures();
-    if (chart())
-        emit updataSize(chart()->size() + QSizeF(-60.0, 10.0));
+    const double x = toValue(m_menuPosition).x();
+    const ViewRange axes = stage().axisRange();
+    if (!axes.isRound && (x < axes.xMin || x > axes.xMax))
+        return;
+    PathInfo *path = selectedPath();
+    if (!path) {
+        MessageSimpleDialog::showMessage(tr("Please select the target graph"), 1, window());
+        return;
+    }
+    m_markEditing->add(*path, x);
+}
+
+bool GraphicsBase::jumpMark(MarkJump jump)
+{
+    return m_markEditing->jump(jump);
+}
+
+void GraphicsBase::deleteMarkSlot()
+{
+    m_markEditing->removeSelected();
+}
+
+void GraphicsBase::showOrHideMarkTableSlot()
+{
+    curves().setMarkTablesShown(!curves().markTablesShown());
 }
