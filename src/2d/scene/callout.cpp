@@ -34,6 +34,8 @@ Callout::Callout(QGraphicsItem *parent)
 
 void Callout::setText(const QString &text)
 {
+    if (m_text == text)
+        return;
     prepareGeometryChange();
     m_text = text;
     placeBox();
@@ -48,6 +50,8 @@ void Callout::setColor(const QColor &color)
 
 void Callout::setAnchor(const QPointF &anchor, const QRectF &room)
 {
+    if (m_anchor == anchor && m_room == room)
+        return;
     prepareGeometryChange();
     m_anchor = anchor;
     m_room = room;

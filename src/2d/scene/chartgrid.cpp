@@ -8,6 +8,8 @@ namespace {
 
 constexpr double belowTheAxes = -0.5;
 constexpr double tickLength = 4.0; // as the chart leaves room for
+constexpr double roundTickLength =
+    3.0;                           // to either side, as the chart leaves room for round the circle
 constexpr double besideLine = 1.0; // pixels beside its middle that a line may cover
 
 bool isSameGrid(const ChartGrid::Lines &a, const ChartGrid::Lines &b)
@@ -46,9 +48,12 @@ void ChartGrid::show(const Lines &lines)
 
 QRectF ChartGrid::boundingRect() const
 {
-    const double ticks = m_lines.round ? 0.0 : tickLength;
-    return m_lines.plotArea.adjusted(-besideLine - ticks, -besideLine, besideLine,
-                                     besideLine + ticks);
+    if (m_lines.round) {
+        constexpr double beside = roundTickLength + besideLine;
+        return m_lines.plotArea.adjusted(-beside, -beside, beside, beside);
+    }
+    return m_lines.plotArea.adjusted(-besideLine - tickLength, -besideLine, besideLine,
+                                     besideLine + tickLength);
 }
 
 void ChartGrid::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
@@ -72,10 +77,22 @@ void ChartGrid::drawLines(QPainter &painter) const
     if (m_lines.round) {
         const QPointF centre = area.center();
         const double radius = area.width() / 2.0;
-        for (const double distance : linePlaces(0.0, radius, m_lines.yTicks))
+        const QVector<double> distances = linePlaces(0.0, radius, m_lines.yTicks);
+        for (const double distance : distances)
             painter.drawEllipse(centre, distance, distance);
-        for (const double angle : linePlaces(0.0, 360.0, m_lines.xTicks))
+        const QVector<double> angles = linePlaces(0.0, 360.0, m_lines.xTicks);
+        for (const double angle : angles)
             painter.drawLine(QLineF::fromPolar(radius, 90.0 - angle).translated(centre));
+        painter.setPen(m_lines.axisPen);
+        painter.drawEllipse(centre, radius, radius);
+        for (const double angle : angles)
+            painter.drawLine(QLineF(QLineF::fromPolar(radius - roundTickLength, 90.0 - angle).p2(),
+                                    QLineF::fromPolar(radius + roundTickLength, 90.0 - angle).p2())
+                                 .translated(centre));
+        painter.drawLine(QLineF(centre, centre - QPointF(0.0, radius)));
+        for (const double distance : distances)
+            painter.drawLine(QLineF(-roundTickLength, 0.0, roundTickLength, 0.0)
+                                 .translated(centre.x(), centre.y() - distance));
         return;
     }
     const QVector<double> columns = linePlaces(area.left(), area.width(), m_lines.xTicks);

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// The grid of a chart, and the lines and ticks of axes that are no circles.
+/// The grid of a chart, and the lines and ticks of its axes.
 ///
 /// The chart's own, one item a line, take a third of a zoom step to paint and most of a press to
 /// find out that they were not hit. As they hang on the plot area and the numbers of ticks alone,

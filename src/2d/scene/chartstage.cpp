@@ -133,7 +133,7 @@ ChartStage::ChartStage(int kind, QGraphicsScene &scene)
     m_grid = new ChartGrid(m_chart);
     for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
         axis->setGridLineVisible(false);
-        axis->setLineVisible(isPolar());
+        axis->setLineVisible(false);
         QObject::connect(axis, &QValueAxis::tickCountChanged, m_chart, [this] { placeGrid(); });
     }
     QObject::connect(m_chart, &QChart::plotAreaChanged, m_chart, [this] { placeGrid(); });

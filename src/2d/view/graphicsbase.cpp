@@ -151,7 +151,7 @@ void GraphicsBase::mousePressEvent(QMouseEvent *event)
     }
     if (!m_steering.isPanning()) {
         QGraphicsView::mousePressEvent(event);
-        if (dynamic_cast<const TablePanel *>(itemAt(event->pos())))
+        if (dynamic_cast<const TablePanel *>(scene()->mouseGrabberItem()))
             return; // what lies under a table is not meant
         pressCurves(event->pos());
         handDragOver(event->pos());
