@@ -15,6 +15,15 @@ CurveIndex::CurveIndex(const QVector<QPointF> &points)
 {
     if (points.isEmpty())
         return;
+    if (points.size() > worthAPyramid && isMonotone(points)) {
+        const ValueList levels = levelsOf(points);
+        m_pyramid.extend(levels);
+        const ValuePyramid::Run run = m_pyramid.run(levels, 0, levels.count - 1);
+        const double from = points.constFirst().x();
+        const double to = points.constLast().x();
+        m_bounds = {std::min(from, to), std::max(from, to), levels[run.low], levels[run.high]};
+        return;
+    }
     const QPointF &first = points.constFirst();
     m_bounds = {first.x(), first.x(), first.y(), first.y()};
     for (const QPointF &point : points) {
@@ -23,8 +32,6 @@ CurveIndex::CurveIndex(const QVector<QPointF> &points)
         m_bounds.yMin = std::min(m_bounds.yMin, point.y());
         m_bounds.yMax = std::max(m_bounds.yMax, point.y());
     }
-    if (points.size() > worthAPyramid && isMonotone(points))
-        m_pyramid.extend(levelsOf(points));
 }
 
 bool CurveIndex::isOf(const QVector<QPointF> &points) const

@@ -26,14 +26,25 @@ void ValuePyramid::truncate(int size)
     }
 }
 
-/// One value for level 0, else a block of the level below.
-ValuePyramid::Block ValuePyramid::part(const ValueList &values, std::size_t level,
-                                       std::size_t index) const
+ValuePyramid::Block ValuePyramid::blockOfValues(const ValueList &values, int begin)
 {
-    if (level > 0)
-        return m_levels[level - 1][index];
-    const int place = static_cast<int>(index);
-    return {values[place], values[place], place, place};
+    Block block = single(values, begin);
+    for (int place = begin + 1; place < begin + fanOut; ++place) {
+        const double value = values[place];
+        block.low = value < block.lowest ? place : block.low;
+        block.lowest = std::min(block.lowest, value);
+        block.high = value > block.highest ? place : block.high;
+        block.highest = std::max(block.highest, value);
+    }
+    return block;
+}
+
+ValuePyramid::Block ValuePyramid::blockOfBlocks(const std::vector<Block> &blocks, std::size_t begin)
+{
+    Block block = blocks[begin];
+    for (std::size_t i = begin + 1; i < begin + fanOut; ++i)
+        widen(block, blocks[i]);
+    return block;
 }
 
 void ValuePyramid::extend(const ValueList &values)
@@ -49,10 +60,8 @@ void ValuePyramid::extend(const ValueList &values)
             blocks.reserve(complete);
         while (blocks.size() < complete) {
             const std::size_t begin = blocks.size() * fanOut;
-            Block block = part(values, level, begin);
-            for (std::size_t i = begin + 1; i < begin + fanOut; ++i)
-                widen(block, part(values, level, i));
-            blocks.push_back(block);
+            blocks.push_back(level == 0 ? blockOfValues(values, static_cast<int>(begin))
+                                        : blockOfBlocks(m_levels[level - 1], begin));
         }
         below = complete;
     }
@@ -60,7 +69,7 @@ void ValuePyramid::extend(const ValueList &values)
 
 ValuePyramid::Run ValuePyramid::run(const ValueList &values, int first, int last) const
 {
-    Block found = part(values, 0, static_cast<std::size_t>(first));
+    Block found = single(values, first);
     const long long end = static_cast<long long>(last) + 1;
     for (long long at = first; at < end;) {
         // the largest block that begins here and ends within the range
@@ -70,12 +79,8 @@ ValuePyramid::Run ValuePyramid::run(const ValueList &values, int first, int last
             span *= fanOut;
             ++level;
         }
-        if (level > 0) {
-            widen(found, m_levels[level - 1][static_cast<std::size_t>(at / span)]);
-        } else {
-            const int place = static_cast<int>(at);
-            widen(found, {values[place], values[place], place, place});
-        }
+        widen(found, level > 0 ? m_levels[level - 1][static_cast<std::size_t>(at / span)]
+                               : single(values, static_cast<int>(at)));
         at += span;
     }
     return {first, found.low, found.high, last};

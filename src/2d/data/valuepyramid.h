@@ -67,7 +67,12 @@ private:
             block.high = by.high;
         }
     }
-    Block part(const ValueList &values, std::size_t level, std::size_t index) const;
+    static Block single(const ValueList &values, int place)
+    {
+        return {values[place], values[place], place, place};
+    }
+    static Block blockOfValues(const ValueList &values, int begin);
+    static Block blockOfBlocks(const std::vector<Block> &blocks, std::size_t begin);
 
     std::vector<std::vector<Block>> m_levels; ///< complete blocks only, the smallest first
     int m_size = 0;
