@@ -32,8 +32,13 @@ QString cells(const QStringList &texts)
 QString headings(const QStringList &texts)
 {
     QString html;
-    for (const QString &text : texts)
-        html += QStringLiteral("<th align=\"left\">%1</th>").arg(text.toHtmlEscaped());
+    for (const QString &text : texts) {
+        // A word is not broken where the other columns are wide.
+        const bool isWord = !text.contains(QLatin1Char(' '));
+        html += QStringLiteral("<th align=\"left\"%1>%2</th>")
+                    .arg(isWord ? QStringLiteral(" style=\"white-space:nowrap\"") : QString(),
+                         text.toHtmlEscaped());
+    }
     // Of a head the renderers know that it is repeated on every page.
     return QStringLiteral("<thead><tr bgcolor=\"#e8edf2\">%1</tr></thead>\n").arg(html);
 }

@@ -202,7 +202,7 @@ void MsiReader::takeHeader(int line, std::string_view key, std::string_view valu
 {
     const QString text = toText(value);
     if (equalsIgnoringCase(key, "NAME")) {
-        m_name = text;
+        m_name = text.simplified(); // as it is written
     } else if (equalsIgnoringCase(key, "FREQUENCY")) {
         takeFrequency(line, text);
     } else {
