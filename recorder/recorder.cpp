@@ -6,9 +6,10 @@
 #include <QFile>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <limits>
+#include <system_error>
 
 namespace {
 
@@ -35,15 +36,10 @@ std::optional<QString> replaceBeside(const QString &path, const QByteArray &text
     if (file.write(text) != text.size() || !file.flush())
         return failed(file.errorString());
     file.close();
-#ifdef Q_OS_WIN
-    QFile::remove(path);
-    if (!QFile::rename(temporary, path))
-        return failed(QStringLiteral("cannot be replaced"));
-#else
-    if (std::rename(QFile::encodeName(temporary).constData(),
-                    QFile::encodeName(path).constData()) != 0)
-        return failed(qt_error_string(errno));
-#endif
+    std::error_code error;
+    std::filesystem::rename(temporary.toStdU16String(), path.toStdU16String(), error);
+    if (error)
+        return failed(qt_error_string(error.value()));
     return std::nullopt;
 }
 

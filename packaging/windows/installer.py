@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Packs the installer for Windows of a folder that deploy.py made.
 
-installer.py FOLDER OUTPUT.exe [--version VERSION]
+installer.py FOLDER OUTPUT.exe [--version VERSION] [--target TARGET]
 
 The installer puts in exactly the files of FOLDER, and the uninstaller takes out exactly these: what
 else lies in the folders then is the user's.
@@ -44,6 +44,7 @@ def main():
     parser.add_argument("folder", type=Path)
     parser.add_argument("output", type=Path)
     parser.add_argument("--version", default=version_of_project())
+    parser.add_argument("--target", default="x86-unicode", help="what the installer itself runs on, as NSIS names it")
     options = parser.parse_args()
     if not (options.folder / "bin/mz6218.exe").is_file():
         parser.error(f"There is no bin/mz6218.exe in {options.folder}.")
@@ -51,7 +52,8 @@ def main():
         lists = Path(place) / "files.nsh"
         lists.write_text(lists_of(options.folder.resolve()), encoding="utf-8")
         subprocess.run(["makensis", "-V2", "-WX", "-INPUTCHARSET", "UTF8", f"-DVERSION={options.version}",
-                        f"-DFILES={lists}", f"-DOUTPUT={options.output.resolve()}", str(SCRIPT)], check=True)
+                        f"-DTARGET={options.target}", f"-DFILES={lists}", f"-DOUTPUT={options.output.resolve()}",
+                        str(SCRIPT)], check=True)
 
 
 if __name__ == "__main__":

@@ -1,7 +1,8 @@
 ; The installer for Windows; installer.py says how it is made. FILES names the lists of what it installs.
 ; It installs for the current user, since the programs keep settings, records and logs beside themselves
 ; and an ordinary user may not write below "Program Files".
-Unicode true
+; One for 32 bits runs on every Windows; makensis of Windows makes no other.
+Target ${TARGET}
 !include "MUI2.nsh"
 !include "${FILES}"
 

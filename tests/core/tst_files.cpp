@@ -176,9 +176,10 @@ private slots:
     void writesIntoDevicesAndRefusesFolders()
     {
         QCOMPARE(replaceFile(m_folder->path(), "text").kind, FileOutcome::Kind::OpenFailed);
+#ifdef Q_OS_WIN
+        QSKIP("there is no device that is always full");
+#endif
         const QString device = QStringLiteral("/dev/full");
-        if (!QFile::exists(device))
-            QSKIP("there is no device that is always full");
         QCOMPARE(replaceFile(device, "text").kind, FileOutcome::Kind::WriteFailed);
         QVERIFY(!QFileInfo(device).isFile());
     }

@@ -205,7 +205,8 @@ private slots:
         }
         DayFiles next(folder.path(), QStringLiteral("meter"));
         QCOMPARE(next.open(), std::nullopt);
-        DayFiles nowhere(QStringLiteral("/dev/null/x"), QStringLiteral("meter"));
+        DayFiles nowhere(write(folder.filePath(QStringLiteral("file"))) + QStringLiteral("/x"),
+                         QStringLiteral("meter"));
         QVERIFY(nowhere.open());
     }
 
