@@ -148,7 +148,7 @@ def measures(wine, folder):
     """Whether the deployed programs measure at the simulated instrument, and read a sample."""
     simulator = wine.starts(folder / "bin/mz6218-sim.exe", "--port", "0", "--noise", "0", "--level", "-33")
     try:
-        address = simulator.stdout.readline().split()[-1]
+        address = (simulator.stdout.readline().split() or ["nowhere"])[-1]
         return says("reading the power", wine("wine", folder / "bin/mz6218-cli.exe", "--lan", address, "read"),
                     "-33.00") and says("a sample's figures", wine(
                         "wine", folder / "bin/mz6218-patterns.exe", "--figures", folder / "samples/horn.csv"),
