@@ -16,7 +16,6 @@
 #include "watch/statisticspanel.h"
 #include "watch/trafficmodel.h"
 #include "watch/trafficpanel.h"
-#include "watch/watchsettings.h"
 
 #include <QDebug>
 #include <QDockWidget>
@@ -27,7 +26,32 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 
+#include <functional>
+#include <tuple>
+#include <utility>
+
 namespace {
+
+/// A dock whose panel is made when it is shown for the first time: few users open all of them, and
+/// none of them waits for the start.
+class PanelDock : public QDockWidget
+{
+public:
+    PanelDock(QWidget *window, std::function<QWidget *()> makePanel)
+        : QDockWidget(window)
+        , m_makePanel(std::move(makePanel))
+    {}
+
+    void setVisible(bool visible) override
+    {
+        if (visible && widget() == nullptr)
+            setWidget(m_makePanel());
+        QDockWidget::setVisible(visible);
+    }
+
+private:
+    std::function<QWidget *()> m_makePanel;
+};
 
 /// The dropped files, if all of them hold records.
 QStringList droppedRecords(const QMimeData *data)
@@ -69,15 +93,12 @@ QString remarkOn(Outcome outcome)
 WatchDesk::WatchDesk(const Console &console)
     : QObject(console.window)
     , m_console(console)
-    , m_statisticsDock(new QDockWidget(console.window))
-    , m_limitsDock(new QDockWidget(console.window))
-    , m_trafficDock(new QDockWidget(console.window))
-    , m_statisticsPanel(new StatisticsPanel(m_statisticsDock))
+    , m_statisticsDock(new PanelDock(console.window, [this] { return makeStatisticsPanel(); }))
+    , m_limitsDock(new PanelDock(console.window, [this] { return makeLimitsPanel(); }))
+    , m_trafficDock(new PanelDock(console.window, [this] { return makeTrafficPanel(); }))
     , m_limits(new LimitWatch(this))
-    , m_limitsPanel(new LimitsPanel(m_limits, m_limitsDock))
     , m_alarm(new AlarmNotice(m_limits, console.form->groupBox_6))
     , m_traffic(new TrafficModel(this))
-    , m_trafficPanel(new TrafficPanel(m_traffic, m_trafficDock))
 {
     createMenus();
     createPanels();
@@ -138,24 +159,46 @@ void WatchDesk::createPanels()
 {
     // The panels at the right have more rows to show than the one below has columns.
     m_console.window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    // Each panel has its dock for a parent from its making: the style sheet is applied to a whole
-    // panel anew when it changes its parent, which took a fourteenth of the start.
-    setUpDock(m_statisticsDock, "dockStatistics", m_statisticsPanel, Qt::RightDockWidgetArea);
-    setUpDock(m_limitsDock, "dockLimits", m_limitsPanel, Qt::RightDockWidgetArea);
-    setUpDock(m_trafficDock, "dockTraffic", m_trafficPanel, Qt::BottomDockWidgetArea);
+    setUpDock(m_statisticsDock, "dockStatistics", Qt::RightDockWidgetArea);
+    setUpDock(m_limitsDock, "dockLimits", Qt::RightDockWidgetArea);
+    setUpDock(m_trafficDock, "dockTraffic", Qt::BottomDockWidgetArea);
     connect(m_statisticsDock, &QDockWidget::visibilityChanged, this, &WatchDesk::showStatistics);
 }
 
-void WatchDesk::setUpDock(QDockWidget *dock, const char *name, QWidget *panel,
-                          Qt::DockWidgetArea area)
+void WatchDesk::setUpDock(QDockWidget *dock, const char *name, Qt::DockWidgetArea area)
 {
     dock->setObjectName(QLatin1String(name));
-    dock->setWidget(panel);
-    m_console.window->addDockWidget(area, dock);
     dock->hide();
+    m_console.window->addDockWidget(area, dock);
     m_viewMenu->addAction(dock->toggleViewAction());
     connect(dock, &QDockWidget::visibilityChanged, this,
             [this](bool visible) { m_wasPanelShown = m_wasPanelShown || visible; });
+}
+
+QWidget *WatchDesk::makeStatisticsPanel()
+{
+    // The panels are made with their docks as parents: the style sheet is applied to a whole panel
+    // anew when it changes its parent.
+    m_statisticsPanel = new StatisticsPanel(m_statisticsDock);
+    m_statisticsPanel->setOver(m_settings.isStatisticsOverShown ? StatisticsPanel::ShownRange
+                                                                : StatisticsPanel::SinceReset);
+    connect(m_statisticsPanel, &StatisticsPanel::resetWanted, this, &WatchDesk::beginAnew);
+    connect(m_statisticsPanel, &StatisticsPanel::overChanged, this, &WatchDesk::showStatistics);
+    return m_statisticsPanel;
+}
+
+QWidget *WatchDesk::makeLimitsPanel()
+{
+    m_limitsPanel = new LimitsPanel(m_limits, m_limitsDock);
+    m_limitsPanel->setLevels(m_settings.high, m_settings.low);
+    m_limitsPanel->setLimits(m_settings.limits);
+    return m_limitsPanel;
+}
+
+QWidget *WatchDesk::makeTrafficPanel()
+{
+    m_trafficPanel = new TrafficPanel(m_traffic, m_trafficDock);
+    return m_trafficPanel;
 }
 
 void WatchDesk::connectReadings()
@@ -183,8 +226,6 @@ void WatchDesk::connectReadings()
         m_statistics.forgetChart();
         showStatistics();
     });
-    connect(m_statisticsPanel, &StatisticsPanel::resetWanted, this, &WatchDesk::beginAnew);
-    connect(m_statisticsPanel, &StatisticsPanel::overChanged, this, &WatchDesk::showStatistics);
 }
 
 void WatchDesk::connectTraffic()
@@ -223,9 +264,13 @@ void WatchDesk::retranslate()
     m_statisticsDock->setWindowTitle(tr("Statistics"));
     m_limitsDock->setWindowTitle(tr("Limits"));
     m_trafficDock->setWindowTitle(tr("Traffic"));
-    m_statisticsPanel->retranslate();
-    m_limitsPanel->retranslate();
-    m_trafficPanel->retranslate();
+    if (m_statisticsPanel)
+        m_statisticsPanel->retranslate();
+    if (m_limitsPanel)
+        m_limitsPanel->retranslate();
+    if (m_trafficPanel)
+        m_trafficPanel->retranslate();
+    m_traffic->retranslate();
     m_alarm->retranslate();
     showReconnecting();
 }
@@ -376,24 +421,25 @@ bool WatchDesk::eventFilter(QObject *watched, QEvent *event)
 
 void WatchDesk::load()
 {
-    const WatchSettings settings = WatchSettings::load(WatchSettings::ownFile());
-    m_windowState = settings.windowState;
-    if (!m_windowState.isEmpty())
-        m_console.window->restoreState(m_windowState);
-    m_statisticsPanel->setOver(settings.isStatisticsOverShown ? StatisticsPanel::ShownRange
-                                                              : StatisticsPanel::SinceReset);
-    m_reconnect->setChecked(settings.reconnects);
-    m_limitsPanel->setLevels(settings.high, settings.low);
-    m_limitsPanel->setLimits(settings.limits);
+    m_settings = WatchSettings::load(WatchSettings::ownFile());
+    if (m_settings.limits.areGiven() && m_settings.limits.areUsable())
+        m_limits->setLimits(m_settings.limits);
+    if (!m_settings.windowState.isEmpty())
+        m_console.window->restoreState(m_settings.windowState);
+    m_reconnect->setChecked(m_settings.reconnects);
 }
 
 void WatchDesk::save() const
 {
-    WatchSettings settings;
-    settings.windowState = m_wasPanelShown ? m_console.window->saveState() : m_windowState;
-    settings.isStatisticsOverShown = m_statisticsPanel->over() == StatisticsPanel::ShownRange;
+    WatchSettings settings = m_settings;
+    if (m_wasPanelShown)
+        settings.windowState = m_console.window->saveState();
+    if (m_statisticsPanel)
+        settings.isStatisticsOverShown = m_statisticsPanel->over() == StatisticsPanel::ShownRange;
     settings.reconnects = m_reconnect->isChecked();
-    settings.limits = m_limitsPanel->limits();
-    std::tie(settings.high, settings.low) = m_limitsPanel->levels();
+    if (m_limitsPanel) {
+        settings.limits = m_limitsPanel->limits();
+        std::tie(settings.high, settings.low) = m_limitsPanel->levels();
+    }
     settings.save(WatchSettings::ownFile());
 }

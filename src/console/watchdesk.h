@@ -2,6 +2,7 @@
 
 #include "watch/readingstatistics.h"
 #include "watch/reconnector.h"
+#include "watch/watchsettings.h"
 
 #include <QObject>
 #include <QStringList>
@@ -77,7 +78,10 @@ private:
     void createMenus();
     void placeAlarm();
     void createPanels();
-    void setUpDock(QDockWidget *dock, const char *name, QWidget *panel, Qt::DockWidgetArea area);
+    void setUpDock(QDockWidget *dock, const char *name, Qt::DockWidgetArea area);
+    QWidget *makeStatisticsPanel();
+    QWidget *makeLimitsPanel();
+    QWidget *makeTrafficPanel();
     void connectReadings();
     void connectTraffic();
     void connectReconnector();
@@ -101,12 +105,12 @@ private:
     QDockWidget *m_trafficDock;
 
     ReadingStatistics m_statistics;
-    StatisticsPanel *m_statisticsPanel;
+    StatisticsPanel *m_statisticsPanel = nullptr; ///< from its first showing on, as the other two
     LimitWatch *m_limits;
-    LimitsPanel *m_limitsPanel;
+    LimitsPanel *m_limitsPanel = nullptr;
     AlarmNotice *m_alarm;
     TrafficModel *m_traffic;
-    TrafficPanel *m_trafficPanel;
+    TrafficPanel *m_trafficPanel = nullptr;
     Reconnector m_reconnector;
     Reconnector::Target m_target; ///< of the link that was opened last
     bool m_isTrying = false;      ///< the open under way is one of the tries
@@ -115,6 +119,6 @@ private:
     std::optional<double> m_frequency; ///< Hz, as the instrument told it
     std::optional<double> m_offset;    ///< dB
     bool m_isRelative = false;
-    QByteArray m_windowState; ///< as it was read
+    WatchSettings m_settings; ///< as they were read
     bool m_wasPanelShown = false;
 };

@@ -26,6 +26,8 @@ void AlarmNotice::showState()
     policy.setRetainSizeWhenHidden(state != LimitWatch::State::Off);
     setSizePolicy(policy);
     setVisible(m_watch->isAlarm() || state == LimitWatch::State::Resting);
+    if (state == LimitWatch::State::Off)
+        return; // neither seen nor kept a place for
     if (m_watch->isAlarm()) {
         const QString shape = m_watch->isAlarm(LimitAlarm::High) ? QStringLiteral("\u25b2")
                                                                  : QStringLiteral("\u25bc");

@@ -86,7 +86,6 @@ void TrafficPanel::retranslate()
     m_copy->setText(tr("Copy Line&s"));
     m_clear->setText(tr("Cl&ear"));
     m_view->setAccessibleName(tr("Traffic"));
-    m_model->retranslate();
 }
 
 QString TrafficPanel::text() const

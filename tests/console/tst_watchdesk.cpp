@@ -72,6 +72,7 @@ private slots:
         QTRY_VERIFY(statistic(6).toInt() >= 2); // readings
         QCOMPARE(statistic(1), QStringLiteral("-20.0000 dBm"));
 
+        m_console->find<QWidget>("dockLimits")->show();
         m_console->find<QDoubleSpinBox>("doubleSpinBoxHigh")->setValue(-15.0);
         m_console->find<QCheckBox>("checkBoxHigh")->setChecked(true);
         QTRY_COMPARE(m_console->text("labelLimitState"), QStringLiteral("Inside the limits."));
