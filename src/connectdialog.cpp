@@ -7,16 +7,16 @@
 #include <QSerialPortInfo>
 #include <QWindow>
 
-ConnectDialog::ConnectDialog(QWidget *parent)
-    : QDialog(parent)
+ConnectDialog::ConnectDialog(QWidget *parent, Listing listing)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
     , m_ui(std::make_unique<Ui::ConnectDialog>())
 {
     m_ui->setupUi(this);
     fillBaudRates();
-    on_btnUpdate_clicked();
+    if (listing == Listing::AtOnce)
+        on_btnUpdate_clicked();
     setLinkMode(serialLink);
     setWindowTitle(tr("Connection"));
-    setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
 }
 
 ConnectDialog::~ConnectDialog() = default;
@@ -45,6 +45,8 @@ void ConnectDialog::retranslate()
 void ConnectDialog::showEvent(QShowEvent *event)
 {
     windowHandle()->installEventFilter(this);
+    if (!m_isListed)
+        on_btnUpdate_clicked();
     QDialog::showEvent(event);
 }
 
@@ -79,6 +81,7 @@ void ConnectDialog::on_cancel_clicked()
 
 void ConnectDialog::on_btnUpdate_clicked()
 {
+    m_isListed = true;
     // The list grows with every refresh: what the user has chosen so far must not vanish from it.
     const auto ports = QSerialPortInfo::availablePorts();
     for (const QSerialPortInfo &port : ports)

@@ -15,7 +15,11 @@ class ConnectDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit ConnectDialog(QWidget *parent = nullptr);
+    /// When the serial ports are listed for the first time: to ask the system for them takes as
+    /// long as to make the dialog.
+    enum class Listing { AtOnce, WhenShown };
+
+    explicit ConnectDialog(QWidget *parent = nullptr, Listing listing = Listing::AtOnce);
     ~ConnectDialog() override;
 
     /// Asks for a port and a baud rate (0 = serial) or for an IP address (1 = LAN); any other mode
@@ -50,4 +54,5 @@ private:
 
     std::unique_ptr<Ui::ConnectDialog> m_ui;
     int m_mode = 0;
+    bool m_isListed = false;
 };
