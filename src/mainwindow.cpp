@@ -113,6 +113,20 @@ void MainWindow::beginOncePainted(const StartOptions &options)
     });
 }
 
+bool MainWindow::event(QEvent *event)
+{
+    const bool isHandled = QMainWindow::event(event);
+    if (event->type() == QEvent::Polish) {
+        // With the panel and the reading at their sizes the chart is laid out at one size, not at
+        // three, before it is seen.
+        layout()->activate();
+        m_ui->centralWidget->layout()->activate();
+        m_panel.fit();
+        m_ui->layoutPower->activate(); // which tells the layout around it
+    }
+    return isHandled;
+}
+
 void MainWindow::paintEvent(QPaintEvent *event)
 {
     QMainWindow::paintEvent(event);

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int smallest = 30;
 constexpr int largest = 300;
+constexpr int probe = 100;
 
 QFont sized(const QLabel *label, int pixels)
 {
@@ -36,16 +37,20 @@ struct Fonts
         , text(sized(label, pixels * 9 / 20))
     {}
 
-    int width(const QString &unitText) const
-    {
-        return widthOf(power, QStringLiteral("-100.00")) + widthOf(unit, unitText) +
-               widthOf(text, QStringLiteral("-100.00dBm"));
-    }
-
     QFont power;
     QFont unit;
     QFont text;
 };
+
+/// The width of reading, \a unit and instrument's text with a reading of 100 pixels. Two fonts less
+/// than measuring each at its own size: the system takes long to find one.
+double widthAtProbe(const QLabel *label, const QString &unit)
+{
+    const QFontMetricsF metrics(sized(label, probe));
+    return metrics.horizontalAdvance(QStringLiteral("-100.00")) +
+           metrics.horizontalAdvance(unit) * 2 / 5 +
+           metrics.horizontalAdvance(QStringLiteral("-100.00dBm")) * 9 / 20;
+}
 
 /// The name by which the style sheet knows \a state.
 QString nameOf(PowerDisplay::State state)
@@ -140,11 +145,10 @@ void PowerDisplay::show(const Reading &reading, State state, int age)
 
 void PowerDisplay::fit(const QSize &room)
 {
-    constexpr int probe = 100;
-    const int widthAtProbe = Fonts(probe, m_labels.power).width(m_labels.unit->text());
-    const Fonts fonts(std::clamp(std::min(room.height() / 8, room.width() * probe / widthAtProbe),
-                                 smallest, largest),
-                      m_labels.power);
+    const double scale = room.width() / widthAtProbe(m_labels.power, m_labels.unit->text());
+    const Fonts fonts(
+        std::clamp(std::min(room.height() / 8, int(probe * scale)), smallest, largest),
+        m_labels.power);
     m_labels.power->setFont(fonts.power);
     m_labels.unit->setFont(fonts.unit);
     m_labels.text->setFont(fonts.text);
