@@ -31,8 +31,13 @@ icon() {
         render "$source" "$size" "$work/$2-$size.png"
         case $size in
             512) ;;
-            # The largest one is stored as PNG inside, which keeps the file small.
-            256) set -- "$@" "--raw=$work/$2-$size.png" ;;
+            # The largest one is stored as PNG inside, which keeps the file small; without a filter, as
+            # it is smaller still and read in a third of the time.
+            256)
+                "$magick" "$work/$2-$size.png" -define png:compression-filter=0 \
+                    -define png:compression-level=9 "$work/$2-raw.png"
+                set -- "$@" "--raw=$work/$2-raw.png"
+                ;;
             *) set -- "$@" "$work/$2-$size.png" ;;
         esac
         case $size in 20 | 40) continue ;; esac
