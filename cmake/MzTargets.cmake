@@ -90,7 +90,7 @@ function(mz_write_layers)
     file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/layers.txt" CONTENT "${layers}")
 endfunction()
 
-# mz_add_program(NAME SOURCES ... LIBRARIES ...): a program in build/bin with the shared resources.
+# mz_add_program(NAME SOURCES ... LIBRARIES ...): a program in build/bin.
 function(mz_add_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})

@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
 build=$(readlink -f "${1:-build}")
-readonly operator=+1000:+1000 home=/home/operator
+readonly user=+1000:+1000 home=/home/user
 readonly instrument=127.62.18.1 # port 5001 of 127.0.0.1 may be taken
 # What the README of the portable archive asks of a desktop.
 readonly desktop=(libgl1 libx11-xcb1 libxrender1 libsm6 libice6 libfontconfig1 libfreetype6 libpng16-16
@@ -95,18 +95,18 @@ make_root() {
         tar -C / --create --no-recursion --ignore-failed-read --files-from - 2>/dev/null |
         tar -C "$root" --extract --keep-directory-symlink
     ldconfig -r "$root"
-    chown "$operator" "$root$home"
+    chown "$user" "$root$home"
     chmod 700 "$root$home"
     chmod 1777 "$root/tmp"
 }
 
-# All files there, without what the operator may write and what dpkg notes.
+# All files there, without what the user may write and what dpkg notes.
 listing() {
     (cd "$root" && find . \( -path ".$home" -o -path ./tmp -o -path ./var/lib/dpkg \) -prune -o \
         \( -type d -printf '%p\n' -o -printf '%p %s %m %T@ %l\n' \) | sort)
 }
 
-# inside COMMAND...: becomes this command there, run by the operator.
+# inside COMMAND...: becomes this command there, run by the user.
 inside() {
     # shellcheck disable=SC2016 # the inner shell's variables
     exec unshare --mount sh -ec '
@@ -116,7 +116,7 @@ inside() {
         mount --rbind /dev "$root/dev"
         mkdir -p "$root/tmp/.X11-unix"
         mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
-        exec chroot --userspec='$operator' --groups= "$root" env --ignore-environment --chdir='$home' "$@"
+        exec chroot --userspec='$user' --groups= "$root" env --ignore-environment --chdir='$home' "$@"
     ' sh "$root" HOME="$home" PATH=/usr/bin:/bin LC_ALL=C.UTF-8 DISPLAY="$DISPLAY" XDG_RUNTIME_DIR="$home" "$@"
 }
 
@@ -202,7 +202,7 @@ check_programs() {
     check "it ends when asked to" stop workbench
     check "the simulated instrument ends when asked to" stop simulator
     listing >"$state/after"
-    check "nothing but the operator's own files was written" diff "$state/before" "$state/after"
+    check "nothing but the user's own files was written" diff "$state/before" "$state/after"
 }
 
 # --- The Debian package
@@ -296,7 +296,7 @@ check_debian_package() {
     check "it can be removed" remove_package
     listing >"$state/after"
     check "it leaves nothing behind" diff "$state/without" "$state/after"
-    check "but what the operator measured" has_records "$root$folder" 2
+    check "but what the user measured" has_records "$root$folder" 2
 }
 
 # --- The portable archive
@@ -307,7 +307,7 @@ check_portable_archive() {
     check "there is no Qt" test -z "$(find "$root" -name 'libQt5*')"
     mkdir "$root$folder"
     tar -C "$root$folder" --extract --no-same-owner --strip-components 1 --file "$1"
-    chown -R "$operator" "$root$folder"
+    chown -R "$user" "$root$folder"
     check "licences" test -s "$root$folder/licences/LICENSE" -a -s "$root$folder/licences/libqt5core5a.txt"
     check_programs "$folder/bin" "$folder/bin" "$folder" "$folder/samples"
 }
