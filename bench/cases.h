@@ -20,7 +20,7 @@ void curveFiles(const DuelSink &add);
 void patternAnalysis(const DuelSink &add);
 /// Loading a loss table of 10,000 frequencies and 100 rows, and asking it.
 void lossTable(const DuelSink &add);
-/// Opening a record, and a zoom step on six million points.
+/// A day's record of six million rows: opened, zoomed, saved.
 void records(const DuelSink &add);
 /// The console from its start to the first painting; \a starter is the program that shows it.
 void startUp(const QString &starter, const DuelSink &add);

@@ -17,7 +17,7 @@ declare -A sets=(
     [ci]="clang clang-format clang-tidy g++-mingw-w64-x86-64-posix desktop-file-utils git libclang-rt-dev
           llvm nsis prometheus shellcheck"
     [pictures]="xvfb xauth imagemagick xdotool poppler-utils"
-    [bench]="libqwt-qt5-dev libqcustomplot-dev"
+    [bench]="libqwt-qt5-dev libqcustomplot-dev python3-pandas"
 )
 
 usage() {
