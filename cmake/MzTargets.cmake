@@ -32,34 +32,60 @@ endif()
 # Includes are written from these two roots, so that each names the room of what it includes.
 target_include_directories(mz_flags INTERFACE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}")
 
-# Qt's headers are compiled once for each set of its modules that targets stand on. A set may define
-# nothing that its users do not define as well, or the compiler would not take it.
-foreach(module Core Widgets Charts)
-    file(WRITE "${CMAKE_BINARY_DIR}/headers/${module}.cpp" "")
-    add_library(mz_headers_${module} OBJECT "${CMAKE_BINARY_DIR}/headers/${module}.cpp")
-    target_link_libraries(mz_headers_${module} PRIVATE mz_flags Qt5::${module})
-    target_precompile_headers(mz_headers_${module} PRIVATE <Qt${module}>)
-    set_target_properties(mz_headers_${module} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
-endforeach()
-target_precompile_headers(mz_headers_Charts PRIVATE <QtWidgets>)
+# Tests are compiled more often than they run: the optimiser would take more time than it saves.
+set(MZ_TEST_OPTIONS "")
+if(NOT MSVC)
+    set(MZ_TEST_OPTIONS $<$<CONFIG:Release>:-O0>)
+endif()
 
-# mz_precompile(NAME): lets NAME take the headers of what it links.
-function(mz_precompile name)
-    get_target_property(libraries ${name} LINK_LIBRARIES)
-    set(module Core)
-    foreach(library IN LISTS libraries)
-        set(taken "")
-        if(library MATCHES "^Qt5::(Widgets|PrintSupport|Charts)$")
-            string(REGEX REPLACE "PrintSupport" "Widgets" taken "${CMAKE_MATCH_1}")
-        elseif(TARGET ${library})
-            get_target_property(taken ${library} MZ_HEADERS)
-        endif()
-        if(taken STREQUAL Charts OR (taken STREQUAL Widgets AND module STREQUAL Core))
-            set(module ${taken})
-        endif()
+# The headers that many sources include are compiled once for what is shipped and once for tests. A target
+# takes them only if it defines whatever they were compiled with, so that of Qt's modules they link none
+# that a user does not. More headers would cost more than they save: each source reads all of it.
+set(headers
+    algorithm array atomic cerrno charconv cmath cstdio cstdlib deque functional limits memory optional utility vector
+    QApplication QBuffer QByteArray QChart QClipboard QColor QComboBox QCoreApplication QDate QDateTime QDebug QDialog
+    QDialogButtonBox QDir QDoubleSpinBox QElapsedTimer QEvent QFile QFileDialog QFileInfo QFont QFontInfo QFontMetricsF
+    QFormLayout QGraphicsItem QGraphicsScene QGraphicsSceneMouseEvent QHBoxLayout QHeaderView QIcon QJsonDocument
+    QJsonObject QKeyEvent QLabel QLegend QLineEdit QLineF QLineSeries QList QLocale QLockFile QMainWindow QMap
+    QMessageBox QMetaType QMimeData QObject QPainter QPen QPixmap QPoint QPointF QPushButton QRectF
+    QRegularExpression QScopedValueRollback QSignalBlocker QSize QString QStringList QTableWidget QTextCodec
+    QTextStream QTimer QUrl QVBoxLayout QValueAxis QVector QWidget QtGlobal QtMath)
+list(TRANSFORM headers REPLACE ".+" "<\\0>")
+file(WRITE "${CMAKE_BINARY_DIR}/headers.cpp" "")
+foreach(name mz_headers mz_test_headers)
+    add_library(${name} OBJECT EXCLUDE_FROM_ALL "${CMAKE_BINARY_DIR}/headers.cpp")
+    target_link_libraries(${name} PRIVATE mz_flags Qt5::Core)
+    foreach(module Gui Widgets Charts)
+        target_include_directories(${name} SYSTEM PRIVATE
+            $<TARGET_PROPERTY:Qt5::${module},INTERFACE_INCLUDE_DIRECTORIES>)
     endforeach()
-    set_target_properties(${name} PROPERTIES MZ_HEADERS ${module})
-    target_precompile_headers(${name} REUSE_FROM mz_headers_${module})
+    target_precompile_headers(${name} PRIVATE ${headers})
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endforeach()
+target_link_libraries(mz_test_headers PRIVATE Qt5::Widgets Qt5::Network Qt5::Test)
+target_precompile_headers(mz_test_headers PRIVATE <QtTest>)
+target_compile_options(mz_test_headers PRIVATE ${MZ_TEST_OPTIONS})
+
+# mz_compile(NAME [HEADERS]): what all targets have in common. What moc writes is compiled among the sources,
+# since by itself most of it would be Qt's headers.
+function(mz_compile name)
+    set(headers ${ARGN} mz_headers)
+    list(GET headers 0 headers)
+    target_link_libraries(${name} PRIVATE mz_flags)
+    target_precompile_headers(${name} REUSE_FROM ${headers})
+    set(mocs "${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp")
+    set(wrapper "${CMAKE_CURRENT_BINARY_DIR}/${name}_mocs.cpp")
+    file(CONFIGURE OUTPUT "${wrapper}" CONTENT "#include \"${mocs}\"\n")
+    set_source_files_properties("${mocs}" PROPERTIES HEADER_FILE_ONLY ON)
+    set_source_files_properties("${wrapper}" PROPERTIES SKIP_AUTOGEN ON)
+    target_sources(${name} PRIVATE "${wrapper}")
+endfunction()
+
+# mz_compile_test(NAME): the same for what serves tests alone.
+function(mz_compile_test name)
+    target_link_libraries(${name} PRIVATE Qt5::Widgets Qt5::Network Qt5::Test)
+    target_compile_options(${name} PRIVATE ${MZ_TEST_OPTIONS})
+    mz_compile(${name} mz_test_headers)
 endfunction()
 
 # mz_note_layer(NAME LIBRARIES SOURCES): a line of the list that scripts/layers.py reads.
@@ -75,8 +101,8 @@ endfunction()
 function(mz_add_layer name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
-    target_link_libraries(${name} PUBLIC ${ARG_LIBRARIES} PRIVATE mz_flags)
-    mz_precompile(${name})
+    target_link_libraries(${name} PUBLIC ${ARG_LIBRARIES})
+    mz_compile(${name})
     mz_note_layer(${name} "${ARG_LIBRARIES}" "${ARG_SOURCES}")
 endfunction()
 
@@ -94,29 +120,32 @@ endfunction()
 function(mz_add_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE mz_flags ${ARG_LIBRARIES})
-    mz_precompile(${name})
+    target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
+    mz_compile(${name})
     mz_note_layer(${name} "${ARG_LIBRARIES}" "${ARG_SOURCES}")
 endfunction()
 
-# mz_add_test(NAME SOURCES ... LIBRARIES ... [LABELS ...] [COST n]): a QtTest program with a folder of its
-# own, since the console keeps its settings and records beside the program that runs; greater costs start first.
-function(mz_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES;LABELS" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE mz_flags ${ARG_LIBRARIES} mz_testsupport Qt5::Test)
-    mz_precompile(${name})
-    target_compile_definitions(${name} PRIVATE MZ_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
-                                               MZ_BIN_DIR="${CMAKE_BINARY_DIR}/bin")
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY
-                                             "${CMAKE_BINARY_DIR}/tests/${name}")
-    add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests/${name}")
-    if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 300)
-    endif()
-    if(NOT ARG_COST)
-        set(ARG_COST 1)
-    endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST} LABELS "${ARG_LABELS}"
-                         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC")
+# mz_add_tests(NAME SOURCES ... LIBRARIES ... [DEFINITIONS ...] [LABELS ...]): one program for the classes of
+# a folder, since most of their cost is Qt's headers. Each source "tst_*.cpp" is a test, run by a copy of the
+# program that bears its name, in a folder of its own, since the console keeps its settings and records
+# beside the program that runs.
+function(mz_add_tests name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEFINITIONS;LABELS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/main.cpp")
+    target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} mz_testsupport)
+    mz_compile_test(${name})
+    target_compile_definitions(${name} PRIVATE MZ_BIN_DIR="${CMAKE_BINARY_DIR}/bin" ${ARG_DEFINITIONS})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    list(FILTER ARG_SOURCES INCLUDE REGEX "^tst_.*\\.cpp$")
+    foreach(source IN LISTS ARG_SOURCES)
+        get_filename_component(test "${source}" NAME_WE)
+        set(folder "${CMAKE_BINARY_DIR}/tests/${test}")
+        set(program "${folder}/${test}${CMAKE_EXECUTABLE_SUFFIX}")
+        file(MAKE_DIRECTORY "${folder}")
+        add_custom_command(TARGET ${name} POST_BUILD VERBATIM
+                           COMMAND "${CMAKE_COMMAND}" -E copy "$<TARGET_FILE:${name}>" "${program}")
+        add_test(NAME ${test} COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} "${program}" WORKING_DIRECTORY "${folder}")
+        set_tests_properties(${test} PROPERTIES TIMEOUT 300 LABELS "${ARG_LABELS}"
+                                                ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC")
+    endforeach()
 endfunction()

@@ -337,6 +337,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestChartCurves)
+MZ_TEST(TestChartCurves)
 
 #include "tst_chartcurves.moc"

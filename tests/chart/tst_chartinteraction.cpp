@@ -443,6 +443,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestChartInteraction)
+MZ_TEST(TestChartInteraction)
 
 #include "tst_chartinteraction.moc"

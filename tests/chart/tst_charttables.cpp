@@ -203,6 +203,6 @@ private:
     std::unique_ptr<ManagerGraph> m_dialog;
 };
 
-MZ_TEST_MAIN(TestChartTables)
+MZ_TEST(TestChartTables)
 
 #include "tst_charttables.moc"

@@ -208,6 +208,6 @@ private:
     std::unique_ptr<GraphicsBase> m_view;
 };
 
-MZ_TEST_MAIN(TestCurveExchange)
+MZ_TEST(TestCurveExchange)
 
 #include "tst_curveexchange.moc"

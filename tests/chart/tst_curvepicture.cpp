@@ -142,6 +142,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestCurvePicture)
+MZ_TEST(TestCurvePicture)
 
 #include "tst_curvepicture.moc"

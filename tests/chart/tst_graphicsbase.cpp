@@ -275,6 +275,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestGraphicsBase)
+MZ_TEST(TestGraphicsBase)
 
 #include "tst_graphicsbase.moc"

@@ -256,6 +256,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestCli)
+MZ_GUILESS_TEST(TestCli)
 
 #include "tst_cli.moc"

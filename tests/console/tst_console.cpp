@@ -246,5 +246,5 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestConsole)
+MZ_TEST(TestConsole)
 #include "tst_console.moc"

@@ -194,5 +194,5 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestConsoleFiles)
+MZ_TEST(TestConsoleFiles)
 #include "tst_consolefiles.moc"

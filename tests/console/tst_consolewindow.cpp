@@ -251,5 +251,5 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestConsoleWindow)
+MZ_TEST(TestConsoleWindow)
 #include "tst_consolewindow.moc"

@@ -199,5 +199,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestDoctor)
+MZ_GUILESS_TEST(TestDoctor)
 #include "tst_doctor.moc"

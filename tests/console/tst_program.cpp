@@ -150,5 +150,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestProgram)
+MZ_GUILESS_TEST(TestProgram)
 #include "tst_program.moc"

@@ -331,5 +331,5 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestTrust)
+MZ_TEST(TestTrust)
 #include "tst_trust.moc"

@@ -103,5 +103,5 @@ private:
     std::unique_ptr<ConsoleTester> m_console;
 };
 
-MZ_TEST_MAIN(TestWatchDesk)
+MZ_TEST(TestWatchDesk)
 #include "tst_watchdesk.moc"

@@ -163,5 +163,5 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestZeroing)
+MZ_TEST(TestZeroing)
 #include "tst_zeroing.moc"

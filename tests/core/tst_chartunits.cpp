@@ -103,6 +103,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestChartUnits)
+MZ_GUILESS_TEST(TestChartUnits)
 
 #include "tst_chartunits.moc"

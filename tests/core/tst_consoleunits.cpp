@@ -116,5 +116,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestConsoleUnits)
+MZ_GUILESS_TEST(TestConsoleUnits)
 #include "tst_consoleunits.moc"

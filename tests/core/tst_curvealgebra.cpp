@@ -133,5 +133,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestCurveAlgebra)
+MZ_GUILESS_TEST(TestCurveAlgebra)
 #include "tst_curvealgebra.moc"

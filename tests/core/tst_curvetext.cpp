@@ -214,5 +214,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestCurveText)
+MZ_GUILESS_TEST(TestCurveText)
 #include "tst_curvetext.moc"

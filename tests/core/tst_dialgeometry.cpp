@@ -98,5 +98,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestDialGeometry)
+MZ_GUILESS_TEST(TestDialGeometry)
 #include "tst_dialgeometry.moc"

@@ -188,5 +188,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-MZ_TEST_GUILESS_MAIN(TestFiles)
+MZ_GUILESS_TEST(TestFiles)
 #include "tst_files.moc"

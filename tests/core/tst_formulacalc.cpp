@@ -103,12 +103,8 @@ private slots:
     /// The table of questions and answers in the documentation holds for the sample beside it.
     void documentedExample()
     {
-        // The folder of the test data need not exist.
-        const QString root =
-            QDir::cleanPath(QStringLiteral(MZ_TEST_DATA "/../..")) + QLatin1Char('/');
-        m_calc->queryLossCompensationFromFile(root +
-                                              QStringLiteral("patterns/samples/loss-table.csv"));
-        QFile page(root + QStringLiteral("docs/components.md"));
+        m_calc->queryLossCompensationFromFile(QStringLiteral(MZ_SAMPLES "/loss-table.csv"));
+        QFile page(QStringLiteral(MZ_DOCUMENTS "/components.md"));
         QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.errorString()));
 
         const QRegularExpression answer(
@@ -137,5 +133,5 @@ private:
     FormulaCalc *m_calc = FormulaCalc::Instance();
 };
 
-MZ_TEST_GUILESS_MAIN(TestFormulaCalc)
+MZ_GUILESS_TEST(TestFormulaCalc)
 #include "tst_formulacalc.moc"

@@ -89,6 +89,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestMeasure)
+MZ_GUILESS_TEST(TestMeasure)
 
 #include "tst_measure.moc"

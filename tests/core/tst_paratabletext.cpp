@@ -75,5 +75,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestParaTableText)
+MZ_GUILESS_TEST(TestParaTableText)
 #include "tst_paratabletext.moc"

@@ -108,5 +108,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestPatternAnalysis)
+MZ_GUILESS_TEST(TestPatternAnalysis)
 #include "tst_patternanalysis.moc"

@@ -161,5 +161,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestPatternSupplement)
+MZ_GUILESS_TEST(TestPatternSupplement)
 #include "tst_patternsupplement.moc"

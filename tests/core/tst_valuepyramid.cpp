@@ -60,5 +60,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestValuePyramid)
+MZ_GUILESS_TEST(TestValuePyramid)
 #include "tst_valuepyramid.moc"

@@ -181,6 +181,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestWireFormat)
+MZ_GUILESS_TEST(TestWireFormat)
 
 #include "tst_wireformat.moc"

@@ -336,6 +336,6 @@ debug|send cmd: "A\xB5\x00""B" 4)")
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestLinkCommands)
+MZ_GUILESS_TEST(TestLinkCommands)
 
 #include "tst_linkcommands.moc"

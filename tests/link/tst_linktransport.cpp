@@ -190,6 +190,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestLinkTransport)
+MZ_GUILESS_TEST(TestLinkTransport)
 
 #include "tst_linktransport.moc"

@@ -193,6 +193,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestMeter)
+MZ_GUILESS_TEST(TestMeter)
 
 #include "tst_meter.moc"

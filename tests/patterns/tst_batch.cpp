@@ -158,5 +158,5 @@ private:
     QString m_messages;
 };
 
-MZ_TEST_GUILESS_MAIN(TestBatch)
+MZ_GUILESS_TEST(TestBatch)
 #include "tst_batch.moc"

@@ -353,6 +353,6 @@ private:
     std::unique_ptr<ListChart> m_form;
 };
 
-MZ_TEST_MAIN(TestListChart)
+MZ_TEST(TestListChart)
 
 #include "tst_listchart.moc"

@@ -18,7 +18,7 @@
 using Points = QVector<QPointF>;
 using Scale = QVector<double>; // minimum, maximum, divisions
 using Wish = CommandLine::Wish;
-using Link = LossCorrection::Link;
+using LossLink = LossCorrection::Link;
 
 namespace {
 
@@ -190,17 +190,17 @@ private slots:
                                "cable,downside,,dB,1,2,3\n");
         QCOMPARE(LossCorrection::load(file), QString());
         QCOMPARE(LossCorrection::tableName(), text("table.csv"));
-        const auto loss = [](Link link, double megahertz) {
+        const auto loss = [](LossLink link, double megahertz) {
             const auto found = LossCorrection::at(link, megahertz).value();
             return text(found.extrapolated ? "%1, extrapolated" : "%1").arg(found.value);
         };
-        QCOMPARE(loss(Link::Up, 850.0), text("1.75"));
-        QCOMPARE(loss(Link::Down, 700.0), text("1"));
-        QCOMPARE(loss(Link::Down, 900.0), text("3"));
-        QCOMPARE(loss(Link::Up, 1000.0), text("2.5, extrapolated"));
-        QCOMPARE(loss(Link::Down, 600.0), text("0, extrapolated"));
+        QCOMPARE(loss(LossLink::Up, 850.0), text("1.75"));
+        QCOMPARE(loss(LossLink::Down, 700.0), text("1"));
+        QCOMPARE(loss(LossLink::Down, 900.0), text("3"));
+        QCOMPARE(loss(LossLink::Up, 1000.0), text("2.5, extrapolated"));
+        QCOMPARE(loss(LossLink::Down, 600.0), text("0, extrapolated"));
         const Points points{{-10, -3}, {0, 0}};
-        const auto one = LossCorrection::at(Link::Down, 700.0).value();
+        const auto one = LossCorrection::at(LossLink::Down, 700.0).value();
         QCOMPARE(LossCorrection::corrected(points, one), (Points{{-10, -2}, {0, 1}}));
     }
 
@@ -218,8 +218,8 @@ private slots:
         QVERIFY(!LossCorrection::load(m_folder.filePath(text("missing"))).isEmpty());
         QCOMPARE(FormulaCalc::Instance()->upsideMap(), (QMap<double, double>{{700.0, 1.5}}));
         // One frequency alone answers for itself only.
-        QCOMPARE(LossCorrection::at(Link::Up, 700.0)->value, 1.5);
-        QVERIFY(!LossCorrection::at(Link::Up, 800.0));
+        QCOMPARE(LossCorrection::at(LossLink::Up, 700.0)->value, 1.5);
+        QVERIFY(!LossCorrection::at(LossLink::Up, 800.0));
     }
 
     void reportTellsEverything()
@@ -322,6 +322,6 @@ private:
     QTemporaryDir m_folder;
 };
 
-MZ_TEST_GUILESS_MAIN(TestPatternUnits)
+MZ_GUILESS_TEST(TestPatternUnits)
 
 #include "tst_patternunits.moc"

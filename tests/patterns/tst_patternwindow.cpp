@@ -32,7 +32,7 @@ using namespace ChartProbe;
 
 namespace {
 
-QString sample(const char *name)
+QString samplePath(const char *name)
 {
     return QDir(QStringLiteral(MZ_SAMPLES)).filePath(text(name));
 }
@@ -70,8 +70,8 @@ private slots:
     void samplesFillChartsAndTables()
     {
         const ModalScript noMessage({});
-        m_window->opening().openFiles(
-            {sample("dipole.csv"), sample("patch.csv"), sample("horn.csv"), sample("array.csv")});
+        m_window->opening().openFiles({samplePath("dipole.csv"), samplePath("patch.csv"),
+                                       samplePath("horn.csv"), samplePath("array.csv")});
         QVERIFY(noMessage.isDone());
         QCOMPARE(curves().ids().size(), 4);
         QCOMPARE(m_window->form().cartesianChart().paths().size(), 4);
@@ -82,12 +82,12 @@ private slots:
         QCOMPARE(parameters.item(3, 1)->text(), text("12.0410"));
         QVERIFY(qAbs(parameters.item(0, 2)->text().toDouble() - 78.0) < 0.3);
         QCOMPARE(m_workbench->recentFiles().size(), 4);
-        QCOMPARE(m_workbench->recentFiles().first(), sample("array.csv"));
+        QCOMPARE(m_workbench->recentFiles().first(), samplePath("array.csv"));
     }
 
     void badFilesAreToldTogether()
     {
-        m_window->opening().openFiles({sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv")});
         const QVector<QPointF> before = curves().points(1);
         const QStringList files{write("empty.csv", ""), m_folder->path(),
                                 write("inf.csv", "T\nN\nAngle,Power\n0,inf\n"),
@@ -101,10 +101,10 @@ private slots:
 
     void curveComesBackFromItsFile()
     {
-        m_window->opening().openFiles({sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv")});
         curves().select(1);
         QVERIFY(m_window->saving().saveCurve(file("again.csv")));
-        QCOMPARE(contentOf(file("again.csv")), contentOf(sample("horn.csv")));
+        QCOMPARE(contentOf(file("again.csv")), contentOf(samplePath("horn.csv")));
         const QString place = file("no such folder/x.png");
         const QString message = told([&] { QVERIFY(!m_window->saving().saveCurve(place)); });
         QVERIFY2(message.contains(QDir::toNativeSeparators(place)), qPrintable(message));
@@ -114,7 +114,7 @@ private slots:
 
     void picturesShowBothCharts()
     {
-        m_window->opening().openFiles({sample("horn.csv"), sample("patch.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv"), samplePath("patch.csv")});
         for (const auto &[name, start] :
              {std::pair("x.png", "\x89PNG"), std::pair("x.JPG", "\xff\xd8\xff")}) {
             QVERIFY(m_window->saving().savePicture(file(name)));
@@ -136,7 +136,7 @@ private slots:
 
     void reportsHoldThePicture()
     {
-        m_window->opening().openFiles({sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv")});
         for (const auto &[name, start] :
              {std::pair("x.html", "<!DOCTYPE html>"), std::pair("x.pdf", "%PDF-")}) {
             QVERIFY(m_window->saving().saveReport(file(name)));
@@ -147,9 +147,9 @@ private slots:
 
     void lossIsAddedToACopy()
     {
-        m_window->opening().openFiles({sample("patch.csv"), sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("patch.csv"), samplePath("horn.csv")});
         const QVector<QPointF> original = curves().points(1);
-        QVERIFY(m_window->losses().loadTable(sample("loss-table.csv")));
+        QVERIFY(m_window->losses().loadTable(samplePath("loss-table.csv")));
         curves().select(1);
         action("actionApplyUplink").trigger();
         curves().select(2);
@@ -172,9 +172,9 @@ private slots:
 
     void lossNeedsAFrequency()
     {
-        QVERIFY(m_window->losses().loadTable(sample("loss-table.csv")));
+        QVERIFY(m_window->losses().loadTable(samplePath("loss-table.csv")));
         const QString bad =
-            told([&] { QVERIFY(!m_window->losses().loadTable(sample("horn.csv"))); });
+            told([&] { QVERIFY(!m_window->losses().loadTable(samplePath("horn.csv"))); });
         QVERIFY2(bad.contains(text("horn.csv")), qPrintable(bad));
         m_window->form().addCurve(text("unknown"), {{0, 1}, {1, 2}});
         curves().select(1);
@@ -188,11 +188,12 @@ private slots:
         const PatternWindow *other = m_workbench->openWindow();
         auto *menu = other->findChild<QMenu *>(text("menuRecent"));
         QVERIFY(!menu->isEnabled());
-        m_window->opening().openFiles({sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv")});
         QVERIFY(menu->isEnabled());
         menu->actions().first()->trigger();
         QCOMPARE(other->form().curves().ids().size(), 1);
-        QCOMPARE(Workbench(file("settings.json")).recentFiles(), QStringList(sample("horn.csv")));
+        QCOMPARE(Workbench(file("settings.json")).recentFiles(),
+                 QStringList(samplePath("horn.csv")));
     }
 
     void actionsFollowTheSelection()
@@ -202,7 +203,7 @@ private slots:
             QCOMPARE(action("actionSaveCurve").isEnabled(), curve);
         };
         verifyEnabled(false, false);
-        m_window->opening().openFiles({sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv")});
         verifyEnabled(true, false);
         curves().select(1);
         verifyEnabled(true, true);
@@ -213,7 +214,7 @@ private slots:
 
     void viewActionsReachBothCharts()
     {
-        m_window->opening().openFiles({sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("horn.csv")});
         for (const GraphicsBase *view :
              {&m_window->form().polarChart(), &m_window->form().cartesianChart()}) {
             const MyPathItem *item = view->paths().value(1)->pathItem();
@@ -237,7 +238,7 @@ private slots:
             test.m_window->form().cartesianChart().paths().value(1)->setColor(Qt::magenta);
         });
         QTest::newRow("correct") << Act([](auto &test) {
-            test.m_window->losses().loadTable(sample("loss-table.csv"));
+            test.m_window->losses().loadTable(samplePath("loss-table.csv"));
             test.action("actionApplyUplink").trigger();
         });
         QTest::newRow("paste") << Act([](auto &test) {
@@ -249,7 +250,7 @@ private slots:
     void stepsAreUndone()
     {
         QFETCH(const std::function<void(TestPatternWindow &)>, act);
-        m_window->opening().openFiles({sample("patch.csv"), sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("patch.csv"), samplePath("horn.csv")});
         QVERIFY(!action("actionUndo").isEnabled());
         curves().select(1);
         const auto all = [this] {
@@ -266,7 +267,7 @@ private slots:
         const QStringList after = all();
         QVERIFY(after != before);
         // A curve that came in between takes the number that was given back.
-        m_window->opening().openFiles({sample("array.csv")});
+        m_window->opening().openFiles({samplePath("array.csv")});
         action("actionUndo").trigger();
         const QStringList undone = all();
         for (const QString &state : before)
@@ -279,7 +280,7 @@ private slots:
 
     void gainIsComparedWithAReference()
     {
-        m_window->opening().openFiles({sample("patch.csv"), sample("horn.csv")});
+        m_window->opening().openFiles({samplePath("patch.csv"), samplePath("horn.csv")});
         const QVector<QPointF> measured = curves().points(2);
         curves().select(2);
         const ModalScript script({[](QWidget *dialog) {
@@ -307,8 +308,9 @@ private slots:
     void measuresInTheChamber()
     {
         SimulatorProcess chamber;
-        QVERIFY(chamber.start({text("--pattern"), sample("horn.csv"), text("--rotator"), text("0"),
-                               text("--rotator-speed"), text("60"), text("--noise"), text("0")}));
+        QVERIFY(
+            chamber.start({text("--pattern"), samplePath("horn.csv"), text("--rotator"), text("0"),
+                           text("--rotator-speed"), text("60"), text("--noise"), text("0")}));
         m_workbench->rememberFolder(file("any.csv"));
         const QString address = text("127.0.0.1:%1");
         QVector<QDoubleSpinBox *> angles; // from, to, step, zero
@@ -355,7 +357,7 @@ private slots:
 
     void unsavedCurvesAreAskedFor()
     {
-        m_window->opening().openFiles({sample("patch.csv")});
+        m_window->opening().openFiles({samplePath("patch.csv")});
         QVERIFY(m_window->saving().mayClose());
         curves().rename(1, text("Mine"));
         QVERIFY(told([&] { QVERIFY(!m_window->saving().mayClose()); }).contains(text("Mine")));
@@ -374,7 +376,7 @@ private slots:
     void closedWindowIsGone()
     {
         const QPointer<PatternWindow> other = m_workbench->openWindow();
-        other->opening().openFiles({sample("horn.csv")});
+        other->opening().openFiles({samplePath("horn.csv")});
         other->close();
         QTRY_VERIFY(other.isNull());
         m_workbench->setLanguage(text("cn"));
@@ -390,7 +392,7 @@ private slots:
         environment.insert(text("XDG_CONFIG_HOME"), m_folder->path());
         QProcess program;
         program.setProcessEnvironment(environment);
-        program.start(QStringLiteral(MZ_BIN_DIR "/mz6218-patterns"), {sample("horn.csv")});
+        program.start(QStringLiteral(MZ_BIN_DIR "/mz6218-patterns"), {samplePath("horn.csv")});
         const WorkbenchSettings settings(file("mz6218/mz6218-patterns.json"));
         QTRY_VERIFY_WITH_TIMEOUT(!settings.recentFiles().isEmpty(), 30000);
         QVERIFY(settings.windowGeometry().isEmpty());
@@ -427,6 +429,6 @@ private:
     PatternWindow *m_window = nullptr;
 };
 
-MZ_TEST_MAIN(TestPatternWindow)
+MZ_TEST(TestPatternWindow)
 
 #include "tst_patternwindow.moc"

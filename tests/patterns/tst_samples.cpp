@@ -114,5 +114,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestSamples)
+MZ_GUILESS_TEST(TestSamples)
 #include "tst_samples.moc"

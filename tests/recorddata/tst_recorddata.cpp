@@ -241,5 +241,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-MZ_TEST_GUILESS_MAIN(TestRecordData)
+MZ_GUILESS_TEST(TestRecordData)
 #include "tst_recorddata.moc"

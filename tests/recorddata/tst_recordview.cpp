@@ -143,5 +143,5 @@ private:
     std::unique_ptr<RecordView> m_view;
 };
 
-MZ_TEST_MAIN(TestRecordView)
+MZ_TEST(TestRecordView)
 #include "tst_recordview.moc"

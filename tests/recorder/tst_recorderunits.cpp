@@ -242,6 +242,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestRecorderUnits)
+MZ_GUILESS_TEST(TestRecorderUnits)
 
 #include "tst_recorderunits.moc"

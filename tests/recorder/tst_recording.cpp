@@ -164,6 +164,6 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestRecording)
+MZ_GUILESS_TEST(TestRecording)
 
 #include "tst_recording.moc"

@@ -125,6 +125,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestResources)
+MZ_TEST(TestResources)
 
 #include "tst_resources.moc"

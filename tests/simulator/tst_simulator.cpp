@@ -339,5 +339,5 @@ Debug: read data: "RETU"()");
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestSimulator)
+MZ_GUILESS_TEST(TestSimulator)
 #include "tst_simulator.moc"

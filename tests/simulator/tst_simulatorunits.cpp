@@ -410,5 +410,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestSimulatorUnits)
+MZ_GUILESS_TEST(TestSimulatorUnits)
 #include "tst_simulatorunits.moc"

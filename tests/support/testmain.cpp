@@ -1,6 +1,7 @@
 #include "testmain.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -55,9 +56,45 @@ QStringList complaintsIn(const QString &path)
     return complaints;
 }
 
+struct Known
+{
+    TestMain::Registration::Maker make;
+    bool needsWidgets;
+};
+
+/// By their programs' names. Made at its first use, since other sources' globals fill it.
+QMap<QString, Known> &knownTests()
+{
+    static QMap<QString, Known> known;
+    return known;
+}
+
+/// The number of failures of \a test, plus one for forbidden warnings.
+int runWatched(QObject &test, QStringList arguments)
+{
+    // QtTest replaces any message handler while it runs, so its own log is what there is to look
+    // at.
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("log.txt"));
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0") << QStringLiteral("-o")
+              << QStringLiteral("-,txt") << QStringLiteral("-o") << log + QStringLiteral(",txt");
+
+    const int failures = QTest::qExec(&test, arguments);
+    const QStringList complaints = complaintsIn(log);
+    for (const QString &complaint : complaints)
+        QTextStream(stderr) << "FORBIDDEN: " << complaint << '\n';
+    return complaints.isEmpty() ? failures : failures + 1;
+}
+
 } // namespace
 
 namespace TestMain {
+
+Registration::Registration(const QMetaObject &test, bool needsWidgets, Maker make)
+{
+    const QString name = QString::fromLatin1(test.className()).mid(int(qstrlen("Test"))).toLower();
+    knownTests().insert(QStringLiteral("tst_") + name, {make, needsWidgets});
+}
 
 void pinEnvironment()
 {
@@ -73,23 +110,24 @@ void pinEnvironment()
     QLocale::setDefault(QLocale::c());
 }
 
-int run(QObject &test, int argc, char **argv)
+int run(int argc, char **argv)
 {
-    // QtTest replaces any message handler while it runs, so its own log is what there is to look
-    // at.
-    const QTemporaryDir folder;
-    const QString log = folder.filePath(QStringLiteral("log.txt"));
+    const QString name = QFileInfo(QString::fromLocal8Bit(argv[0])).completeBaseName();
+    if (!knownTests().contains(name)) {
+        QTextStream(stderr) << "There is no test \"" << name << "\" here, but "
+                            << knownTests().keys().join(QStringLiteral(", ")) << '\n';
+        return EXIT_FAILURE;
+    }
+    const Known known = knownTests().value(name);
+    pinEnvironment();
+    const std::unique_ptr<QCoreApplication> application(
+        known.needsWidgets ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0") << QStringLiteral("-o")
-              << QStringLiteral("-,txt") << QStringLiteral("-o") << log + QStringLiteral(",txt");
-
-    const int failures = QTest::qExec(&test, arguments);
-    const QStringList complaints = complaintsIn(log);
-    for (const QString &complaint : complaints)
-        QTextStream(stderr) << "FORBIDDEN: " << complaint << '\n';
-    return complaints.isEmpty() ? failures : failures + 1;
+    // Gone before the application is, as its widgets must be.
+    const std::unique_ptr<QObject> test = known.make();
+    return runWatched(*test, arguments);
 }
 
 } // namespace TestMain

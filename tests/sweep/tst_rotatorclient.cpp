@@ -238,5 +238,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestRotatorClient)
+MZ_GUILESS_TEST(TestRotatorClient)
 #include "tst_rotatorclient.moc"

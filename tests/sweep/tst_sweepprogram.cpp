@@ -144,5 +144,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-MZ_TEST_GUILESS_MAIN(TestSweepProgram)
+MZ_GUILESS_TEST(TestSweepProgram)
 #include "tst_sweepprogram.moc"

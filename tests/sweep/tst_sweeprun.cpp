@@ -9,10 +9,10 @@ namespace {
 using SweepBench::Bench;
 using SweepBench::levelAt;
 
-using Script = std::function<void(Bench &)>;
+using Deed = std::function<void(Bench &)>;
 
 /// Takes the link of \a up away for 3 s whenever the run first comes to \a state.
-Script dropsIn(State state, bool Bench::*up)
+Deed dropsIn(State state, bool Bench::*up)
 {
     return [=](Bench &bench) {
         auto downAt = std::make_shared<qint64>(0);
@@ -27,7 +27,7 @@ Script dropsIn(State state, bool Bench::*up)
     };
 }
 
-/// What a code script returns at the calls \a from to \a to, counted from 1.
+/// What a script of codes returns at the calls \a from to \a to, counted from 1.
 std::function<int()> codeAt(int code, int from, int to)
 {
     auto calls = std::make_shared<int>(0);
@@ -36,7 +36,7 @@ std::function<int()> codeAt(int code, int from, int to)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Script)
+Q_DECLARE_METATYPE(Deed)
 Q_DECLARE_METATYPE(SweepRun::State)
 Q_DECLARE_METATYPE(SweepRun::Cause)
 Q_DECLARE_METATYPE(RunFlags)
@@ -48,16 +48,15 @@ class TestSweepRun : public QObject
 private slots:
     void survives_data()
     {
-        QTest::addColumn<Script>("script");
+        QTest::addColumn<Deed>("deed");
         QTest::addColumn<State>("state");
         QTest::addColumn<Cause>("cause");
         QTest::addColumn<int>("onCurve"); // of 5 points
-        const auto completes = [](const char *name, Script script, int onCurve = 5) {
-            QTest::newRow(name) << script << State::Finished << Cause::None << onCurve;
+        const auto completes = [](const char *name, Deed deed, int onCurve = 5) {
+            QTest::newRow(name) << deed << State::Finished << Cause::None << onCurve;
         };
-        const auto ends = [](const char *name, State state, Cause cause, int onCurve,
-                             Script script) {
-            QTest::newRow(name) << script << state << cause << onCurve;
+        const auto ends = [](const char *name, State state, Cause cause, int onCurve, Deed deed) {
+            QTest::newRow(name) << deed << state << cause << onCurve;
         };
         completes("nothing", [](Bench &) {});
         completes("whole degrees", [](Bench &bench) {
@@ -130,10 +129,10 @@ private slots:
 
     void survives()
     {
-        QFETCH(Script, script);
+        QFETCH(Deed, deed);
         QFETCH(State, state);
         Bench bench;
-        script(bench);
+        deed(bench);
         bench.work();
         QTEST(bench.sweep().state(), "state");
         QTEST(bench.sweep().cause(), "cause");
@@ -251,5 +250,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestSweepRun)
+MZ_GUILESS_TEST(TestSweepRun)
 #include "tst_sweeprun.moc"

@@ -270,5 +270,5 @@ private slots:
     }
 };
 
-MZ_TEST_GUILESS_MAIN(TestSweepUnits)
+MZ_GUILESS_TEST(TestSweepUnits)
 #include "tst_sweepunits.moc"

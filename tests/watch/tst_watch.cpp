@@ -206,5 +206,5 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestWatch)
+MZ_TEST(TestWatch)
 #include "tst_watch.moc"

@@ -152,6 +152,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestAppFrame)
+MZ_TEST(TestAppFrame)
 
 #include "tst_appframe.moc"

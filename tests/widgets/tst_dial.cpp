@@ -221,6 +221,6 @@ private:
     std::unique_ptr<Dial> m_dial;
 };
 
-MZ_TEST_MAIN(TestDial)
+MZ_TEST(TestDial)
 
 #include "tst_dial.moc"

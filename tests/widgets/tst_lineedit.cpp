@@ -195,5 +195,5 @@ private:
     QDoubleSpinBox *m_editor = nullptr;
 };
 
-MZ_TEST_MAIN(TestLineEdit)
+MZ_TEST(TestLineEdit)
 #include "tst_lineedit.moc"

@@ -180,6 +180,6 @@ private slots:
     }
 };
 
-MZ_TEST_MAIN(TestMessageDialogs)
+MZ_TEST(TestMessageDialogs)
 
 #include "tst_messagedialogs.moc"

@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr int labelStep = 30;   // degrees
-constexpr double gap = 4.0;     // pixels between circle and label
-constexpr double margin = 60.0; // pixels round the circle that labels may take
+constexpr int labelStep = 30;    // degrees
+constexpr double labelGap = 4.0; // pixels between circle and label
+constexpr double margin = 60.0;  // pixels round the circle that labels may take
 
 } // namespace
 
@@ -48,7 +48,7 @@ void DirectionLabels::paint(QPainter *painter, const QStyleOptionGraphicsItem *,
         const double height = metrics.ascent();
         const double radians = qDegreesToRadians(double(direction));
         const QPointF outwards(std::sin(radians), -std::cos(radians));
-        const QPointF centre = m_plotArea.center() + outwards * (radius + gap) +
+        const QPointF centre = m_plotArea.center() + outwards * (radius + labelGap) +
                                QPointF(outwards.x() * width, outwards.y() * height) / 2.0;
         const QRectF place(centre - QPointF(width, height) / 2.0, QSizeF(width, height));
         painter->drawText(place, Qt::AlignCenter | Qt::TextDontClip, text);
