@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVector>
 
-/// What the operator does, or what somebody does to the instrument meanwhile.
+/// What the user does, or what somebody does to the instrument meanwhile.
 enum class Deed {
     Open,
     OpenNowhere, ///< opens a port or an address behind which there is nothing

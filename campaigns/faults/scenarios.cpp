@@ -91,7 +91,7 @@ Place badLine()
             QVector<Deed>{Deed::Open} + QVector<Deed>(polls, Deed::Poll)};
 }
 
-/// The fault is in the air when the operator closes, and opens again before the close is done.
+/// The fault is in the air when the user closes, and opens again before the close is done.
 Place closingPlace()
 {
     return {"closing",

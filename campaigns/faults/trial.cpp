@@ -17,7 +17,7 @@ Trial::Trial(const Scenario &scenario)
     : m_scenario(scenario)
     , m_instrument(scenario.mode, scenario.faults)
     , m_witness(m_console, m_instrument)
-    , m_operator(m_console, m_instrument, m_witness)
+    , m_user(m_console, m_instrument, m_witness)
 {}
 
 Result Trial::run()
@@ -32,7 +32,7 @@ Result Trial::run()
         m_result.add("reach", {QStringLiteral("the simulator did not start")});
     }
     m_console.end();
-    m_result.add("hang", m_operator.hangs());
+    m_result.add("hang", m_user.hangs());
     m_result.add("boxes", m_witness.faultsOfBoxes());
     m_result.add("rows", m_witness.faultsOfRows());
     m_result.faults = m_instrument.befallen();
@@ -46,14 +46,14 @@ Result Trial::run()
 void Trial::sufferFaults()
 {
     for (const Deed deed : qAsConst(m_scenario.deeds)) {
-        m_operator.perform(deed);
+        m_user.perform(deed);
         m_result.links += deed == Deed::Open || deed == Deed::OpenNowhere ? 1 : 0;
     }
 }
 
 QStringList Trial::faultsOfState() const
 {
-    QStringList faults = m_console.faultsOfState(m_operator.seesOpenLink());
+    QStringList faults = m_console.faultsOfState(m_user.seesOpenLink());
     // Relative readings have no other unit.
     if (m_console.find<QRadioButton>("radioButtonRelativeON")->isChecked())
         faults.removeAll(QStringLiteral("groupBoxUnit"));
@@ -65,8 +65,8 @@ void Trial::checkRest()
     // A link that is shown as open must be one: the instrument goes on being asked.
     const int polls = m_instrument.polls();
     const auto isAsked = [&] { return m_instrument.polls() > polls; };
-    waitFor([&] { return !m_operator.seesOpenLink() || isAsked(); }, patience);
-    if (m_operator.seesOpenLink() && !isAsked())
+    waitFor([&] { return !m_user.seesOpenLink() || isAsked(); }, patience);
+    if (m_user.seesOpenLink() && !isAsked())
         m_result.add("state", {QStringLiteral("shown as open, but nobody asks the instrument")});
     waitFor([this] { return faultsOfState().isEmpty(); }, patience);
     m_result.add("state", faultsOfState());
@@ -74,7 +74,7 @@ void Trial::checkRest()
 
 void Trial::checkOutcome()
 {
-    const bool open = m_operator.seesOpenLink();
+    const bool open = m_user.seesOpenLink();
     if ((m_scenario.outcome == Ending::Open && !open) ||
         (m_scenario.outcome == Ending::Closed && open))
         m_result.add("state", {QStringLiteral("ended ") + m_console.text("labelLink")});
@@ -88,7 +88,7 @@ void Trial::checkOutcome()
 void Trial::checkClosing()
 {
     const int boxes = m_witness.boxes().size();
-    m_operator.perform(Deed::Close);
+    m_user.perform(Deed::Close);
     const int rows = m_witness.rows();
     const int polls = m_witness.polls();
     QTest::qWait(silence);
@@ -112,7 +112,7 @@ void Trial::open()
     }
     m_console.window().findChild<SerialLogic *>()->setWaits(LinkWaits());
     m_witness.expectNoFaults();
-    m_operator.perform(Deed::Open);
+    m_user.perform(Deed::Open);
     ++m_result.links;
 }
 
@@ -121,7 +121,7 @@ void Trial::checkNewLink()
     const int boxes = m_witness.boxes().size();
     open();
     waitFor([this] { return m_witness.trueRows() > 0; }, patience);
-    if (!m_operator.seesOpenLink())
+    if (!m_user.seesOpenLink())
         m_result.add("reopen", {QStringLiteral("not open: ") + m_console.text("labelLink")});
     if (m_witness.trueRows() == 0)
         m_result.add("reopen", {QStringLiteral("no true reading was recorded")});

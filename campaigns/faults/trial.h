@@ -2,9 +2,9 @@
 
 #include "consoletester.h"
 #include "instrument.h"
-#include "operator.h"
 #include "result.h"
 #include "scenario.h"
+#include "user.h"
 #include "witness.h"
 
 /// One scenario at one console: the deeds under faults, a close, a new link to a sound instrument,
@@ -30,6 +30,6 @@ private:
     Instrument m_instrument;
     ConsoleTester m_console;
     Witness m_witness;
-    Operator m_operator;
+    User m_user;
     Result m_result;
 };

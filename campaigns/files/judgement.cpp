@@ -180,7 +180,7 @@ QStringList Judgement::faultsOfAdded(const WrittenFile &file, const Performance 
 QStringList Judgement::faultsOfTelling(const Performance &performance, const Failure &failure,
                                        const Loss &loss) const
 {
-    // Where the log gets no folder its messages are dropped: intended.
+    // Where the log gets no folder its messages are dropped: there is no place left to tell it.
     const bool hasLog = std::any_of(m_writer.files.begin(), m_writer.files.end(),
                                     [](const WrittenFile &file) { return file.isFree; });
     const bool isMute = hasLog && performance.failed.contains(Call::MakeFolder);
@@ -191,7 +191,7 @@ QStringList Judgement::faultsOfTelling(const Performance &performance, const Fai
     const bool isDoubtful = !failure.isHarmless() && mayNotBeOnDisk(performance);
     QStringList faults;
     if ((loss.isContent || isDoubtful) && !isTold && !isMute && !m_writer.complaint.isEmpty())
-        faults.append(QStringLiteral("the operator was not told"));
+        faults.append(QStringLiteral("the user was not told"));
     for (const QByteArray &message : loss.messages) {
         if (!isMute && !performance.said.contains(message))
             faults.append(quoted(QStringLiteral("nowhere to be read:"), message));

@@ -12,9 +12,10 @@
 
 /// Lets each system call fail with which our programs write their files, one after another; to be
 /// run by scripts/campaign.sh.
-///   mz_filecampaign list               the writers
-///   mz_filecampaign run NAME [slice]   all failures of one; in a slice a full disk alone with a
-///   window
+///   mz_filecampaign list                  the writers
+///   mz_filecampaign run NAME              all failures of one
+///   mz_filecampaign run "NAME in short"   a full disk, and where no window makes it slow all that
+///   happens once
 
 namespace {
 
@@ -34,15 +35,14 @@ void print(const QByteArray &what, const QStringList &faults)
         out << "WRONG: " << what << ": " << fault << '\n';
 }
 
-/// What is tried with \a writer; in a slice only a full disk stays as it is, and all that have a
-/// window meet a full disk alone, since a process with a window takes twenty times as long as one
-/// without.
-QVector<Failure> failuresFor(const Writer &writer, bool isSlice)
+/// What is tried with \a writer; in short only a full disk lasts, and all that have a window meet a
+/// full disk alone, since a process with a window takes twenty times as long as one without.
+QVector<Failure> failuresFor(const Writer &writer, bool isShort)
 {
     QVector<Failure> failures = allFailures();
-    if (isSlice && writer.isSlow)
+    if (isShort && writer.isSlow)
         failures.resize(1);
-    else if (isSlice)
+    else if (isShort)
         failures.erase(std::remove_if(failures.begin(), failures.end(),
                                       [](const Failure &failure) {
                                           return failure.lasting && failure.error != ENOSPC;
@@ -86,6 +86,31 @@ Figures tryEverything(const Stage &stage, const Writer &writer, const QVector<Fa
     return figures;
 }
 
+int list()
+{
+    QTextStream out(stdout);
+    for (const Writer &writer : allWriters())
+        out << writer.name << '\n';
+    return EXIT_SUCCESS;
+}
+
+int run(const Stage &stage, QByteArray job)
+{
+    const bool isShort = job.endsWith(" in short");
+    if (isShort)
+        job.chop(int(qstrlen(" in short")));
+    const QVector<Writer> writers = allWriters();
+    const auto writer = std::find_if(writers.begin(), writers.end(),
+                                     [&job](const Writer &one) { return one.name == job; });
+    if (writer == writers.end())
+        return 2;
+    const Figures figures = tryEverything(stage, *writer, failuresFor(*writer, isShort));
+    QTextStream(stdout) << "figure\t" << job << "\tsystem calls\t" << figures.calls << '\n'
+                        << "figure\t" << job << "\tfailures tried\t" << figures.runs << '\n'
+                        << "figure\t" << job << "\twrong outcomes\t" << figures.wrong << '\n';
+    return figures.wrong == 0 && figures.runs > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -107,23 +132,6 @@ int main(int argc, char **argv)
     const QApplication app(argc, argv);
     const QStringList words = QCoreApplication::arguments().mid(1);
 
-    const Stage stage(scene);
-    QTextStream out(stdout);
-    int runs = 0;
-    int wrong = 0;
-    for (const Writer &writer : allWriters()) {
-        if (words.value(0) == QLatin1String("list"))
-            out << writer.name << '\n';
-        if (words.value(0) != QLatin1String("run") || writer.name != words.value(1).toUtf8())
-            continue;
-        const bool isSlice = words.value(2) == QLatin1String("slice");
-        const Figures figures = tryEverything(stage, writer, failuresFor(writer, isSlice));
-        out << "figure\t" << writer.name << "\tsystem calls\t" << figures.calls << '\n'
-            << "figure\t" << writer.name << "\tfailures tried\t" << figures.runs << '\n'
-            << "figure\t" << writer.name << "\twrong outcomes\t" << figures.wrong << '\n';
-        runs += figures.runs;
-        wrong += figures.wrong;
-    }
-    return wrong == 0 && (runs > 0 || words.value(0) == QLatin1String("list")) ? EXIT_SUCCESS
-                                                                               : EXIT_FAILURE;
+    return words.value(0) == QLatin1String("run") ? run(Stage(scene), words.value(1).toUtf8())
+                                                  : list();
 }

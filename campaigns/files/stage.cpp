@@ -5,7 +5,6 @@
 #include <QDirIterator>
 #include <QTemporaryFile>
 
-#include <cstdio>
 #include <cstdlib>
 
 #include <sys/wait.h>

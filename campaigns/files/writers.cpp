@@ -6,12 +6,12 @@
 #include "console/startoptions.h"
 #include "mainwindow.h"
 #include "messagelog.h"
-#include "operator.h"
 #include "patterns/patternwindow.h"
 #include "patterns/saveactions.h"
 #include "patterns/workbench.h"
 #include "storage/consolesettings.h"
 #include "storage/recordfile.h"
+#include "user.h"
 
 #include <QChart>
 #include <QDateTime>
@@ -76,7 +76,7 @@ void useConsole(MainWindow &window, int round)
     window.findChild<QSpinBox *>(QStringLiteral("spinBoxInterval"))->setValue(1 + round);
     QMetaObject::invokeMethod(&window, "on_btnReset_clicked"); // the button is for an open link
     qWarning("message %d", round);
-    Operator::closeBoxes();
+    User::closeBoxes();
 }
 
 /// The whole console from its start to its end, with one record in between.
@@ -106,7 +106,7 @@ Writer::Act exportBy(const char *slot, const char *file)
         view.resize(300, 200);
         view.chart()->setTitle(QStringLiteral("Title"));
         view.addCurve(QStringLiteral("F%1").arg(round), curve(round))->setSelected(true);
-        const Operator theOperator(QDir::current().filePath(QString::fromLatin1(file)), begin);
+        const User theUser(QDir::current().filePath(QString::fromLatin1(file)), begin);
         QMetaObject::invokeMethod(&view, slot);
     };
 }
@@ -121,7 +121,7 @@ Writer::Act saveBy(bool (SaveActions::*save)(const QString &), const char *file)
         window.show();
         CurveSet &curves = window.form().curves();
         curves.select(window.form().addCurve(QStringLiteral("F%1").arg(round), curve(round)));
-        const Operator theOperator;
+        const User theUser;
         begin();
         (window.saving().*save)(QDir::current().filePath(QString::fromLatin1(file)));
     };
@@ -203,7 +203,7 @@ QVector<Writer> consoleWriters()
 QVector<Writer> exports()
 {
     const QString noExport = QStringLiteral("box: (Open|Write) file failed");
-    // The box reports success in any case, as is intended.
+    // The box reports success in any case; the log tells the truth.
     const QString noPicture = QStringLiteral("the image was not saved");
     const QString noSave = QStringLiteral("box: The file could not be written");
     const auto data = exportBy("exportGraphicsDataSlot", "curve.csv");

@@ -31,7 +31,7 @@ struct Writer
     QVector<WrittenFile> files;
     bool startsEmpty = false; ///< the files do not exist when it goes wrong
     bool isSlow = false;      ///< has a window
-    /// What the operator reads when something was not written, as a regular expression; empty where
+    /// What the user reads when something was not written, as a regular expression; empty where
     /// there is nobody to tell.
     QString complaint;
     Act act;

@@ -6,52 +6,53 @@
 
 #include <ctime>
 
+/// Tries the recorder; to be run by scripts/campaign.sh.
+///   mz_recordcampaign list       the names of all jobs
+///   mz_recordcampaign run NAME   one of them: "month FIRST-DAY, N days" or "fault FAULT"
+
 namespace {
 
 QStringList jobs()
 {
-    QStringList names{QStringLiteral("month 2026-10-10"), QStringLiteral("month 2027-03-15")};
+    QStringList names{QStringLiteral("month 2026-10-10, 30 days"),
+                      QStringLiteral("month 2027-03-15, 30 days")};
     for (const QString &fault : faults())
         names << QStringLiteral("fault ") + fault;
     return names;
 }
 
-Verdict carryOut(const QString &job, bool isSlice)
+Verdict carryOut(const QString &job)
 {
     const QString what = job.section(QLatin1Char(' '), 1);
     if (job.startsWith(QLatin1String("fault")))
         return runWithFault(what);
-    // The slice lies around the change of the clocks.
-    return isSlice ? runMonth(what.startsWith(QLatin1String("2026")) ? QStringLiteral("2026-10-24")
-                                                                     : QStringLiteral("2027-03-27"),
-                              2, 1)
-                   : runMonth(what, 30, 1);
+    const int days = what.section(QLatin1Char(' '), 1, 1).toInt();
+    return runMonth(what.section(QLatin1Char(','), 0, 0), days, 1);
 }
 
-} // namespace
-
-/// usage: list [slice] | run JOB [slice]
-int main(int argc, char **argv)
+int run(const QString &job, QTextStream &out)
 {
-    qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
-    ::tzset();
-    QCoreApplication app(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    const bool isSlice = arguments.last() == QLatin1String("slice");
-    QTextStream out(stdout);
-    if (arguments.value(1) == QLatin1String("list")) {
-        // Each kind of fault once in a slice would take too long for a test.
-        const QStringList names = isSlice ? jobs().mid(0, 2) : jobs();
-        out << names.join(QLatin1Char('\n')) << '\n';
-        return 0;
-    }
-    const QString job = arguments.value(2);
-    const Verdict verdict = carryOut(job, isSlice);
+    const Verdict verdict = carryOut(job);
     const QString group = job.section(QLatin1Char(':'), 0, 0).section(QLatin1Char(','), 0, 0);
     out << "figure\t" << group << "\truns\t1\n";
     out << "figure\t" << group << "\trows\t" << verdict.rows << '\n';
     out << "figure\t" << group << "\tvalid\t" << verdict.valid << '\n';
     for (const QString &wrong : verdict.wrong)
         out << "WRONG: " << wrong << '\n';
-    return verdict.wrong.isEmpty() ? 0 : 1;
+    return verdict.wrong.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    ::tzset();
+    const QCoreApplication app(argc, argv);
+    const QString job = QCoreApplication::arguments().value(2);
+    QTextStream out(stdout);
+    if (!job.isEmpty())
+        return run(job, out);
+    out << jobs().join(QLatin1Char('\n')) << '\n';
+    return EXIT_SUCCESS;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QString>
 #include <QStringList>
 
 /// A whole turn in steps of 1°, measured by the real program in the simulated chamber.

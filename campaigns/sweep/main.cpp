@@ -4,10 +4,15 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
-#include <string>
+
+/// Measures patterns full of faults; to be run by scripts/campaign.sh.
+///   mz_sweepcampaign run "sweep SEED"     one in a time of its own
+///   mz_sweepcampaign run "chamber SEED"   one of the real program in the simulated chamber, which
+///   takes minutes
 
 namespace {
 
@@ -93,17 +98,17 @@ private:
     qint64 m_turnsAgain = 0;
 };
 
-void complain(unsigned seed, const char *what, double angle)
+void complain(const char *what, double angle)
 {
-    std::printf("WRONG: seed %u: %s at %g degrees\n", seed, what, angle);
+    std::printf("WRONG: %s at %g degrees\n", what, angle);
 }
 
 /// Looks for points at a wrong angle, lost ones and invented ones.
-void judge(const Bench &bench, unsigned seed)
+void judge(const Bench &bench)
 {
     for (const PlanPoint &point : bench.points()) {
         if (!bench.run.row(point.wanted))
-            complain(seed, "lost", point.wanted);
+            complain("lost", point.wanted);
     }
     for (const RunRow &row : bench.run.rows) {
         const bool isPlanned =
@@ -111,13 +116,13 @@ void judge(const Bench &bench, unsigned seed)
                 return std::abs(point.wanted - row.wanted) < 1e-6;
             });
         if (!isPlanned)
-            complain(seed, "invented", row.wanted);
+            complain("invented", row.wanted);
         const bool counts = row.mean && !row.flags.testFlag(RunFlag::Angle);
         // A whole turn leads to the same place.
         const double turn = SweepBench::levelAt(360.0) - SweepBench::levelAt(0.0);
         if (counts && std::abs(std::remainder(*row.mean - SweepBench::levelAt(row.wanted), turn)) >
                           SweepBench::levelAt(0.51) - SweepBench::levelAt(0.0))
-            complain(seed, "at a wrong angle", row.wanted);
+            complain("at a wrong angle", row.wanted);
     }
 }
 
@@ -144,8 +149,8 @@ void carryOut(unsigned seed)
         }
     }
     if (!bench.isComplete())
-        std::printf("WRONG: seed %u: not complete\n", seed);
-    judge(bench, seed);
+        std::puts("WRONG: not complete");
+    judge(bench);
     const auto figure = [](const char *name, int value) {
         std::printf("figure\tsweeps\t%s\t%d\n", name, value);
     };
@@ -161,7 +166,7 @@ void carryOutInChamber(unsigned seed)
 {
     const ClosedLoop loop = measureInChamber(seed);
     for (const QString &wrong : loop.wrong)
-        std::printf("WRONG: chamber, seed %u: %s\n", seed, qPrintable(wrong));
+        std::printf("WRONG: %s\n", qPrintable(wrong));
     const auto figure = [](const char *name, int value) {
         std::printf("figure\tin the chamber\t%s\t%d\n", name, value);
     };
@@ -173,17 +178,14 @@ void carryOutInChamber(unsigned seed)
 
 } // namespace
 
-/// Arguments: how many runs, and the first one's seed; "slice" is a few. For each hundred there is
-/// one of the real program in the simulated chamber, which takes minutes.
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
-    const bool isSlice = argc > 1 && std::string(argv[1]) == "slice";
-    const int runs = isSlice ? 5 : argc > 1 ? std::atoi(argv[1]) : 200;
-    const unsigned first = argc > 2 ? unsigned(std::atoi(argv[2])) : 1;
-    for (int i = 0; i < runs; ++i)
-        carryOut(first + unsigned(i));
-    for (int i = 0; i < runs / 100; ++i)
-        carryOutInChamber(first + unsigned(i));
-    return 0;
+    const QString job = QCoreApplication::arguments().value(2);
+    const unsigned seed = job.section(QLatin1Char(' '), 1).toUInt();
+    if (job.startsWith(QLatin1String("chamber")))
+        carryOutInChamber(seed);
+    else
+        carryOut(seed);
+    return EXIT_SUCCESS;
 }

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -12,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 readingsPerDay = 10 * 86400;
+constexpr qint64 readingsPerHour = 10 * 3600;
 constexpr qint64 memoryBound = 2048; // KiB above what it is once the chart's hour is full
 constexpr double high = -17.5;       // dBm
 
@@ -83,15 +84,14 @@ void compare(const char *what, double expected, double found, double tolerance)
 
 } // namespace
 
-/// What scripts/campaign.sh asks for: "slice", or the days and the seed.
+/// Watches for so many hours of readings; to be run by scripts/campaign.sh.
+///   mz_watchrun HOURS SEED
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
     const QStringList words = QCoreApplication::arguments();
-    const bool isSlice = words.value(1) == QLatin1String("slice");
-    const qint64 readings =
-        isSlice ? readingsPerDay / 8 : readingsPerDay * std::max(1, words.value(1).toInt());
-    std::mt19937 random(isSlice ? 1 : words.value(2).toUInt());
+    const qint64 readings = readingsPerHour * words.value(1).toInt();
+    std::mt19937 random(words.value(2).toUInt());
     std::normal_distribution<double> noise(0.0, 0.05);
 
     ReadingStatistics statistics;

@@ -11,33 +11,21 @@
 
 #include <cstdio>
 
+/// Runs the console in virtual time, and leaves its files beside the program, which is to be alone
+/// in its folder; to be run by scripts/campaign.sh.
+///   mz_longrun MINUTES SEED
+
 namespace {
 
 constexpr qint64 memoryBound = 2048; // KiB above the first figure
 
-struct Wishes
-{
-    bool slice = false;
-    bool keep = false;
-    int days = 7;
-    quint32 seed = 1;
-};
-
-/// What scripts/campaign.sh asks for: "slice", or the days and the seed; then "keep".
-Wishes readWishes(const QStringList &words)
-{
-    const bool isSlice = words.value(1) == QLatin1String("slice");
-    return {isSlice, words.last() == QLatin1String("keep"), std::max(1, words.value(1).toInt()),
-            isSlice ? 1 : words.value(2).toUInt()};
-}
-
-/// The fourth night of the run is the one in which summer time ends, and an hour comes twice.
-WeekPlan makePlan(const Wishes &wishes)
+/// The fourth night of a week is the one in which summer time ends, and an hour comes twice. A run
+/// of less than a day has one midnight and one loss.
+WeekPlan makePlan(qint64 length, quint32 seed)
 {
     const QDateTime start(QDate(2026, 10, 21), QTime(23, 40), Qt::LocalTime);
-    return wishes.slice
-               ? WeekPlan::make(start, 45 * minute, 25 * minute, 27 * minute, wishes.seed)
-               : WeekPlan::make(start, wishes.days * day, 2 * hour, 12 * hour, wishes.seed);
+    return length < day ? WeekPlan::make(start, length, 25 * minute, 27 * minute, seed)
+                        : WeekPlan::make(start, length, 2 * hour, 12 * hour, seed);
 }
 
 /// Prints what was expected and what was found, and counts what differed.
@@ -144,15 +132,15 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     // A box may come up and be closed while the console's window is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
-    const Wishes wishes = readWishes(QCoreApplication::arguments());
-    const WeekPlan plan = makePlan(wishes);
+    const QStringList words = QCoreApplication::arguments();
+    const quint32 seed = words.value(2).toUInt();
+    const WeekPlan plan = makePlan(words.value(1).toInt() * minute, seed);
 
     QDir::setCurrent(QCoreApplication::applicationDirPath());
-    ConsoleTester::cleanFolder();
     prepare();
-    VirtualClock::start(plan.start.toMSecsSinceEpoch(), wishes.seed);
+    VirtualClock::start(plan.start.toMSecsSinceEpoch(), seed);
     Report report;
-    WeekRun run(plan, wishes.seed);
+    WeekRun run(plan, seed);
     QObject::connect(&run, &WeekRun::finished, &app, &QCoreApplication::quit);
     QApplication::exec();
 
@@ -160,7 +148,5 @@ int main(int argc, char **argv)
     reportFiles(plan, report);
     reportMemory(run, report);
     report.tell("real time, s", QString::number(VirtualClock::realElapsed() / 1000));
-    if (!wishes.keep)
-        ConsoleTester::cleanFolder();
     return report.failures() == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QSet>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

@@ -3,6 +3,7 @@
 #include <QRandomGenerator>
 #include <QSet>
 
+#include <algorithm>
 #include <array>
 
 namespace {

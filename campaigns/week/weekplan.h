@@ -9,8 +9,8 @@ constexpr qint64 hour = 60 * minute;
 constexpr qint64 day = 24 * hour;
 
 /// What happens in a long run, and what the console must have written when it is over. Nothing here
-/// knows the console: it is worked out from the times at which the operator acts and from what is
-/// promised to him. All times in ms since the start.
+/// knows the console: it is worked out from the times at which the user acts and from what is
+/// promised to the user. All times in ms since the start.
 struct WeekPlan
 {
     /// One link, from its opening to its loss; the last one lasts to the end of the run.
@@ -20,7 +20,7 @@ struct WeekPlan
         qint64 endsAt;
         int interval;     ///< of the records, in minutes
         int level;        ///< of the instrument's source in dBm, another for each link
-        bool isSecondTry; ///< the operator tried before, while the instrument was still off
+        bool isSecondTry; ///< the user tried before, while the instrument was still off
     };
 
     QDateTime start;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr qint64 pointsOfAnHour = 3601; // both ends count
 constexpr qint64 shownPoints = 600;     // beside the latest, in the ten minutes that are shown
-constexpr int readingOfBox = 3000;      // ms that the operator needs
+constexpr int readingOfBox = 3000;      // ms that the user needs
 
 } // namespace
 
@@ -55,11 +55,11 @@ void WeekRun::planLink(int number)
 {
     const WeekPlan::Link link = m_plan.links.at(number);
     if (link.isSecondTry)
-        m_steps.append({link.openedAt - 15 * second,
-                        [this, link] { connectAsOperator(false, link.interval); }});
+        m_steps.append(
+            {link.openedAt - 15 * second, [this, link] { connectAsUser(false, link.interval); }});
     if (number > 0)
         m_steps.append({link.openedAt - 5 * second, [this, link] { startInstrument(link); }});
-    m_steps.append({link.openedAt, [this, link] { connectAsOperator(true, link.interval); }});
+    m_steps.append({link.openedAt, [this, link] { connectAsUser(true, link.interval); }});
     // The console may notice the loss with its next poll only.
     m_steps.append({link.endsAt + second, [this, link] { endLink(link); }});
     if (number < m_plan.links.size() - 1) {
@@ -101,7 +101,7 @@ void WeekRun::takeStep()
     step.act();
 }
 
-// --- Instrument and operator
+// --- Instrument and user
 
 void WeekRun::startInstrument(const WeekPlan::Link &link)
 {
@@ -127,7 +127,7 @@ void WeekRun::stopInstrument()
         addFault(QStringLiteral("the simulator had not run as it should"));
 }
 
-void WeekRun::connectAsOperator(bool wanted, int interval)
+void WeekRun::connectAsUser(bool wanted, int interval)
 {
     m_linkTicks = 0;
     m_console.find<QSpinBox>("spinBoxInterval")->setValue(interval);

@@ -12,7 +12,7 @@
 
 #include <functional>
 
-/// The operator, the instrument and the clock of a long run: does what a plan says at the planned
+/// The user, the instrument and the clock of a long run: does what a plan says at the planned
 /// times to a real console and a real simulator, and watches what they make of it. The console's
 /// window is shown for the first ten minutes of each hour.
 class WeekRun : public QObject
@@ -59,7 +59,7 @@ private:
 
     void startInstrument(const WeekPlan::Link &link);
     void stopInstrument();
-    void connectAsOperator(bool wanted, int interval);
+    void connectAsUser(bool wanted, int interval);
     void endLink(const WeekPlan::Link &link);
     void finish();
 

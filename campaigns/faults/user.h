@@ -12,10 +12,10 @@ class Witness;
 
 /// Carries out the deeds of a scenario at the console, answers its boxes, and notes whenever a deed
 /// took longer than the console may make anybody wait.
-class Operator
+class User
 {
 public:
-    Operator(const ConsoleTester &console, Instrument &instrument, Witness &witness);
+    User(const ConsoleTester &console, Instrument &instrument, Witness &witness);
 
     /// One deed; one that the console does not offer at the moment is left out.
     void perform(Deed deed);

@@ -1,4 +1,4 @@
-#include "operator.h"
+#include "user.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -37,7 +37,7 @@ void choose(QFileDialog &dialog, const QString &file, const std::function<void()
 
 } // namespace
 
-Operator::Operator(const QString &file, const std::function<void()> &chosen)
+User::User(const QString &file, const std::function<void()> &chosen)
     : ModalScript(QVector<Step>(mostDialogs, [=](QWidget *dialog) {
         const auto *box = qobject_cast<QMessageBox *>(dialog);
         auto *yes = box ? box->button(QMessageBox::Yes) : nullptr;
@@ -50,7 +50,7 @@ Operator::Operator(const QString &file, const std::function<void()> &chosen)
     }))
 {}
 
-void Operator::closeBoxes()
+void User::closeBoxes()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {

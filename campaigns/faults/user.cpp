@@ -1,4 +1,4 @@
-#include "operator.h"
+#include "user.h"
 
 #include "Logic/seriallogic.h"
 #include "consoletester.h"
@@ -37,7 +37,7 @@ constexpr int longestDeed =
 
 } // namespace
 
-Operator::Operator(const ConsoleTester &console, Instrument &instrument, Witness &witness)
+User::User(const ConsoleTester &console, Instrument &instrument, Witness &witness)
     : m_console(console)
     , m_instrument(instrument)
     , m_witness(witness)
@@ -49,7 +49,7 @@ Operator::Operator(const ConsoleTester &console, Instrument &instrument, Witness
     m_hastening.start(5);
 }
 
-void Operator::hastenTimers()
+void User::hastenTimers()
 {
     for (const Pace &pace : paces) {
         auto *timer = m_console.find<QTimer>(pace.timer);
@@ -58,7 +58,7 @@ void Operator::hastenTimers()
     }
 }
 
-ModalScript::Step Operator::answer()
+ModalScript::Step User::answer()
 {
     return [this](QWidget *window) {
         ModalScript::leaveOpen(window);
@@ -71,12 +71,12 @@ ModalScript::Step Operator::answer()
     };
 }
 
-bool Operator::seesOpenLink() const
+bool User::seesOpenLink() const
 {
     return m_console.text("labelLink").contains(QStringLiteral("blue"));
 }
 
-void Operator::perform(Deed deed)
+void User::perform(Deed deed)
 {
     QElapsedTimer time;
     time.start();
@@ -86,7 +86,7 @@ void Operator::perform(Deed deed)
     m_witness.readRows();
 }
 
-void Operator::dispatch(Deed deed)
+void User::dispatch(Deed deed)
 {
     switch (deed) {
     case Deed::Open:
@@ -111,7 +111,7 @@ void Operator::dispatch(Deed deed)
     }
 }
 
-void Operator::open()
+void User::open()
 {
     const bool serial = m_instrument.mode() == serialLink;
     const char *action = serial ? "actionCommunication_by_Serial" : "actionCommunication_by_LAN";
@@ -122,7 +122,7 @@ void Operator::open()
     m_console.window().openPort(port, m_instrument.portValue());
 }
 
-void Operator::openNowhere()
+void User::openNowhere()
 {
     const bool serial = m_instrument.mode() == serialLink;
     if (!serial)
@@ -133,7 +133,7 @@ void Operator::openNowhere()
         serial ? QStringLiteral("/dev/no such port") : QStringLiteral("127.0.0.1"), 1);
 }
 
-void Operator::close()
+void User::close()
 {
     if (m_instrument.mode() == serialLink)
         m_console.click("btnClose");
@@ -141,13 +141,13 @@ void Operator::close()
         m_console.trigger("actionDisconnect");
 }
 
-void Operator::poll()
+void User::poll()
 {
     const int before = m_witness.readings();
     waitFor([&] { return m_witness.readings() > before || !seesOpenLink(); }, pollPatience);
 }
 
-void Operator::set(Deed deed)
+void User::set(Deed deed)
 {
     if (!m_console.isEnabled("groupBoxSystem"))
         return;

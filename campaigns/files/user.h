@@ -5,10 +5,10 @@
 /// Answers the dialogs of a save: gives the file dialog \a file and calls \a chosen as soon as it
 /// has taken that, agrees to replacing the file, and prints what each box says on standard error as
 /// "box: TEXT".
-class Operator : public ModalScript
+class User : public ModalScript
 {
 public:
-    explicit Operator(const QString &file = {}, const std::function<void()> &chosen = {});
+    explicit User(const QString &file = {}, const std::function<void()> &chosen = {});
 
     /// Reads and closes the boxes that nobody waits for.
     static void closeBoxes();
