@@ -1,6 +1,6 @@
 #include "console/limitlines.h"
 
-#include "2d/view/graphicsbase.h"
+#include "2d/view/curveview.h"
 #include "watch/limitwatch.h"
 
 #include <QChart>
@@ -11,7 +11,7 @@
 
 using namespace QtCharts;
 
-LimitLines::LimitLines(LimitWatch *watch, GraphicsBase *view, QObject *parent)
+LimitLines::LimitLines(LimitWatch *watch, CurveView *view, QObject *parent)
     : QObject(parent)
     , m_watch(watch)
     , m_view(view)

@@ -6,7 +6,7 @@
 
 #include <array>
 
-class GraphicsBase;
+class CurveView;
 class LimitWatch;
 
 QT_BEGIN_NAMESPACE
@@ -20,7 +20,7 @@ class LimitLines : public QObject
     Q_OBJECT
 
 public:
-    LimitLines(LimitWatch *watch, GraphicsBase *view, QObject *parent);
+    LimitLines(LimitWatch *watch, CurveView *view, QObject *parent);
 
 private:
     struct Line
@@ -33,6 +33,6 @@ private:
     void place(LimitAlarm::Limit limit, double level, bool isShown) const;
 
     LimitWatch *m_watch;
-    GraphicsBase *m_view;
+    CurveView *m_view;
     std::array<Line, 2> m_lines; ///< by LimitAlarm::Limit
 };

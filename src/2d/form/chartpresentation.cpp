@@ -1,7 +1,7 @@
 #include "2d/form/chartpresentation.h"
 
 #include "2d/data/patternscale.h"
-#include "2d/view/graphicsbase.h"
+#include "2d/view/curveview.h"
 
 #include <QChart>
 #include <QLegend>
@@ -17,7 +17,7 @@ constexpr int circleDivisions = 12;
 
 namespace ChartPresentation {
 
-void prepare(GraphicsBase &view)
+void prepare(CurveView &view)
 {
     QFont font = view.chart()->legend()->font();
     font.setWeight(QFont::Normal);
@@ -27,18 +27,18 @@ void prepare(GraphicsBase &view)
     view.setFocusPolicy(Qt::StrongFocus);
 }
 
-void setTitle(GraphicsBase &view, const QString &title)
+void setTitle(CurveView &view, const QString &title)
 {
     view.setChartTitle(title);
 }
 
-void setAxisTitles(GraphicsBase &view, const QString &angles, const QString &levels)
+void setAxisTitles(CurveView &view, const QString &angles, const QString &levels)
 {
     view.setAxisXTitle(angles);
     view.setAxisYTitle(levels);
 }
 
-void showLevels(GraphicsBase &view, const AxisScale &scale)
+void showLevels(CurveView &view, const AxisScale &scale)
 {
     view.setYRange(scale.min, scale.max, scale.divisions);
     // By itself the view lets the curves follow with the next events: too late for a picture.
@@ -47,7 +47,7 @@ void showLevels(GraphicsBase &view, const AxisScale &scale)
         view.rebuildPath(id);
 }
 
-void showAngles(GraphicsBase &view, const AxisScale &scale)
+void showAngles(CurveView &view, const AxisScale &scale)
 {
     view.setXDivisions(scale.divisions);
     view.setXRange(scale.min, scale.max);

@@ -1,6 +1,6 @@
 #pragma once
 
-class GraphicsBase;
+class CurveView;
 class QString;
 struct AxisScale;
 
@@ -9,14 +9,14 @@ struct AxisScale;
 namespace ChartPresentation {
 
 /// Gives \a view its legend, round angle ticks and the tabulator, once after it was made.
-void prepare(GraphicsBase &view);
+void prepare(CurveView &view);
 
-void setTitle(GraphicsBase &view, const QString &title);
-void setAxisTitles(GraphicsBase &view, const QString &angles, const QString &levels);
+void setTitle(CurveView &view, const QString &title);
+void setAxisTitles(CurveView &view, const QString &angles, const QString &levels);
 
 /// Shows \a scale on the level axis, which is the radial one of a polar view, and draws anew.
-void showLevels(GraphicsBase &view, const AxisScale &scale);
+void showLevels(CurveView &view, const AxisScale &scale);
 /// Shows \a scale on the angle axis of a cartesian view; that of a polar one is the whole circle.
-void showAngles(GraphicsBase &view, const AxisScale &scale);
+void showAngles(CurveView &view, const AxisScale &scale);
 
 } // namespace ChartPresentation

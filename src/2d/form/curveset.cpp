@@ -1,7 +1,7 @@
 #include "2d/form/curveset.h"
 
 #include "2d/data/curvefrequency.h"
-#include "2d/view/graphicsbase.h"
+#include "2d/view/curveview.h"
 #include "2d/view/pathinfo.h"
 
 #include <QScopedValueRollback>
@@ -16,20 +16,20 @@ bool operator==(const CurveRecord &a, const CurveRecord &b)
            a.isSaved == b.isSaved && a.isMask == b.isMask && a.difference == b.difference;
 }
 
-CurveSet::CurveSet(GraphicsBase &polar, GraphicsBase &cartesian, QObject *parent)
+CurveSet::CurveSet(CurveView &polar, CurveView &cartesian, QObject *parent)
     : QObject(parent)
     , m_polar(polar)
     , m_cartesian(cartesian)
 {
-    connect(&m_polar, &GraphicsBase::curvesChanged, this, [this] { follow(m_polar, m_cartesian); });
-    connect(&m_cartesian, &GraphicsBase::curvesChanged, this,
+    connect(&m_polar, &CurveView::curvesChanged, this, [this] { follow(m_polar, m_cartesian); });
+    connect(&m_cartesian, &CurveView::curvesChanged, this,
             [this] { follow(m_cartesian, m_polar); });
-    connect(&m_polar, &GraphicsBase::lookChanged, this,
+    connect(&m_polar, &CurveView::lookChanged, this,
             [this](int id) { followLook(m_polar, m_cartesian, id); });
-    connect(&m_cartesian, &GraphicsBase::lookChanged, this,
+    connect(&m_cartesian, &CurveView::lookChanged, this,
             [this](int id) { followLook(m_cartesian, m_polar, id); });
-    connect(&m_polar, &GraphicsBase::selectionChanged, this, [this] { followSelection(m_polar); });
-    connect(&m_cartesian, &GraphicsBase::selectionChanged, this,
+    connect(&m_polar, &CurveView::selectionChanged, this, [this] { followSelection(m_polar); });
+    connect(&m_cartesian, &CurveView::selectionChanged, this,
             [this] { followSelection(m_cartesian); });
 }
 
@@ -97,7 +97,7 @@ int CurveSet::add(const QString &name, const QVector<QPointF> &points, const Cur
 
 void CurveSet::setPoints(int id, const QVector<QPointF> &points)
 {
-    for (GraphicsBase *view : {&m_polar, &m_cartesian}) {
+    for (CurveView *view : {&m_polar, &m_cartesian}) {
         if (PathInfo *curve = view->paths().value(id)) {
             curve->setPoints(points);
             view->rebuildPath(id);
@@ -130,7 +130,7 @@ void CurveSet::restore(const CurveState &state)
     {
         const QScopedValueRollback<bool> ours(m_following, true);
         const bool isNew = id == 0;
-        for (GraphicsBase *view : {&m_polar, &m_cartesian}) {
+        for (CurveView *view : {&m_polar, &m_cartesian}) {
             if (isNew)
                 id = view->addCurve(look.name, state.points)->pathId();
             view->paths().value(id)->setLook(look);
@@ -191,7 +191,7 @@ void CurveSet::select(int id)
 }
 
 /// The views number their curves alike as long as every change reaches both of them, one by one.
-void CurveSet::follow(GraphicsBase &leader, GraphicsBase &follower)
+void CurveSet::follow(CurveView &leader, CurveView &follower)
 {
     if (m_following)
         return;
@@ -212,7 +212,7 @@ void CurveSet::follow(GraphicsBase &leader, GraphicsBase &follower)
     emit changed();
 }
 
-void CurveSet::followLook(const GraphicsBase &leader, GraphicsBase &follower, int id)
+void CurveSet::followLook(const CurveView &leader, CurveView &follower, int id)
 {
     if (m_following)
         return;
@@ -223,7 +223,7 @@ void CurveSet::followLook(const GraphicsBase &leader, GraphicsBase &follower, in
     emit changed();
 }
 
-void CurveSet::followCurve(const PathInfo &curve, GraphicsBase &follower)
+void CurveSet::followCurve(const PathInfo &curve, CurveView &follower)
 {
     const int id = curve.pathId();
     PathInfo *twin = follower.paths().value(id);
@@ -243,7 +243,7 @@ void CurveSet::followCurve(const PathInfo &curve, GraphicsBase &follower)
     twin->setLook(curve.look());
 }
 
-void CurveSet::followSelection(GraphicsBase &leader)
+void CurveSet::followSelection(CurveView &leader)
 {
     if (m_following)
         return;

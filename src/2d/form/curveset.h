@@ -12,7 +12,7 @@
 
 #include <optional>
 
-class GraphicsBase;
+class CurveView;
 class PathInfo;
 
 /// What is known of a curve beside what the chart draws.
@@ -60,7 +60,7 @@ class CurveSet : public QObject
 
 public:
     /// Both views must be empty, and outlive the set.
-    CurveSet(GraphicsBase &polar, GraphicsBase &cartesian, QObject *parent = nullptr);
+    CurveSet(CurveView &polar, CurveView &cartesian, QObject *parent = nullptr);
 
     /// The numbers of the curves, ascending.
     QList<int> ids() const;
@@ -103,13 +103,13 @@ signals:
 
 private:
     const PathInfo *path(int id) const;
-    void follow(GraphicsBase &leader, GraphicsBase &follower);
-    void followLook(const GraphicsBase &leader, GraphicsBase &follower, int id);
-    void followCurve(const PathInfo &curve, GraphicsBase &follower);
-    void followSelection(GraphicsBase &leader);
+    void follow(CurveView &leader, CurveView &follower);
+    void followLook(const CurveView &leader, CurveView &follower, int id);
+    void followCurve(const PathInfo &curve, CurveView &follower);
+    void followSelection(CurveView &leader);
 
-    GraphicsBase &m_polar;
-    GraphicsBase &m_cartesian;
+    CurveView &m_polar;
+    CurveView &m_cartesian;
     QMap<int, CurveRecord> m_records;
     QMap<int, int> m_keys; ///< by number
     int m_lastKey = 0;
