@@ -30,9 +30,6 @@ LinkSession::LinkSession(SerialLogic *link, QObject *parent)
     connect(link, &SerialLogic::errors, this, &LinkSession::takeError);
     connect(link, &SerialLogic::updateSetFailed, this, &LinkSession::takeError);
     connect(link, &SerialLogic::lost, this, &LinkSession::takeLoss);
-    connect(link, &SerialLogic::displayLog, this, &LinkSession::lineSent);
-    connect(link, &SerialLogic::replied, this,
-            [this](const QByteArray &, const QString &line) { emit lineReceived(line); });
 }
 
 QTimer *LinkSession::createTimer(const char *name, void (LinkSession::*due)())

@@ -127,11 +127,6 @@ signals:
     /// An error without an open link: an open that failed, a command that found none.
     void failed(const QString &reason);
 
-    /// A line on its way to the instrument.
-    void lineSent(const QString &line);
-    /// A line that has come from it; empty when none came in time.
-    void lineReceived(const QString &line);
-
     void readingDue();
     void recordDue();
 

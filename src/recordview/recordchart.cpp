@@ -145,7 +145,6 @@ void RecordChart::showRange(ViewRange range)
     m_shown = range;
     applyAxes();
     viewport()->update();
-    emit rangeShown();
 }
 
 void RecordChart::applyAxes()

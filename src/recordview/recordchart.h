@@ -46,7 +46,6 @@ public slots:
 
 signals:
     void cursorsMoved();
-    void rangeShown();
     void fitsLevelChanged(bool fits);
 
 protected:

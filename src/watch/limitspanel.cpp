@@ -129,7 +129,6 @@ void LimitsPanel::apply()
     const Limits wanted = limits();
     m_watch->setLimits(wanted.areUsable() ? wanted : Limits());
     showState();
-    emit limitsChanged();
 }
 
 void LimitsPanel::retranslate()

@@ -28,9 +28,6 @@ public:
     void setLevels(double high, double low);
     void retranslate();
 
-signals:
-    void limitsChanged();
-
 private:
     void apply();
     void showState();

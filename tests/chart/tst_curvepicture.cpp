@@ -100,7 +100,7 @@ private slots:
                                    {-180, 180, -50, 0}};
         const Points points = curve(shape, count);
         MyPathItem item(1);
-        item.adoptView(kind, mapping.axes);
+        item.setChartKind(kind);
         item.setPlotArea(mapping.plotArea);
         item.setColor(Qt::white);
         item.setLineWidth(2);
@@ -126,7 +126,7 @@ private slots:
         for (const double side : {0.0, 1600.0}) {
             const QRectF area(0, 0, side, side);
             MyPathItem item(1);
-            item.adoptView(polarKind, {});
+            item.setChartKind(polarKind);
             item.setPlotArea(area);
             item.setColor(Qt::white);
             item.setValuePoints({{0, 0}});

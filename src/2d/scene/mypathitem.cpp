@@ -77,12 +77,6 @@ MyPathItem::MyPathItem(int pathId, QGraphicsItem *parent)
     setAcceptedMouseButtons(Qt::LeftButton);
 }
 
-void MyPathItem::adoptView(int chartKind, const ViewRange &range)
-{
-    m_chartKind = chartKind;
-    m_viewRange = range;
-}
-
 void MyPathItem::setValuePoints(const QVector<QPointF> &points)
 {
     if (points.isEmpty() != m_valuePoints.isEmpty())

@@ -32,10 +32,8 @@ public:
     int type() const override { return Type; }
     int pathId() const { return m_pathId; }
 
-    /// Takes over the chart's kind (0 cartesian, 1 polar) and range as they are now.
-    void adoptView(int chartKind, const ViewRange &range);
-    int chartKind() const { return m_chartKind; }
-    ViewRange viewRange() const { return m_viewRange; }
+    /// Takes over the kind of the chart that the curve lies on: 0 cartesian, 1 polar.
+    void setChartKind(int kind) { m_chartKind = kind; }
 
     /// The curve in chart values.
     QList<QPointF> valuePoints() const { return m_valuePoints.toList(); }
@@ -57,6 +55,7 @@ public:
 
     QColor color() const { return m_color; }
     void setColor(const QColor &color);
+    /// Pixels of the scene; a selected curve is drawn wider.
     int lineWidth() const { return m_lineWidth; }
     void setLineWidth(int width);
     /// The name under which the curve is dragged to another chart.
@@ -83,7 +82,9 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 signals:
+    /// A press selects this curve.
     void selectPathId(int pathId);
+    /// The curve is dragged out of its chart (false), or the drag is over (true).
     void setAcceptDropsStatus(bool status);
 
 public slots:
@@ -116,7 +117,6 @@ private:
 
     int m_pathId;
     int m_chartKind = 0;
-    ViewRange m_viewRange;
     QVector<QPointF> m_valuePoints;
     Outline m_outline;
     CurveIndex m_index; ///< of the outline's points

@@ -42,14 +42,13 @@ PathInfo *CurveList::add(const QString &name)
 {
     const int id = smallestFreeId(m_paths);
     auto *path = new PathInfo(id);
-    path->setLineWidth(2);
     connect(path, &PathInfo::selectPathId, this, &CurveList::selectionAsked);
     connect(path, &PathInfo::setAcceptDropsStatus, this, &CurveList::acceptDropsAsked);
     path->setColor(curveColor(id));
     {
         const ChartStage::LayoutGuard guard(m_stage); // one layout for the entry and its text
         m_stage.add(path->curve());
-        path->pathItem()->adoptView(m_stage.kind(), m_ranges.inView(m_stage));
+        path->pathItem()->setChartKind(m_stage.kind());
         path->setName(name);
         m_stage.setLegendEntry(path->curve(), name, path->color(), false);
     }
