@@ -11,7 +11,6 @@
 #include <QLocale>
 #include <QTextStream>
 
-#include <array>
 #include <cmath>
 #include <memory>
 

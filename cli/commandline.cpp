@@ -10,7 +10,6 @@
 #include "cli/taskcommand.h"
 
 #include <algorithm>
-#include <iostream>
 #include <vector>
 
 namespace {

@@ -5,6 +5,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
+
 namespace {
 
 class IdentifyCommand : public MeterCommand

@@ -4,6 +4,9 @@
 #include "cli/values.h"
 #include "recorder/recorder.h"
 
+#include <limits>
+#include <memory>
+
 namespace {
 
 constexpr qint64 shortestInterval = 10 * millisecond;

@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
+
 namespace {
 
 class SetCommand : public MeterCommand

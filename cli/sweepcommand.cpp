@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <limits>
+#include <memory>
 #include <utility>
 
 namespace {

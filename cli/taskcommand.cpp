@@ -4,6 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
+
 namespace {
 
 class TaskCommand : public MeterCommand

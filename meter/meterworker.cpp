@@ -1,5 +1,6 @@
 #include "meter/meterworker.h"
 
+#include "Logic/commandtexts.h"
 #include "Logic/replyparser.h"
 
 #include <QDeadlineTimer>
@@ -150,19 +151,19 @@ void MeterWorker::take(const QByteArray &command, const QString &line, Outcome o
     if (outcome != Outcome::Ok)
         return;
     MeterSettings &settings = m_description.settings;
-    if (command == "*IDN?\n") {
+    if (command == CommandTexts::queryIdentity()) {
         m_description.identity = ReplyParser::identity(line);
-    } else if (command == "FREQ?\n") {
+    } else if (command == CommandTexts::queryFrequency()) {
         const ReplyParser::Frequency frequency = ReplyParser::frequency(line);
         settings.frequency = frequency.value;
         settings.frequencyUnit = frequency.unit;
-    } else if (command == "OFFS?\n") {
+    } else if (command == CommandTexts::queryOffset()) {
         settings.offset = ReplyParser::offset(line);
-    } else if (command == "AVER:COUN?\n") {
+    } else if (command == CommandTexts::queryAverageCount()) {
         settings.averaging = ReplyParser::averageCount(line);
-    } else if (command == "UNIT:POW?\n") {
+    } else if (command == CommandTexts::queryPowerUnit()) {
         settings.unit = ReplyParser::powerUnit(line);
-    } else if (command == "REL?\n") {
+    } else if (command == CommandTexts::queryMeasureState()) {
         const QString state = ReplyParser::measureState(line);
         settings.isRelative = state.compare(QLatin1String("ON"), Qt::CaseInsensitive) == 0;
     }

@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <QTimer>
-#include <QVector>
 
 #include <atomic>
 #include <deque>

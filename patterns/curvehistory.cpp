@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QUndoCommand>
 
+#include <algorithm>
 #include <utility>
 
 namespace {

@@ -22,6 +22,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include <algorithm>
+
 namespace {
 
 SaveFormat curveFormat()

@@ -6,7 +6,9 @@
 #include <QLocale>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 

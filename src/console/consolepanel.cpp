@@ -17,6 +17,8 @@
 #include <QScrollBar>
 #include <QSerialPortInfo>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int scrollBarGap = 6; // between the panel and its scroll bar
