@@ -19,7 +19,7 @@ struct CurveImport
 /// What is known of \a curve.
 CurveRecord recordOf(const ReadCurve &curve);
 
-/// Reads \a files and adds their curves to \a form, all of them or, when the operator cancels,
+/// Reads \a files and adds their curves to \a form, all of them or, when the user cancels,
 /// none. Shows how far it is when that takes longer than \a patience in milliseconds; asks for
 /// another name where one is taken.
 CurveImport importCurves(ListChart &form, const QStringList &files, int patience = 400);

@@ -15,7 +15,7 @@ public:
 
     /// The reply to the command \a line, its newlines included: "p" position, "P AZ EL" move (its
     /// reply comes as the move starts), "S" stop, "K" park at 0, "_" model, "\dump_state" limits.
-    /// Nothing for anything else, as with the original.
+    /// Nothing for anything else, as with rotctld.
     QByteArray answer(const QByteArray &line, qint64 now);
 
     /// The command of \a line, empty for a blank one.

@@ -112,7 +112,7 @@ signals:
     /// A message for the user.
     void errors(QString err);
     /// The connection has ended or the port was taken away, of which no command has told yet. Comes
-    /// also when it was the console that ended a connection.
+    /// also when it was this side that ended a connection.
     void lost();
     /// A line for the on-screen log.
     void displayLog(QString log);

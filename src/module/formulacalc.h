@@ -27,7 +27,8 @@ public:
     /// The value of \a map at \a val: the tabulated one, or the one on the straight line through
     /// the neighbouring keys, or beyond the table through its two outermost keys. 0 for an empty
     /// map, and (with a warning) for a single key other than \a val. A key of 0 counts as missing
-    /// when the neighbours are looked up: intended.
+    /// when the neighbours are looked up: with negative keys as well, the line goes through the two
+    /// largest ones.
     double getValueFromMap(const double &val, const QMap<double, double> &map) const;
 
     /// Frequency to summed up-link loss.

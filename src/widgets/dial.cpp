@@ -182,7 +182,7 @@ void Dial::drawValueText(QPainter &painter) const
     textFont.setWeight(QFont::Bold);
     painter.setFont(textFont);
     painter.setPen(m_textColor);
-    // Five units right of the centre: intended.
+    // Five units right of the centre.
     painter.drawText(QRect(-93, 56, 196, 32), Qt::AlignCenter, m_text);
 }
 

@@ -24,7 +24,7 @@ public:
     /// The committed value; what is being typed does not count yet.
     double value() const { return m_value; }
     /// Commits and shows \a value, in the range or not. In whole-number mode the stored value is
-    /// rounded down and the shown one to the nearest: intended.
+    /// rounded down and the shown one to the nearest: 12.6 is 12 and reads 13.
     void setValue(double value);
     /// 1 turns the field to whole numbers for good; any other value does nothing.
     void setIntegerMode(const int &mode);

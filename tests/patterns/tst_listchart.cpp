@@ -35,7 +35,7 @@ Points lobes(double peak, double width)
 
 } // namespace
 
-/// The form as its operator uses it.
+/// The form as its user uses it.
 class TestListChart : public QObject
 {
     Q_OBJECT

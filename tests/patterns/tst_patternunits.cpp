@@ -258,7 +258,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QVector<Points>>("curves");
-        QTest::addColumn<QString>("told"); // part of what the operator is told, empty: nothing
+        QTest::addColumn<QString>("told"); // part of what the user is told, empty: nothing
         const auto row = [](const char *name, const QByteArray &rows, const Points &points,
                             const char *told) {
             QTest::newRow(name) << goodHead + rows << QVector<Points>{points} << told;

@@ -30,7 +30,7 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
 signals:
-    /// An edit was refused; \a reason is a sentence for the operator.
+    /// An edit was refused; \a reason is a sentence for the user.
     void refused(const QString &reason);
 
 private:

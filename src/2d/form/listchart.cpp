@@ -477,7 +477,7 @@ void ListChart::dropEvent(QDropEvent *event)
     if (files.isEmpty())
         return;
     event->acceptProposedAction();
-    // The program they come from waits for the end of the drop; reading may ask the operator.
+    // The program they come from waits for the end of the drop; reading may ask the user.
     QTimer::singleShot(0, this, [this, files] { emit filesDropped(files); });
 }
 

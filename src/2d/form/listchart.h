@@ -38,10 +38,10 @@ public:
 
     /// Adds a curve, after asking for another name when \a name is taken. A frequency that the
     /// record leaves open is looked for in the name. Returns the curve's number, 0 when the
-    /// operator cancels.
+    /// user cancels.
     int addCurve(const QString &name, const QVector<QPointF> &points, CurveRecord record = {});
 
-    /// The title of the charts: what the operator wrote, else what the curves' files say.
+    /// The title of the charts: what the user wrote, else what the curves' files say.
     QString title() const;
 
     /// The figures of the curves that are shown and have points, in the order of the tables.
@@ -75,7 +75,7 @@ public slots:
     void setSymmetry(bool on);
     /// Shows or hides the marker lines of the pattern parameters.
     void setParameterLines(bool on);
-    /// Lets the operator edit names, colours, line widths and visibility of all curves.
+    /// Lets the user edit names, colours, line widths and visibility of all curves.
     void manageCurves();
 
 signals:
@@ -118,9 +118,9 @@ private:
     QLabel *m_hint = nullptr; ///< seen while there is no curve
     QVector<CurveFigures> m_figures;
     QList<int> m_shownIds; ///< the curves at the last refresh
-    QString m_ownTitle;    ///< as the operator wrote it; empty: from the files
+    QString m_ownTitle;    ///< as the user wrote it; empty: from the files
     AxisScale m_levels;    ///< the level axis of both charts, dB
     FigureOptions m_options;
     SupplementColumns m_columns;
-    bool m_ownLevels = false; ///< the operator chose the levels
+    bool m_ownLevels = false; ///< the user chose the levels
 };

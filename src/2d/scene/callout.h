@@ -4,6 +4,7 @@
 #include <QGraphicsItem>
 
 /// A speech bubble on the chart's scene: a line of text in a box whose point stands on an anchor.
+/// Its coordinates are the scene's.
 class Callout : public QGraphicsItem
 {
 public:

@@ -7,9 +7,9 @@
 namespace {
 
 constexpr double belowTheAxes = -0.5;
-constexpr double tickLength = 4.0; // as the chart leaves room for
-constexpr double roundTickLength =
-    3.0;                           // to either side, as the chart leaves room for round the circle
+// Ticks are as long as the chart leaves room for; those round the circle reach to either side.
+constexpr double tickLength = 4.0;
+constexpr double roundTickLength = 3.0;
 constexpr double besideLine = 1.0; // pixels beside its middle that a line may cover
 
 bool isSameGrid(const ChartGrid::Lines &a, const ChartGrid::Lines &b)

@@ -28,7 +28,7 @@ QT_END_NAMESPACE
 /// positions.
 ///
 /// Every change that makes the chart lay itself out is made here, under a LayoutGuard. Whoever
-/// makes several in a row holds one himself: then the chart lays itself out once.
+/// makes several in a row holds one around them: then the chart lays itself out once.
 class ChartStage
 {
 public:

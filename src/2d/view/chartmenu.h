@@ -10,7 +10,7 @@ struct ChartSituation
     bool markTablesShown = false;
     bool parameterTableShown = false;
     int markCount = 0;
-    QString clipboardText;
+    QString clipboardText; ///< as it is now; paste is offered for a curve's text
 };
 
 /// Which entries of the context menu can be chosen, and which are checked.
@@ -28,6 +28,7 @@ struct ChartMenuState
     bool parameterTableChecked = false;
 };
 
+/// What can be done with a chart in this \a situation.
 ChartMenuState chartMenuState(const ChartSituation &situation);
 
 /// The context menu of a chart, in the language of the moment: made for one use.

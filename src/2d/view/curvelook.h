@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QString>
 
-/// How a curve looks and is called: all that a person may change of it but its data.
+/// How a curve looks and is called: all that a user may change of it but its data.
 struct CurveLook
 {
     QString name;

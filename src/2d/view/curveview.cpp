@@ -109,7 +109,6 @@ QRect CurveView::areaAboveLegend() const
     return {0, 0, width(), height() - qCeil(m_stage->legendHeight())};
 }
 
-// Hovering over a curve shows nothing: names and values stand in the tables.
 void CurveView::tooltip(QPointF point, bool state)
 {
     Q_UNUSED(point)
@@ -377,7 +376,6 @@ void CurveView::handleMarkerClicked()
     }
 }
 
-// The colours of the curves are not given from outside.
 void CurveView::setColorList(QList<QColor> colorList)
 {
     Q_UNUSED(colorList)

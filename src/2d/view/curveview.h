@@ -84,7 +84,8 @@ public:
     void paintPicture(QPainter &painter, const QRectF &target, const QRect &source);
 
 signals:
-    /// The chart's size less 60 in width, plus 10 in height.
+    /// The chart's size less 60 in width, plus 10 in height: a margin for forms that put something
+    /// beside it, which the curves take off again for their tables.
     void updataSize(QSizeF size);
     /// A curve came or went: for forms that show the same curves elsewhere too.
     void curvesChanged();
@@ -94,6 +95,7 @@ signals:
     void selectionChanged();
 
 public slots:
+    /// Does nothing: names and values stand in the tables.
     void tooltip(QPointF point, bool state);
     void setChartTitle(QString title);
     void setChartTitle(QString title, QFont font);
@@ -130,7 +132,9 @@ public slots:
     /// Draws every curve mirrored across the line y = -x; values stay.
     void SymmetrySlot();
     void SymmetryResetSlot();
+    /// Shows or hides the curve whose entry of the legend sends this.
     void handleMarkerClicked();
+    /// Does nothing: the curves have colours of their own.
     void setColorList(QList<QColor> colorList);
 
 protected:

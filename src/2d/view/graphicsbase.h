@@ -35,6 +35,7 @@ public:
 
 signals:
     void doubleClick(const GraphicsBase *view);
+    /// The figures of the selected curve are to be shown, or there are none to show any more.
     void updateParaInfoToTable(ParaInfo paraInfo);
     void clearParaInfoToTable();
     /// The user has written the curve \a pathId to \a fileName.
@@ -45,6 +46,7 @@ signals:
 public slots:
     /// Keeps the name for seriesName(): exports carry the names of their curves.
     void setSeriesName(QString name) override;
+    /// Leaves the pan mode and shows the range anew.
     void panResetSlot();
 
 protected:

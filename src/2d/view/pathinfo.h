@@ -49,6 +49,7 @@ public:
     void setColor(const QColor &color);
     QString name() const { return m_name; }
     void setName(const QString &name);
+    /// Pixels.
     int lineWidth() const { return m_lineWidth; }
     void setLineWidth(int width);
     /// A hidden curve and all its items are invisible, and it takes no part in clicks.
@@ -105,22 +106,29 @@ public:
     void stackParaTable(const QRectF &sceneRect);
 
 signals:
+    /// As MyPathItem's, of this curve's outline.
     void selectPathId(int pathId);
     void setAcceptDropsStatus(bool status);
     /// Name, colour, width or visibility has changed.
     void lookChanged();
 
 public slots:
+    /// Fills the table of markers with those of \a map that are this curve's.
     void updateMarkInfo(QMap<int, MyMarkItem *> map);
+    /// Shows the figures of the pattern in their table, or takes them away.
     void updateParaInfo(ParaInfo paraInfo);
     void clearParaInfo();
     void clearSelection();
+    /// The numbers of the markers that are this curve's.
     void addMarkId(int id);
     void delMarkId(int id);
     bool containsMarkid(int id);
+    /// Whether the tables hold anything.
     bool getMarkTableDataStatus();
     bool getParaTableDataStatus();
+    /// Whether the pattern's marker lines may be seen.
     void setLineItemVisible(bool b);
+    /// Keeps the tables in a chart whose size CurveView::updataSize() tells so.
     void updataSize(QSizeF size);
 
 private:
