@@ -23,7 +23,7 @@ struct WrittenFile
 /// A part of our programs that writes files.
 struct Writer
 {
-    /// Writes in the current directory what belongs to \a round, by the road that the programs take
+    /// Writes in the current directory what belongs to \a round, by the path that the programs take
     /// themselves. Calls \a begin once, when everything is prepared.
     using Act = std::function<void(int round, const std::function<void()> &begin)>;
 

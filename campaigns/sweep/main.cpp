@@ -18,7 +18,7 @@ namespace {
 
 using SweepBench::Bench;
 
-/// Faults of both devices, of people near the table and of the program, at random.
+/// Faults of both devices, of somebody near the table and of the program, at random.
 class Trouble
 {
 public:

@@ -5,7 +5,7 @@
 class QWidget;
 
 /// Keeps keys and clicks from all widgets but one and those of message boxes, while something
-/// blocks the window between whiles: what is pressed then would otherwise come in when it means
+/// blocks the window now and then: what is pressed then would otherwise come in when it means
 /// something else.
 class InputGate : public QObject
 {

@@ -20,7 +20,7 @@ using LossMap = QMap<double, double>;
 
 constexpr int firstValueColumn = 4; // the columns before it describe the row
 
-/// The fast road of toNumber(): true when \a field is a plain decimal number that fills it.
+/// The fast path of toNumber(): true when \a field is a plain decimal number that fills it.
 bool readPlainNumber(const QStringRef &field, double *number)
 {
     std::array<char, 32> text;

@@ -85,7 +85,7 @@ private slots:
         QVERIFY(same(CurveText::fromClipboard(CurveText::toClipboard({}, points)).points, points));
     }
 
-    /// Every field reads as by QString::toDouble, whichever road it takes.
+    /// Every field reads as by QString::toDouble, whichever path it takes.
     void readsFields()
     {
         const QString fields = QStringLiteral(

@@ -25,7 +25,7 @@ QString figures(const PowerStatistics &of)
 
 } // namespace
 
-/// What is reckoned from readings.
+/// What is computed from readings.
 class TestMeasure : public QObject
 {
     Q_OBJECT

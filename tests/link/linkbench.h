@@ -22,7 +22,7 @@ Action call(void (SerialLogic::*slot)(Arguments...), const Values &...values)
 constexpr int serial = 0;
 constexpr int tcp = 1;
 
-/// The global data of tests that run over both roads: the column \a mode.
+/// The global data of tests that run over both transports: the column \a mode.
 void addBothRoads();
 
 /// The answer that is \a line and a newline.

@@ -32,8 +32,8 @@ QList<Answer> script(const QByteArray &lines)
 Q_DECLARE_METATYPE(Action)
 Q_DECLARE_METATYPE(Answer)
 
-/// What goes over either road for each operation, what the console hears of the answers, and what
-/// becomes of a line that is closed or lost.
+/// What goes over either transport for each operation, what the console hears of the answers, and
+/// what becomes of a line that is closed or lost.
 class TestLinkCommands : public QObject
 {
     Q_OBJECT

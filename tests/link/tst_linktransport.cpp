@@ -21,7 +21,7 @@ quint16 closedTcpPort()
 
 } // namespace
 
-/// What is peculiar to one road, and the change from one to the other.
+/// What is peculiar to one transport, and the change from one to the other.
 class TestLinkTransport : public QObject
 {
     Q_OBJECT

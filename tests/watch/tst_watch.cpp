@@ -61,7 +61,7 @@ private slots:
         QCOMPARE(statistics.sinceRestart().power.count(), 2);
     }
 
-    /// When an alarm begins and ends is the affair of the alarm; here each is told, once.
+    /// When an alarm begins and ends is tested with the alarm; here each is told, once.
     void logsEveryAlarmOnce()
     {
         logged.clear();
