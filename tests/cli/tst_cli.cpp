@@ -96,6 +96,7 @@ private slots:
         row("mean", none, "read --mean 3", 0, TIME " -20.0000 dBm\n");
         row("set", none, "set frequency 1500kHz offset -3.5 averaging 16 unit W relative on", 0,
             "frequency: 1500 KHz\noffset: -3.5 dB\naveraging: 16\nunit: W\nrelative: on\n");
+        row("greatest frequency", none, "set frequency 40GHz", 0, "frequency: 40 GHz\n");
         row("set as JSON", none, "--json set relative off averaging 2", 0,
             "\\{\"relative\":false,\"averaging\":2\\}\n");
         row("what is read back differs", none, "set offset 1.005 averaging 2", 1,
@@ -193,8 +194,11 @@ private slots:
         killed.kill();
         killed.waitForFinished();
 
+        QFile reader(metrics); // who reads the file meanwhile reads it as it was
+        QVERIFY(reader.open(QFile::ReadOnly));
         const Ended ended = run(arguments + words("--count 3"));
         QCOMPARE(ended.status, 0);
+        QVERIFY(reader.readAll() != contentOf(metrics));
         QStringList csv = file(folder, ".csv");
         const QString header = csv.takeFirst();
         QCOMPARE(csv.filter(header).size(), 0);

@@ -75,6 +75,8 @@ private slots:
             told);
         row("refused MHz", setFrequency("2450", "MHz"), refused, "FREQ 2450MHz|FREQ 2.45|FREQ?",
             told);
+        row("refused KHz", setFrequency("2450000", "KHz"), refused,
+            "FREQ 2450000KHz|FREQ 2.45|FREQ?", told);
         row("refused twice", setFrequency("2450", "MHz"), "ERR|ERR", "FREQ 2450MHz|FREQ 2.45", "");
         row("refused, no number for the unit", setFrequency("9", "Hz"), "ERR", "FREQ 9Hz", "");
 

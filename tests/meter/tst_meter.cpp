@@ -85,6 +85,7 @@ private slots:
         QCOMPARE(lan("bench1"), QStringLiteral("1 bench1 5001 bench1"));
         QCOMPARE(lan("bench1:5001"), QStringLiteral("1 bench1 5001 bench1"));
         QCOMPARE(lan("10.0.0.1:5002"), QStringLiteral("1 10.0.0.1 5002 10.0.0.1:5002"));
+        QCOMPARE(lan("bench1:65535"), QStringLiteral("1 bench1 65535 bench1:65535"));
         QCOMPARE(lan("[fe80::1]:7"), QStringLiteral("1 fe80::1 7 fe80::1:7"));
         QCOMPARE(lan("fe80::1"), QStringLiteral("1 fe80::1 5001 fe80::1"));
         for (const char *bad : {"", ":5001", "host:", "host:0", "host:65536", "host:5x", "[::1]:"})
@@ -94,6 +95,17 @@ private slots:
                  QStringLiteral("0 /dev/pci-0:1.0-port 115200 /dev/pci-0:1.0-port"));
         for (const char *bad : {"", ":9600", "COM3:0", "COM3:99999999999"})
             QCOMPARE(serial(bad), QStringLiteral("-"));
+    }
+
+    void frequenciesInAnyLetters()
+    {
+        for (const auto &[unit, hertz] :
+             {std::pair("GHZ", 2e9), {"MHz", 2e6}, {"MHZ", 2e6}, {"KHz", 2e3}, {"khz", 2e3}}) {
+            MeterSettings settings;
+            settings.frequency = 2.0;
+            settings.frequencyUnit = QLatin1String(unit);
+            QCOMPARE(settings.frequencyHz(), std::optional(hertz));
+        }
     }
 
     void backoff()

@@ -137,6 +137,7 @@ private slots:
         QCOMPARE(
             bench.events.filter(QStringLiteral("clock")),
             QStringList({QStringLiteral("clock-step@-3596"), QStringLiteral("clock-step@7251")}));
+        QCOMPARE(bench.lastDetails, QByteArray("{\"seconds\":10800}\n"));
     }
 
     void events()

@@ -177,6 +177,7 @@ private slots:
         server.lines.clear();
         isSilent = true;
         client.move(30.0);
+        client.move(40.0); // has to wait, and so never goes out
         client.stop();
         client.readPosition();
         QTRY_COMPARE(server.lines.value(1), QByteArray("S"));

@@ -77,6 +77,7 @@ private slots:
         QTest::newRow("no end") << "--from 0 --step 10" << false << 2;
         QTest::newRow("run exists") << "--from -20 --to 20 --step 20" << true << 2;
         QTest::newRow("other plan") << "--from -20 --to 20 --step 10 --resume" << true << 2;
+        QTest::newRow("other averaging") << "--from -20 --to 20 --step 20 --resume" << true << 2;
         QTest::newRow("no folder") << "--from 0 --to 9 --step 1 --out /nowhere/x.csv" << false << 4;
     }
 
@@ -88,6 +89,7 @@ private slots:
         if (hasRun) {
             RunHeader header;
             header.version = text("1.0.0");
+            header.averaging = 7;
             header.plan = {-20.0, 20.0, 20.0, 0.0, 1};
             run = RunText::header(header) + "2026-11-21T20:03:02.117+01:00,-20,-20,-20,-3,0.1,3,\n";
             write(path("out.run.csv"), run);
@@ -96,6 +98,12 @@ private slots:
         QTEST(sweep(chamber, chamber.rotatorPort(), options), "status");
         QVERIFY(!QFile::exists(path("out.csv")));
         QCOMPARE(contentOf(path("out.run.csv")), hasRun ? run : "cannot be read");
+    }
+
+    void tableRefusesBeyondLimitsThatItDoesNotTell()
+    {
+        SimulatorProcess chamber("--rotator 0 --noise 0 --rotator-fault refuse,only=\\dump_state");
+        QCOMPARE(sweep(chamber, chamber.rotatorPort(), text("--from 500 --to 510 --step 9")), 2);
     }
 
     void tellsAbsence()

@@ -247,6 +247,7 @@ private slots:
         bench.work();
         QCOMPARE(bench.run.rows.at(0).mean, std::optional(10.0 * std::log10(0.055)));
         QVERIFY(bench.run.isMarked());
+        QCOMPARE(bench.readings, 2 * (1 + bench.header().readings)); // of the drift's too
     }
 };
 

@@ -181,6 +181,7 @@ private slots:
     void runFileReturns()
     {
         RunHeader written = header(-0.1, 0.1, 0.1);
+        written.offset = -3.5;
         RunRow row = measured(0.1, -20.12346, RunFlag::Unstable | RunFlag::Floor);
         row.sigma = 0.75;
         const std::optional<RunFile> run =
@@ -189,6 +190,7 @@ private slots:
         QCOMPARE(run->header.plan, written.plan);
         QCOMPARE(run->header.limits->max, 450.0);
         QCOMPARE(*run->header.floor, -60.5);
+        QCOMPARE(run->header.offset, written.offset);
         QCOMPARE(run->header.title, QStringLiteral("Horn: first line"));
         QVERIFY(!run->header.averaging);
         QCOMPARE(run->rows.size(), 1);
@@ -261,12 +263,17 @@ private slots:
 
     void sortsCurve()
     {
-        RunFile run;
-        run.header = header(90, 450, 90);
-        for (const double wanted : {90.0, 180.0, 270.0, 360.0, 450.0})
-            run.rows.append(measured(wanted, -wanted));
-        const QVector<QPointF> sorted{{-90, -270}, {0, -360}, {90, -90}, {180, -180}};
-        QCOMPARE(run.curve(), sorted); // one point a θ, the first that was planned
+        for (const int sense : {1, -1}) {
+            RunFile run;
+            run.header = header(90, 450, 90);
+            run.header.plan.sense = sense;
+            for (const double theta : {90.0, 180.0, 270.0, 360.0, 450.0}) {
+                run.rows.append(measured(sense * theta, -theta));
+                run.rows.last().theta = wrappedTheta(theta);
+            }
+            const QVector<QPointF> sorted{{-90, -270}, {0, -360}, {90, -90}, {180, -180}};
+            QCOMPARE(run.curve(), sorted); // one point a θ, the first that was planned
+        }
     }
 };
 
