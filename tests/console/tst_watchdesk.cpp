@@ -71,6 +71,7 @@ private slots:
         m_console->find<QWidget>("dockStatistics")->show();
         QTRY_VERIFY(statistic(6).toInt() >= 2); // readings
         QCOMPARE(statistic(1), QStringLiteral("-20.0000 dBm"));
+        QCOMPARE(statistic(4), QStringLiteral("0.00 dB")); // peak to peak
 
         m_console->find<QWidget>("dockLimits")->show();
         m_console->find<QDoubleSpinBox>("doubleSpinBoxHigh")->setValue(-15.0);

@@ -84,6 +84,8 @@ private slots:
         row("--serial COM3", Wish::Run, "|COM3|115200");
         row("--serial=/dev/pts/3:9600", Wish::Run, "|/dev/pts/3|9600");
         row(ownColons, Wish::Run, "|/dev/serial/by-path/pci-0:2.0-port0|115200");
+        row("--serial /dev/serial/by-path/pci-0:2.0-port0:9600", Wish::Run,
+            "|/dev/serial/by-path/pci-0:2.0-port0|9600");
         row("--serial COM3:0", Wish::Refuse, "no baud rate");
         row("--serial COM3:abc", Wish::Refuse, "'abc' is no baud rate");
         row("--keep-logs 0", Wish::Refuse, "number of days");

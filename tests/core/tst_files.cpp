@@ -10,6 +10,12 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+
+#include <sys/resource.h>
+#endif
+
 namespace {
 
 /// The one log file that was written below the current directory.
@@ -171,6 +177,23 @@ private slots:
         QVERIFY(read);
         QCOMPARE(read->toText(), written.toText());
     }
+
+#ifdef Q_OS_UNIX
+    void tornLineIsTakenBack()
+    {
+        const QString path = write(QStringLiteral("1.csv"), "head\nrow\n");
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual{};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &usual), 0);
+        const rlimit tight{12, usual.rlim_max}; // bytes: room for three more
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &tight), 0);
+        const FileOutcome outcome = appendLine(path, "a longer row\n", {});
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &usual), 0);
+        std::signal(SIGXFSZ, handler);
+        QCOMPARE(outcome.kind, FileOutcome::Kind::WriteFailed);
+        QCOMPARE(contentOf(path), QByteArray("head\nrow\n"));
+    }
+#endif
 
     /// What becomes of a disk that fails is tried by the campaign of the files.
     void writesIntoDevicesAndRefusesFolders()

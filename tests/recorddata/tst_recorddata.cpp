@@ -99,6 +99,10 @@ private slots:
                                         consoleRow("12:00", "-20.50") +
                                         consoleRow("12:01", "-21.00")
                                  << QByteArray("0=-20 30=-20.5 60=-21") << 0;
+        QTest::newRow("a pause of twice the step is none")
+            << consoleHeader + consoleRow("12:00", "-20.00") + consoleRow("12:01", "-21.00") +
+                   consoleRow("12:03", "-22.00")
+            << QByteArray("0=-20 60=-21 180=-22") << 0;
         QTest::newRow("no reading, a minute that goes back, a pause")
             << consoleHeader + consoleRow("12:00", "-20.00") + consoleRow("12:01", "100.00") +
                    consoleRow("12:02", "-21.00") + consoleRow("12:01", "-22.00") +

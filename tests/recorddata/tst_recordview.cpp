@@ -61,6 +61,9 @@ private slots:
         QCOMPARE(cell("tableSpan", 8), QStringLiteral("1"));
         QTest::keyClick(chart, Qt::Key_Right, Qt::ControlModifier);
         QCOMPARE(cell("tableCursors", 0, 1), QStringLiteral("2026-11-21 08:41:00"));
+        chart->setCursorPoint(RecordChart::A, 31);
+        QCOMPARE(cell("tableCursors", 2, 1), QStringLiteral("2026/11/21 08:41"));
+        chart->setCursorPoint(RecordChart::A, 20);
 
         const QString rows = m_folder.filePath(QStringLiteral("span.csv"));
         QVERIFY(m_view->saveRows(rows));
@@ -85,6 +88,12 @@ private slots:
         QVERIFY(std::abs(chart->shownRange().xMin - closer.xMin - tenth) < 0.01);
         QTest::keyClick(chart, Qt::Key_Up);
         QVERIFY(!chart->fitsLevel());
+        chart->setFitsLevel(true);
+        QTest::keyClick(chart, Qt::Key_Plus, Qt::ControlModifier);
+        QVERIFY(!chart->fitsLevel());
+        chart->setCursorPoint(RecordChart::B, 0);
+        QTest::keyClick(chart, Qt::Key_Right, Qt::ControlModifier); // and the view goes there
+        QCOMPARE(chart->shownRange().xMin, m_view->reader()->data().time(1));
         QTest::keyClick(chart, Qt::Key_Home);
         QCOMPARE(chart->shownRange().xMin, all.xMin);
         QVERIFY(chart->fitsLevel());
@@ -109,6 +118,12 @@ private slots:
         QTRY_COMPARE(m_view->reader()->data().size(), before + 10);
         const RecordChart *chart = m_view->chart();
         QVERIFY(chart->shownRange().xMax > m_view->reader()->data().end()); // all is shown still
+        for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Plus, Qt::Key_PageUp})
+            QTest::keyClick(m_view->chart(), key);
+        const double end = chart->shownRange().xMax;
+        write(consoleRows(110, 111), QFile::Append);
+        QTRY_COMPARE(m_view->reader()->data().size(), before + 11);
+        QCOMPARE(chart->shownRange().xMax, end); // nor is a part left that one looks at
 
         const QByteArray header("Time,Frequency(GHz),Offset(dB),Power(dBm),Converted Power\n");
         write(header + consoleRows(0, 5));

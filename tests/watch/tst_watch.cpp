@@ -97,6 +97,7 @@ private slots:
 
         WatchSettings settings;
         settings.limits.high = settings.high = -3.25;
+        settings.limits.low = settings.low = -40.5;
         settings.limits.inARow = 7;
         settings.windowState = "\0\xff"
                                "state";
@@ -141,6 +142,12 @@ private slots:
             model.addSent(QStringLiteral("GET %1\n").arg(i));
         QCOMPARE(model.rowCount(), TrafficModel::capacity);
         QVERIFY(model.text(0).endsWith(QLatin1String("\tGET 5")));
+        TrafficModel paused; // of what is held back the latest stays, too
+        paused.setPaused(true);
+        for (int i = 0; i <= TrafficModel::capacity; ++i)
+            paused.addSent(QStringLiteral("GET %1\n").arg(i));
+        paused.setPaused(false);
+        QVERIFY(paused.text(0).endsWith(QLatin1String("\tGET 1")));
 
         const QAbstractItemModelTester tester(
             &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -154,6 +161,8 @@ private slots:
         const QStringList cells = lines[0].split(QLatin1Char('\t'));
         QCOMPARE(cells[3], QStringLiteral("RETURN:GET odd (not understood)"));
         QVERIFY(!cells[2].isEmpty()); // the wait
+        panel.findChild<QTableView *>()->selectRow(0);
+        QCOMPARE(panel.text(), lines[0] + QLatin1Char('\n'));
     }
 
     /// The instrument serves one client: it must have seen the end of the probe before the open.
@@ -184,6 +193,8 @@ private slots:
         QVERIFY(reconnector.text().contains(QLatin1String("Next try in 4 s")));
         reconnector.stop();
         QVERIFY(reconnector.text().isEmpty());
+        reconnector.begin({true, QStringLiteral("127.0.0.1"), port}); // the waits begin anew
+        QVERIFY(reconnector.text().contains(QLatin1String("Next try in 1 s")));
     }
 
     void waitsForASerialPort()
