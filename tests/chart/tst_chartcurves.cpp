@@ -201,6 +201,15 @@ private slots:
         QCOMPARE(bench.view.figures(1).axialRatio.second, 0.0);
     }
 
+    void drawsABeamAtBothEndsOfTheSeam()
+    {
+        ChartBench bench({{-180, 0}, {-170, -10}, {0, -30}, {170, -10}, {180, 0}});
+        bench.view.setXRange(-180, 180);
+        bench.view.setBeamLevels(1, {3.0});
+        const QRectF beam = bench.path->furtherItems().at(6)->boundingRect();
+        QVERIFY(beam.width() > 0.95 * bench.view.chart()->plotArea().width());
+    }
+
     void leavesNothingBehind()
     {
         ChartBench bench(pattern(361), 1);
@@ -290,6 +299,8 @@ private slots:
         QVERIFY(width() >= plain + 6);
         QVERIFY(callout->isVisible());
         QCOMPARE(callout->text(), text("A"));
+        const auto *other = bench.view.addCurve(text("B"), {})->pathItem();
+        QVERIFY(bench.path->pathItem()->zValue() > other->zValue());
         run(bench.view, "clearSelectionSlot");
         QCOMPARE(width(), plain);
         QVERIFY(!bench.view.selectedPath());

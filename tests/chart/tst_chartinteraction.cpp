@@ -148,6 +148,11 @@ private slots:
         QTest::keyClick(&bench.view, Qt::Key_Insert);
         QTest::keyClick(&bench.view, Qt::Key_PageUp, Qt::ControlModifier);
         QCOMPARE(bench.view.selectedMark(), bench.mark(1));
+        bench.path->setHidden(true); // which the keys pass over
+        QTest::keyClick(&bench.view, Qt::Key_PageDown);
+        QCOMPARE(bench.view.selectedPath()->pathId(), 2);
+        QTest::keyClick(&bench.view, Qt::Key_PageDown);
+        QCOMPARE(bench.view.selectedPath()->pathId(), 2);
     }
 
     void takesHoldButMovesNothing()
@@ -430,6 +435,10 @@ private slots:
         QCOMPARE(table->rowCount(), 2);
         QCOMPARE(table->item(1, 0)->text(), text("M2"));
         QCOMPARE(table->item(1, 2)->text(), text("-20.00"));
+        bench.addMark(90);
+        bench.view.setMarkDeltas(true);
+        QCOMPARE(table->item(2, 0)->text(), text("M3 - M1"));
+        QVERIFY(std::abs(table->item(2, 1)->text().toDouble() - 70.0) < 0.5);
         // Every row can be seen.
         QVERIFY(table->height() >= table->horizontalHeader()->height() + 2 * table->rowHeight(0));
         // A press on the table is none on the curve below it.
@@ -438,6 +447,10 @@ private slots:
         run(bench.view, "clearSelectionSlot");
         click(bench.view, below);
         QVERIFY(!bench.view.selectedPath());
+        bench.path->setHidden(true);
+        QVERIFY(!panel->isVisible());
+        bench.path->setHidden(false);
+        QVERIFY(panel->isVisible());
         run(bench.view, "showOrHideMarkTableSlot");
         QVERIFY(!panel->isVisible());
     }

@@ -126,6 +126,9 @@ private slots:
         QCOMPARE(cell<MyComboBox>(WidthRow, 0)->currentText(), text("2"));
         QCOMPARE(curve(3)->lineWidth(), 7); // not among the widths that are offered
         QVERIFY(m_dialog->isVisible());
+        cell<MyCheckBox>(StateRow, 0)->click();
+        m_dialog->reject(); // what was tried out is taken back
+        QVERIFY(!curve(1)->isHidden());
     }
 
     void managerWritesNamesBack_data()
@@ -141,6 +144,8 @@ private slots:
         QTest::newRow("two curves swap names") << "F2|F1|F3" << none << "F2|F1|F3" << true;
         QTest::newRow("a taken name is refused, and again")
             << "F1|F3|F3" << twice << "F1|B|F3" << true;
+        const Steps close{[](QWidget *question) { question->close(); }};
+        QTest::newRow("a name of blanks is none") << " |F2|F3" << close << "F1|F2|F3" << false;
         QTest::newRow("cancelled: back to the table") << "A|F3|F3" << cancel << "F1|F2|F3" << false;
     }
 

@@ -65,7 +65,9 @@ private slots:
         runWith("copySlot", {});
         QCOMPARE(QGuiApplication::clipboard()->text(), text("F1\nAngle,Power\n0,-3.5\n90,12\n"));
         const QString path = file("曲线.csv");
+        const QSignalSpy exported(m_view.get(), &GraphicsBase::curveExported);
         runWith("exportGraphicsDataSlot", {choose(path), read("Export csv successfully")});
+        QCOMPARE(exported.size(), 1);
         QCOMPARE(contentOf(path), QByteArray("T\nF1\nAngle,Power\n0,-3.5\n90,12\n"));
         QVERIFY(remembersFolder());
     }

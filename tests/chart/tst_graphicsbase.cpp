@@ -105,6 +105,8 @@ private slots:
         view.setLimitXY({4, -20}, 0.5);
         view.panResetSlot();
         QCOMPARE(shown(view).mid(0, 2), (Ends{2, 7}));
+        view.updateChart(1, {8.0, -20});
+        QCOMPARE(shown(view).mid(0, 2), (Ends{0, 8})); // not before the beginning
         view.updateChart(1, {12.0, -20});
         QCOMPARE(shown(view).mid(0, 2), (Ends{2, 12}));
         QCOMPARE(axis(view, Qt::Horizontal)->max(), 12.0);

@@ -46,6 +46,10 @@ private slots:
             visibleSegments(Points{{1, 1}, {5, 5}, {9, 9}}, QRectF(0, 0, 10, 10), 1.0);
         QCOMPARE(thinned.constFirst().p1(), QPointF(1, 1));
         QCOMPARE(thinned.constLast().p2(), QPointF(9, 9));
+        const auto dense = visibleSegments(Points{{1, 5}, {1, 1}, {1, 9}, {1, 4}, {1, 5}},
+                                           QRectF(0, 0, 10, 10), 1.0);
+        QCOMPARE(dense.size(), 1);
+        QCOMPARE(QRectF(dense[0].p1(), dense[0].p2()).height(), 8.0);
     }
 
     void piecesJoin()

@@ -101,6 +101,7 @@ private slots:
         const auto figures = differenceFigures(first, second, 20.0);
         QVERIFY(figures.has_value());
         QCOMPARE(figures->greatest, 0.5);
+        QCOMPARE(differenceFigures(raised(first, -1.0), first, 20.0)->greatest, -1.0);
         QVERIFY(std::abs(figures->mean - 0.25) < 0.01);
         QVERIFY(std::abs(figures->rms - std::sqrt(0.125)) < 0.01);
         QVERIFY(!differenceFigures(first, {{170, 0}, {175, 0}}, 20.0));
@@ -118,6 +119,8 @@ private slots:
             << lobe(180, 0, 360) << QStringLiteral("-20 at 180");
         QTest::newRow("between points")
             << Points{{-60, -20}, {60, -16}} << QStringLiteral("-4 at 60");
+        QTest::newRow("at a corner between points")
+            << Points{{50, 0}, {70, -25}} << QStringLiteral("-7.5 at 60");
         QTest::newRow("elsewhere") << Points{{190, 0}, {205, 0}} << QString();
     }
     void masks()

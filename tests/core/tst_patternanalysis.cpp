@@ -74,6 +74,7 @@ private slots:
         QCOMPARE(figuresOf({{10, 0}, {-180, -30}, {-160, -10}}).backLobe,
                  Pair(-170, 0 - 10 * slope + slope * -170));
         QCOMPARE(figuresOf({{-170, -8}, {-170, -9}, {10, 0}}).backLobe, Pair(-170, -9));
+        QCOMPARE(figuresOf({{-180, -30}, {0, 0}, {180, -20}}).backLobe, Pair(180, -20));
         QCOMPARE(figuresOf({{7, -2}}).firstSideLobeRight, Pair(7, -2));
     }
 

@@ -1,5 +1,6 @@
 #include "2d/data/markjump.h"
 #include "2d/data/patternsupplement.h"
+#include "2d/data/polarorientation.h"
 #include "2d/data/supplementtext.h"
 #include "testmain.h"
 
@@ -147,14 +148,20 @@ private slots:
             beamWidths(points, readDrops(QStringLiteral("-6, 3")).value());
         QCOMPARE(rounded(beams.at(0).width()), 20.0F);
         QCOMPARE(rounded(beams.at(1).width()), 40.0F);
+        QCOMPARE(readDrops(QStringLiteral("-3, 3")), std::optional(QVector<double>{3.0}));
         QVERIFY(!readDrops(QStringLiteral("-3, x")) && readDrops(QString())->isEmpty());
 
+        // Four points are a circle already.
+        const Points four{{-180, 0}, {-90, -10}, {0, -20}, {90, -10}};
+        QCOMPARE(rounded(supplementaryFigures(four).halfPowerBeamWidth), 54.0F);
+        QCOMPARE(angleName(PolarLabels::HalfCircles, -180.0), QStringLiteral("180"));
         QCOMPARE(lobeTops(points).size(), 2);
         const auto target = [&points](MarkJump jump, double from) {
             return std::remainder(jumpTarget(points, jump, from).value_or(999.0), 360.0);
         };
         QCOMPARE(std::abs(target(MarkJump::Peak, 20.0)), 180.0);
-        QCOMPARE(target(MarkJump::NextPeak, -180.0), 20.0);
+        for (const double turned : {-180.0, 180.0})
+            QCOMPARE(target(MarkJump::NextPeak, turned), 20.0);
         QCOMPARE(std::abs(target(MarkJump::NextPeak, 20.0)), 180.0);
         QCOMPARE(target(MarkJump::HalfPower, 0.0), -170.0);
         QCOMPARE(target(MarkJump::HalfPower, -170.0), 170.0);

@@ -124,6 +124,8 @@ private slots:
         row("NSMA rows as field",
             changed("DBR", "LIN").replace("-20.5,", "0.1,").replace("\n0,0", "\n0,1"),
             "P1 AZ V/V @2400: -180=-10 0=10");
+        row("NSMA for a band", changed("PATFRE:,2400", "LOWFRQ:,2300\r\nHGHFRQ:,2500"),
+            "P1 AZ V/V @: -180=-10.5 0=10");
         row("NSMA wrong count", changed("NUPOIN:,2", "NUPOIN:,7"), cut, "NUPOIN announces 7");
         row("NSMA strange unit", changed("DBR", "MV"), "", "Line 3: GUNITS");
         row("NSMA cut off", nsma.left(nsma.size() - 5), "", "cut off");
@@ -232,6 +234,7 @@ private slots:
         QCOMPARE(back.cuts.first().points.size(), 360);
         for (const QPointF &point : back.cuts.first().points)
             QVERIFY(std::abs(point.y() - Circle::levelAt(asCut(cut), point.x())) <= 0.005);
+        QCOMPARE(Circle::levelAt({{-170, 0}, {0, -5}, {170, -2}}, -175), -0.5); // over the seam
     }
 
     void partOfACircleIsNotWritten()
@@ -252,6 +255,11 @@ private slots:
         cut.name = QStringLiteral("file theta 90°");
         QCOMPARE(cutsOf(read(NecFormat::write({cut}), title)),
                  cutsOf({Format::Nec, {cut}, {}, {}}));
+        cut.points = cosines(1, 0);
+        Cut bare = cut;
+        bare.frequency.clear();
+        QVERIFY(
+            write(Format::Msi, bare, cut).bytes.contains("FREQUENCY " + cut.frequency.toUtf8()));
     }
 
     void samplesAreWhatTheGeneratorWrites()

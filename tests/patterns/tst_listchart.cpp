@@ -63,6 +63,7 @@ private slots:
         const QAbstractItemModel *points = child<QTableView>("pointTable").model();
         QCOMPARE(points->columnCount(), 4);
         QCOMPARE(points->rowCount(), 361);
+        QCOMPARE(points->headerData(0, Qt::Vertical).toInt(), 1);
         QCOMPARE(points->index(0, 2).data().toString(), text("-180"));
         QCOMPARE(points->index(180, 3).data().toString(), text("5"));
     }
@@ -186,6 +187,15 @@ private slots:
         QCOMPARE(cell("paraTable", 1, 0), text("–"));
         QCOMPARE(cell("supplementaryTable", 0, 0), text("A 900 MHz"));
         QVERIFY(cell("supplementaryTable", 0, 1).toDouble() > 0.0);
+        m_form->setBeamLevels({10.0});
+        QCOMPARE(child<QTableWidget>("supplementaryTable").horizontalHeaderItem(7)->text(),
+                 text("BW -10 dB [°]"));
+        // A mask has none.
+        CurveRecord record;
+        record.isMask = true;
+        m_form->addCurve(text("M"), lobes(15, 40), record);
+        QCOMPARE(table.rowCount(), 2);
+        m_form->curves().remove(3);
         // A hidden curve has none.
         QVERIFY(edit(0, 0, text("0"), Qt::CheckStateRole));
         QVERIFY(cartesian().paths().value(1)->isHidden());
@@ -268,6 +278,7 @@ private slots:
         record.title = text("Horn, H plane");
         QCOMPARE(m_form->title(), QString());
         m_form->addCurve(text("A"), lobes(1, 40), record);
+        m_form->addCurve(text("A2"), lobes(1, 40), record);
         QCOMPARE(polar().chart()->title(), record.title);
         record.title = text("Patch");
         m_form->addCurve(text("B"), lobes(1, 40), record);

@@ -88,6 +88,7 @@ private slots:
         QCOMPARE(angles(0, 359), (Scale{0, 360, 8}));
         QCOMPARE(angles(-90, 90), (Scale{-90, 90, 6}));
         QCOMPARE(angles(-120, 60), (Scale{-180, 180, 8}));
+        QCOMPARE(angles(0, 90), (Scale{-90, 90, 6}));
         QCOMPARE(angles(-10, 10), (Scale{-10, 10, 4}));
         QCOMPARE(angles(-400, 400), (Scale{-400, 400, 8})); // more than a circle
 
@@ -267,6 +268,7 @@ private slots:
         row("row of text", "0,1\nlower half\nzero,2\n", {{0, 1}, {0, 2}}, "read as 0: 1.");
         row("row of one field", "0,1\nlower half\n", {{0, 1}}, "fewer than two fields: 1.");
         row("NaN and infinities", "0,nan\n1,inf\n-inf,2\n3,4\n", {{3, 4}}, "not finite: 3.");
+        row("another encoding", "0,1,\xe9\n", {{0, 1}}, "Windows-1252");
         row("decimal commas", "0,5,-3,5\n", {{0, 5}}, "Decimal commas");
         const QByteArray picture("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
         const QVector<Points> none;

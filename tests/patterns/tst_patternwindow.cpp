@@ -4,6 +4,7 @@
 #include "chartprobe.h"
 #include "patterns/lossactions.h"
 #include "patterns/measure/measuredialog.h"
+#include "patterns/measure/measurement.h"
 #include "patterns/measure/measurestrip.h"
 #include "patterns/measuremenu.h"
 #include "patterns/openactions.h"
@@ -18,6 +19,7 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QJsonDocument>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -143,6 +145,14 @@ private slots:
             QVERIFY(contentOf(file(name)).startsWith(start));
             QVERIFY(QFileInfo(file(name)).size() > 20000);
         }
+        CurveRecord mask;
+        mask.isMask = true;
+        curves().add(text("M"), {{-90, 0}, {90, 0}}, mask);
+        for (const bool shown : {true, false}) { // a mask that is hidden judges nothing
+            curves().setHidden(2, !shown);
+            QVERIFY(m_window->saving().saveReport(file("x.html")));
+            QCOMPARE(contentOf(file("x.html")).contains("Mask limits"), shown);
+        }
     }
 
     void lossIsAddedToACopy()
@@ -192,6 +202,10 @@ private slots:
         QVERIFY(menu->isEnabled());
         menu->actions().first()->trigger();
         QCOMPARE(other->form().curves().ids().size(), 1);
+        m_window->opening().openFiles({write("gone.csv", "T\nN\nAngle,Power\n0,1\n")});
+        QVERIFY(QFile::remove(file("gone.csv")));
+        const QString message = told([menu] { menu->actions().first()->trigger(); });
+        QVERIFY2(message.contains(text("gone.csv")), qPrintable(message));
         QCOMPARE(Workbench(file("settings.json")).recentFiles(),
                  QStringList(samplePath("horn.csv")));
     }
@@ -237,6 +251,11 @@ private slots:
         QTest::newRow("recolour") << Act([](auto &test) {
             test.m_window->form().cartesianChart().paths().value(1)->setColor(Qt::magenta);
         });
+        QTest::newRow("frequency") << Act([](auto &test) {
+            CurveRecord record = test.curves().record(1);
+            record.frequency = text("1");
+            test.curves().setRecord(1, record);
+        });
         QTest::newRow("correct") << Act([](auto &test) {
             test.m_window->losses().loadTable(samplePath("loss-table.csv"));
             test.action("actionApplyUplink").trigger();
@@ -266,6 +285,8 @@ private slots:
         act(*this);
         const QStringList after = all();
         QVERIFY(after != before);
+        const bool hides = curves().ids().contains(1);
+        curves().setHidden(1, true); // is no step, and no step undoes it
         // A curve that came in between takes the number that was given back.
         m_window->opening().openFiles({samplePath("array.csv")});
         action("actionUndo").trigger();
@@ -273,9 +294,37 @@ private slots:
         for (const QString &state : before)
             QVERIFY2(undone.contains(state), qPrintable(state));
         QVERIFY(!action("actionUndo").isEnabled());
+        QCOMPARE(curves().isHidden(1), hides);
         QCOMPARE(names(m_window->form().cartesianChart()), names(m_window->form().polarChart()));
         action("actionRedo").trigger();
         QCOMPARE(all().size(), after.size() + 1);
+    }
+
+    void operationsMakeCurves_data()
+    {
+        QTest::addColumn<QString>("made"); // the name and the level at 90 degrees of each
+        QTest::newRow("Comp&are") << "B minus A 2";
+        QTest::newRow("A&verage") << "Average of 2 curves -7.886";
+        QTest::newRow("&Envelope") << "Maximum of 2 curves -7|Minimum of 2 curves -9";
+        QTest::newRow("&Mirror Curve") << "B, mirrored -1";
+    }
+
+    void operationsMakeCurves()
+    {
+        m_window->form().addCurve(text("A"), {{-90, -4}, {0, 0}, {90, -9}});
+        m_window->form().addCurve(text("B"), {{-90, -1}, {0, 0}, {90, -7}});
+        curves().select(2);
+        for (QAction *entry : m_window->findChild<QMenu *>(text("menuEdit"))->actions()) {
+            if (entry->text() == text(QTest::currentDataTag()))
+                entry->trigger();
+        }
+        QStringList made;
+        for (const int id : curves().ids().mid(2)) {
+            made.append(curves().name(id) + QLatin1Char(' ') +
+                        QString::number(curves().points(id).last().y(), 'g', 4));
+            QVERIFY(!curves().record(id).isSaved);
+        }
+        QTEST(made.join(QLatin1Char('|')), "made");
     }
 
     void gainIsComparedWithAReference()
@@ -344,7 +393,8 @@ private slots:
         const QVector<QPointF> expected{{0, 20.87}, {2, 20.71}, {4, 20.22}};
         QTRY_COMPARE_WITH_TIMEOUT(curves().points(1), expected, 20000);
         QTRY_VERIFY(!m_window->findChild<MeasureStrip *>());
-        QVERIFY(curves().record(1).isSaved && QFile::exists(curves().record(1).file));
+        QVERIFY(curves().record(1).isSaved);
+        QVERIFY(QFile::remove(curves().record(1).file)); // the run beside it is no room either
         open();
         angles.at(0)->setValue(90);
         angles.at(1)->setValue(0);
@@ -353,6 +403,25 @@ private slots:
         QTRY_VERIFY(chamber.notes().contains(text("rotator P 90.0000 0.0000")));
         m_window->close();
         QTRY_COMPARE(chamber.notes().filter(text("rotator")).last(), text("rotator S"));
+    }
+
+    void measurementsAreRememberedAndTold()
+    {
+        const QByteArray json = R"({"serial":true,"meter":"COM3","rotator":"r:1","from":-9,"to":9,)"
+                                R"("step":3,"zero":12,"sense":-1,"settle":70,"readings":5,)"
+                                R"("tolerance":2,"returns":false,"diameter":1.5})";
+        const QJsonObject other = QJsonDocument::fromJson(json).object();
+        QCOMPARE(MeasureInputs::fromJson(other).toJson(), other);
+        RunFile run; // the first point was without a reading, and then measured again
+        RunRow row;
+        row.flags = RunFlag::Missing;
+        run.rows.append(row);
+        row.flags = RunFlag::Floor;
+        row.mean = -20.0;
+        run.rows.append(row);
+        const QString notes = recordOfRun(run, {}).notes.join(QLatin1Char('|'));
+        QVERIFY2(notes.endsWith(text("|Near the floor at 0°")), qPrintable(notes));
+        QCOMPARE(notes.count(QLatin1Char('|')), 1);
     }
 
     void unsavedCurvesAreAskedFor()
@@ -370,6 +439,7 @@ private slots:
         QCOMPARE(withSuffix(text("/a/b"), {{{}, {text("html")}}, {{}, {text("pdf")}}},
                             {{}, {text("pdf")}}),
                  std::optional(text("/a/b.pdf")));
+        QVERIFY(withSuffix(text("/a/b.HTML"), {{{}, {text("html")}}}, {{}, {text("html")}}));
         QVERIFY(!withSuffix(text("/a/b.doc"), {{{}, {text("html")}}}, {{}, {text("html")}}));
     }
 
