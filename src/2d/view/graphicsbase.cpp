@@ -198,10 +198,11 @@ void GraphicsBase::mouseReleaseEvent(QMouseEvent *event)
     }
     if (m_steering.isPanning() || !scene()->mouseGrabberItem())
         return;
-    QGraphicsView::mouseReleaseEvent(event);
-    // Of a mouse that was handed over the scene does not let go by itself.
+    // A curve only lets go: the scene would search all its items for what the pointer is over now.
     if (auto *held = dynamic_cast<MyPathItem *>(scene()->mouseGrabberItem()))
         held->ungrabMouse();
+    else
+        QGraphicsView::mouseReleaseEvent(event);
 }
 
 void GraphicsBase::mouseMoveEvent(QMouseEvent *event)
