@@ -16,24 +16,13 @@ using namespace QtCharts;
 namespace {
 
 constexpr double zoomStep = 1.25;
-constexpr double shortestTime = 0.01;   // s
-constexpr double smallestLevels = 0.01; // dB
-constexpr double keyStep = 0.1;         // of what is shown
-constexpr double reach = 6.0;           // pixels about a cursor in which it is taken hold of
-constexpr int labelRoom = 96;           // pixels for the label of a division
+constexpr double keyStep = 0.1; // of what is shown
+constexpr double reach = 6.0;   // pixels about a cursor in which it is taken hold of
+constexpr int labelRoom = 96;   // pixels for the label of a division
 constexpr int levelRoom = 40;
-constexpr int fittedDivisions = 10;
 constexpr int rightMargin = 24;
 constexpr double widestInterval = 1e9; // one division at most
 constexpr double farAnchor = 1e6;      // divisions
-
-/// \a low and \a high with a twentieth beside them, and not too close to each other.
-void widen(double &low, double &high)
-{
-    const double margin = std::max(0.05 * (high - low), 0.1);
-    low -= margin;
-    high += margin;
-}
 
 QValueAxis *axisOf(QChart &chart, Qt::Orientation orientation)
 {
@@ -100,13 +89,18 @@ void RecordChart::refresh()
     showRange(m_shown);
 }
 
+/// Of the record shown, which must not be empty.
+RecordSteering RecordChart::steering() const
+{
+    return {m_data->begin(), m_data->end()};
+}
+
 void RecordChart::showAll()
 {
     if (!hasData())
         return;
     setFitsLevel(true);
-    const double margin = std::max(0.01 * (m_data->end() - m_data->begin()), 0.5);
-    showRange({m_data->begin() - margin, m_data->end() + margin, m_shown.yMin, m_shown.yMax});
+    showRange(steering().all(m_shown));
 }
 
 void RecordChart::setFitsLevel(bool fits)
@@ -120,28 +114,15 @@ void RecordChart::setFitsLevel(bool fits)
 
 void RecordChart::showRange(ViewRange range)
 {
-    if (hasData()) {
-        // The record does not leave the middle of the view.
-        const double centre = 0.5 * (range.xMin + range.xMax);
-        const double shift = std::clamp(centre, m_data->begin(), m_data->end()) - centre;
-        range.xMin += shift;
-        range.xMax += shift;
-    }
-    if (range.xMax - range.xMin < shortestTime)
-        range.xMax = range.xMin + shortestTime;
-    if (range.yMax - range.yMin < smallestLevels)
-        range.yMax = range.yMin + smallestLevels;
+    if (hasData())
+        range = steering().held(range);
+    range = RecordSteering::largeEnough(range);
     const int width = std::max(1, static_cast<int>(m_stage.plotArea().width()));
     m_curve.show(hasData() ? m_data : nullptr, range.xMin, range.xMax, width);
     double low = 0.0;
     double high = 0.0;
-    if (m_fitsLevel && m_curve.levels(low, high)) {
-        widen(low, high);
-        // Whole divisions, so that the axis stands still from one step of a zoom to the next.
-        const double step = ClockTicks::ofLevel(low, high, fittedDivisions).interval;
-        range.yMin = std::floor(low / step) * step;
-        range.yMax = std::ceil(high / step) * step;
-    }
+    if (m_fitsLevel && m_curve.levels(low, high))
+        range = RecordSteering::levelFitted(range, low, high);
     m_shown = range;
     applyAxes();
     viewport()->update();
@@ -189,21 +170,14 @@ QPointF RecordChart::valueAt(const QPointF &position) const
 
 void RecordChart::zoomTime(double centre, double factor)
 {
-    if (!hasData())
-        return;
-    // Nothing is farther out than ten times the record.
-    const double longest = 10.0 * std::max(1.0, m_data->end() - m_data->begin());
-    const double length = m_shown.xMax - m_shown.xMin;
-    const double wanted = std::clamp(length * factor, shortestTime, longest) / length;
-    showRange({centre + (m_shown.xMin - centre) * wanted, centre + (m_shown.xMax - centre) * wanted,
-               m_shown.yMin, m_shown.yMax});
+    if (hasData())
+        showRange(steering().timeZoomed(m_shown, centre, factor));
 }
 
 void RecordChart::zoomLevel(double centre, double factor)
 {
     setFitsLevel(false);
-    showRange({m_shown.xMin, m_shown.xMax, centre + (m_shown.yMin - centre) * factor,
-               centre + (m_shown.yMax - centre) * factor});
+    showRange(RecordSteering::levelZoomed(m_shown, centre, factor));
 }
 
 void RecordChart::zoomIn()
@@ -267,9 +241,7 @@ void RecordChart::stepCursor(int points)
     if (!hasData() || m_cursors[m_active] == noPoint)
         return;
     setCursorPoint(m_active, m_cursors[m_active] + points);
-    const double time = m_data->time(m_cursors[m_active]);
-    const double edge = std::clamp(time, m_shown.xMin, m_shown.xMax);
-    showRange(m_shown.movedBy((time - edge) / (m_shown.xMax - m_shown.xMin), 0.0));
+    showRange(RecordSteering::reaching(m_shown, m_data->time(m_cursors[m_active])));
 }
 
 /// The cursor at \a position, -1 for none.

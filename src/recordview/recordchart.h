@@ -1,6 +1,7 @@
 #pragma once
 
 #include "2d/scene/chartstage.h"
+#include "recorddata/recordsteering.h"
 #include "recordview/recordcurve.h"
 
 #include <QGraphicsScene>
@@ -60,6 +61,7 @@ protected:
 
 private:
     bool hasData() const { return m_data && !m_data->isEmpty(); }
+    RecordSteering steering() const;
     void showRange(ViewRange range);
     void applyAxes();
     void zoomTime(double centre, double factor);
