@@ -24,6 +24,6 @@ struct StartOptions
     int logDays = 0;              ///< of the log to keep; 0: all
     QString language;             ///< "en", "cn" or empty: as last time
 
-    /// Reads \a arguments, the program's own name first.
+    /// Reads \a arguments, the program's own name first. What is not understood makes it a Refuse.
     static StartOptions read(const QStringList &arguments);
 };

@@ -5,12 +5,16 @@
 #include "patterns/curvefilereader.h"
 #include "patterns/filenames.h"
 #include "patterns/losscorrection.h"
+#include "patterns/measure/measureinputs.h"
+#include "patterns/measure/measurement.h"
 #include "patterns/recentfiles.h"
 #include "patterns/report.h"
 #include "patterns/workbenchsettings.h"
 #include "testfiles.h"
 #include "testmain.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -191,8 +195,8 @@ private slots:
                                "cable,downside,,dB,1,2,3\n");
         QCOMPARE(LossCorrection::load(file), QString());
         QCOMPARE(LossCorrection::tableName(), text("table.csv"));
-        const auto loss = [](LossLink link, double megahertz) {
-            const auto found = LossCorrection::at(link, megahertz).value();
+        const auto loss = [](LossLink link, double shownFrequency) {
+            const auto found = LossCorrection::at(link, shownFrequency).value();
             return text(found.extrapolated ? "%1, extrapolated" : "%1").arg(found.value);
         };
         QCOMPARE(loss(LossLink::Up, 850.0), text("1.75"));
@@ -293,6 +297,25 @@ private slots:
         const QString all = (reader.failures() + reader.remarks()).join(QLatin1Char('\n'));
         QVERIFY2(told.isEmpty() ? all.isEmpty() : all.contains(told), qPrintable(all));
         QVERIFY(all.isEmpty() || all.startsWith(text("one.csv: ")));
+    }
+
+    void measurementsAreRememberedAndTold()
+    {
+        const QByteArray json = R"({"serial":true,"meter":"COM3","rotator":"r:1","from":-9,"to":9,)"
+                                R"("step":3,"zero":12,"sense":-1,"settle":70,"readings":5,)"
+                                R"("tolerance":2,"returns":false,"diameter":1.5})";
+        const QJsonObject other = QJsonDocument::fromJson(json).object();
+        QCOMPARE(MeasureInputs::fromJson(other).toJson(), other);
+        RunFile run; // the first point was without a reading, and then measured again
+        RunRow row;
+        row.flags = RunFlag::Missing;
+        run.rows.append(row);
+        row.flags = RunFlag::Floor;
+        row.mean = -20.0;
+        run.rows.append(row);
+        const QString notes = recordOfRun(run, {}).notes.join(QLatin1Char('|'));
+        QVERIFY2(notes.endsWith(text("|Near the floor at 0°")), qPrintable(notes));
+        QCOMPARE(notes.count(QLatin1Char('|')), 1);
     }
 
     void cancelKeepsNothing()

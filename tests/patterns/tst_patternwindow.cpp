@@ -4,7 +4,6 @@
 #include "chartprobe.h"
 #include "patterns/lossactions.h"
 #include "patterns/measure/measuredialog.h"
-#include "patterns/measure/measurement.h"
 #include "patterns/measure/measurestrip.h"
 #include "patterns/measuremenu.h"
 #include "patterns/openactions.h"
@@ -19,7 +18,6 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QJsonDocument>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -403,25 +401,6 @@ private slots:
         QTRY_VERIFY(chamber.notes().contains(text("rotator P 90.0000 0.0000")));
         m_window->close();
         QTRY_COMPARE(chamber.notes().filter(text("rotator")).last(), text("rotator S"));
-    }
-
-    void measurementsAreRememberedAndTold()
-    {
-        const QByteArray json = R"({"serial":true,"meter":"COM3","rotator":"r:1","from":-9,"to":9,)"
-                                R"("step":3,"zero":12,"sense":-1,"settle":70,"readings":5,)"
-                                R"("tolerance":2,"returns":false,"diameter":1.5})";
-        const QJsonObject other = QJsonDocument::fromJson(json).object();
-        QCOMPARE(MeasureInputs::fromJson(other).toJson(), other);
-        RunFile run; // the first point was without a reading, and then measured again
-        RunRow row;
-        row.flags = RunFlag::Missing;
-        run.rows.append(row);
-        row.flags = RunFlag::Floor;
-        row.mean = -20.0;
-        run.rows.append(row);
-        const QString notes = recordOfRun(run, {}).notes.join(QLatin1Char('|'));
-        QVERIFY2(notes.endsWith(text("|Near the floor at 0°")), qPrintable(notes));
-        QCOMPARE(notes.count(QLatin1Char('|')), 1);
     }
 
     void unsavedCurvesAreAskedFor()
