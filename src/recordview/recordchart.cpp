@@ -5,6 +5,7 @@
 #include <QChart>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QSignalBlocker>
 #include <QValueAxis>
 #include <QWheelEvent>
 
@@ -22,11 +23,24 @@ constexpr int labelRoom = 96;   // pixels for the label of a division
 constexpr int levelRoom = 40;
 constexpr int rightMargin = 24;
 constexpr double widestInterval = 1e9; // one division at most
-constexpr double farAnchor = 1e6;      // divisions
 
 QValueAxis *axisOf(QChart &chart, Qt::Orientation orientation)
 {
     return qobject_cast<QValueAxis *>(chart.axes(orientation).constFirst());
+}
+
+/// With one layout of its labels; and at no time with divisions and a range that do not belong
+/// together, which would be millions.
+void setAxis(QValueAxis &axis, const ValueSpan &range, const AxisTicks &ticks)
+{
+    {
+        const QSignalBlocker quiet(&axis);
+        axis.setTickAnchor(ticks.first);
+        axis.setTickInterval(ticks.interval);
+    }
+    if (qFuzzyCompare(axis.min(), range.low) && qFuzzyCompare(axis.max(), range.high))
+        emit axis.tickIntervalChanged(ticks.interval);
+    axis.setRange(range.low, range.high);
 }
 
 } // namespace
@@ -136,26 +150,13 @@ void RecordChart::applyAxes()
     const AxisTicks level = ClockTicks::ofLevel(
         m_shown.yMin, m_shown.yMax, std::max(2, static_cast<int>(area.height()) / levelRoom));
     const ChartStage::LayoutGuard guard(m_stage);
-    const auto apply = [](QValueAxis *axis, double anchor, double interval, const auto &setRange) {
-        // With a wide step first, the axis never has to place more divisions than it will have.
-        // It counts those from its anchor to the range as an int.
-        const double way = std::abs(anchor - axis->tickAnchor());
-        const bool isFar = way > farAnchor * std::min(interval, axis->tickInterval());
-        const double wide = isFar ? widestInterval : interval;
-        if (wide > axis->tickInterval())
-            axis->setTickInterval(wide);
-        setRange();
-        axis->setTickAnchor(anchor);
-        axis->setTickInterval(interval);
-    };
-    apply(m_xAxis, time.first - m_origin, time.interval,
-          [this] { m_stage.setXRange(m_shown.xMin - m_origin, m_shown.xMax - m_origin); });
     const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(level.interval))), 0, 4);
     const QString format = QStringLiteral("%.%1f").arg(decimals);
     if (m_yAxis->labelFormat() != format)
         m_yAxis->setLabelFormat(format);
-    apply(m_yAxis, level.first, level.interval,
-          [this] { m_stage.setYRange(m_shown.yMin, m_shown.yMax); });
+    setAxis(*m_xAxis, {m_shown.xMin - m_origin, m_shown.xMax - m_origin},
+            {time.first - m_origin, time.interval});
+    setAxis(*m_yAxis, {m_shown.yMin, m_shown.yMax}, level);
 }
 
 QPointF RecordChart::valueAt(const QPointF &position) const
