@@ -10,6 +10,7 @@
 #include <QAbstractItemModelTester>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
