@@ -9,10 +9,6 @@
 #include <QMovie>
 #include <QWindow>
 
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
-
 namespace {
 
 constexpr QSize pictureSize(40, 40);
@@ -23,14 +19,7 @@ enum MessageKind { Success = 0, Failure = 1, Working = 2 };
 /// nobody there moves windows.
 bool moveByCaption(QWidget *window)
 {
-#ifdef Q_OS_WIN
-    constexpr WPARAM moveByCaptionCommand = 0xF012;
-    ReleaseCapture();
-    SendMessageW(reinterpret_cast<HWND>(window->winId()), WM_SYSCOMMAND, moveByCaptionCommand, 0);
-    return true;
-#else
     return window->windowHandle() && window->windowHandle()->startSystemMove();
-#endif
 }
 
 } // namespace
