@@ -299,6 +299,8 @@ private slots:
 
     void serialLineThatHangsUpWhilePollingRestsIsTold()
     {
+        if (!SimulatorProcess::hasSerialPort)
+            QSKIP(SimulatorProcess::noSerialPort);
         SimulatorProcess simulator("--serial --fault refuse");
         const ConsoleTester console;
         QVERIFY(console.window().openPort(simulator.serialPath(), 115200));

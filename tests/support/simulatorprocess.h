@@ -12,6 +12,14 @@ class QProcess;
 class SimulatorProcess
 {
 public:
+    /// Whether it can offer a serial port, and what to tell where a test skips for want of one.
+#ifdef Q_OS_WIN
+    static constexpr bool hasSerialPort = false;
+#else
+    static constexpr bool hasSerialPort = true;
+#endif
+    static constexpr char noSerialPort[] = "the simulator has no serial port on this system";
+
     SimulatorProcess();
     /// Starts at once, with \a options with blanks between them; the test program ends if it
     /// cannot.
