@@ -35,8 +35,9 @@ if(CLI11_HEADERS AND NOT CLI11_DIR)
 ]])
 endif()
 
-# Tests run where they are built as far as Wine is there.
+# Tests run where they are built as far as Wine is there, for which this machine's folders lie on a drive.
 find_program(wine NAMES wine64 wine)
 if(wine)
     set(CMAKE_CROSSCOMPILING_EMULATOR "${wine}")
+    set(MZ_DRIVE Z:)
 endif()
