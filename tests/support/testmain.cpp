@@ -100,6 +100,13 @@ void pinEnvironment()
 {
     if (qEnvironmentVariableIsEmpty("MZ_TEST_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#ifdef Q_OS_WIN
+    // QtTest tells debuggers alone where there is no console.
+    qputenv("QT_FORCE_STDERR_LOGGING", "1");
+    // The platform without a screen looks for fonts beside Qt, which brings none.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_FONTDIR"))
+        qputenv("QT_QPA_FONTDIR", qgetenv("WINDIR") + "\\Fonts");
+#endif
     qputenv("TZ", "UTC");
     // The programs show and read numbers with a point in every language.
     const QByteArray language = qgetenv("MZ_TEST_LOCALE");
