@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QTemporaryDir>
 
@@ -33,7 +34,8 @@ ModalScript::Step choose(const QString &file, bool vanishes = false)
         auto *dialog = qobject_cast<QFileDialog *>(window);
         QVERIFY(dialog);
         dialog->setDirectory(QFileInfo(file).path());
-        dialog->selectFile(QFileInfo(file).fileName());
+        // Selecting the file would leave a text alone that has the focus already.
+        dialog->findChild<QLineEdit *>()->setText(QFileInfo(file).fileName());
         static_cast<QDialog *>(dialog)->accept();
         if (vanishes)
             QFile::remove(file);

@@ -28,9 +28,12 @@ QStringList treeOf(const QString &folder)
                       QDirIterator::Subdirectories);
     while (each.hasNext()) {
         each.next();
+        // A folder's time changes by the trial where no file can be made without a name.
+        const QFileInfo entry = each.fileInfo();
+        const QDateTime time = entry.isDir() ? QDateTime() : entry.lastModified();
         content.append(QStringLiteral("%1 %2 %3")
-                           .arg(each.filePath(), QString::number(each.fileInfo().size()),
-                                each.fileInfo().lastModified().toString(Qt::ISODateWithMs)));
+                           .arg(each.filePath(), QString::number(entry.size()),
+                                time.toString(Qt::ISODateWithMs)));
     }
     content.sort();
     return content;

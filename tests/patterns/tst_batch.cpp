@@ -128,7 +128,7 @@ private slots:
         process.setProcessEnvironment(environment);
         process.start(text(MZ_BIN_DIR "/mz6218-patterns"),
                       words("--report r.html a.csv round.msi missing.csv"));
-        QVERIFY(process.waitForFinished());
+        QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
         QCOMPARE(process.exitCode(), int(Batch::Failed));
         QVERIFY(process.readAllStandardError().startsWith("missing.csv: "));
         const QByteArray report = contentOf(text("r.html"));
