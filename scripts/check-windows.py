@@ -182,6 +182,8 @@ def measures(wine, folder):
     finally:
         simulator.kill()
         simulator.wait()
+        # A desktop that the simulator brought up off the screen would show no later program.
+        wine.ends()
 
 
 def installs(wine, deployed):
