@@ -151,7 +151,7 @@ def fonts_in(folder):
 def passes_tests(wine, folder, qt):
     """Whether the tests in FOLDER pass; tells how many did, and what was skipped for which reason."""
     # Wine hands on Qt's variables by these names alone.
-    tests = wine("ctest", "--test-dir", folder, "--output-on-failure", WINEQT_PLUGIN_PATH=f"{qt}/plugins",
+    tests = wine("ctest", "--test-dir", folder, "--output-on-failure", WINEQT_PLUGIN_PATH=f"Z:{qt}/plugins",
                  WINEQT_QPA_FONTDIR=f"Z:{fonts_in(folder / 'fonts')}",
                  WINEPATH=f"{folder / 'deployed/bin'};{qt}/bin")
     rows = (folder / "Testing/Temporary/LastTest.log").read_text(encoding="utf-8", errors="replace").splitlines()

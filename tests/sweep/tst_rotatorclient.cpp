@@ -76,7 +76,7 @@ QByteArrayList usual(const QByteArray &line)
 
 RotatorWaits shortWaits()
 {
-    return {500, 300, 150, 20, 40};
+    return {500, 300, 300, 20, 40};
 }
 
 } // namespace
@@ -154,7 +154,7 @@ private slots:
         QTRY_COMPARE(moved.count(), 1);
         QCOMPARE(server.lines, QByteArrayList{"P 30.0000 3.0000"}); // the elevation as it was read
         server.say("99.00\n99.00\n");                               // a reply to nobody
-        QTest::qWait(30);
+        QTest::qWait(100);
         client.readPosition();
         QTRY_COMPARE(positions.count(), 1);
         QCOMPARE(positions.at(0).at(1).toDouble(), -12.5);
