@@ -46,10 +46,10 @@ int main(int argc, char **argv)
     if (!line.command)
         return line.status;
     int status = 0;
-    QObject::connect(line.command.get(), &Command::finished, &app, [&status](int how) {
+    QObject::connect(line.command.get(), &Command::finished, &app, [&app, &status](int how) {
         status = how;
         // Not before the loop runs, which a command may be quicker than.
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&app, &QCoreApplication::quit, Qt::QueuedConnection);
     });
     onStopSignals([&line] { line.command->stop(); });
     line.command->start();

@@ -49,8 +49,9 @@ void onStopSignals(std::function<void()> stop)
     for (const int end : ends)
         ::fcntl(end, F_SETFD, FD_CLOEXEC);
     writeEnd = ends[1];
-    auto *const notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, qApp);
-    QObject::connect(notifier, &QSocketNotifier::activated, qApp,
+    QCoreApplication *const program = QCoreApplication::instance();
+    auto *const notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, program);
+    QObject::connect(notifier, &QSocketNotifier::activated, program,
                      [readEnd = ends[0], stop = std::move(stop)] {
                          take(readEnd);
                          stop();
@@ -76,9 +77,9 @@ std::function<void()> stopProgram;
 /// Called in a thread of the system's.
 BOOL WINAPI handle(DWORD event)
 {
-    if (qApp)
+    if (QCoreApplication *program = QCoreApplication::instance())
         QMetaObject::invokeMethod(
-            qApp, [] { stopProgram(); }, Qt::QueuedConnection);
+            program, [] { stopProgram(); }, Qt::QueuedConnection);
     // The system ends the program as soon as this returns, but for Ctrl+C and Ctrl+Break.
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
         ::Sleep(INFINITE);

@@ -178,9 +178,9 @@ private slots:
         QCOMPARE(read->toText(), written.toText());
     }
 
-#ifdef Q_OS_UNIX
     void tornLineIsTakenBack()
     {
+#ifdef Q_OS_UNIX
         const QString path = write(QStringLiteral("1.csv"), "head\nrow\n");
         const auto handler = std::signal(SIGXFSZ, SIG_IGN);
         rlimit usual{};
@@ -192,8 +192,10 @@ private slots:
         std::signal(SIGXFSZ, handler);
         QCOMPARE(outcome.kind, FileOutcome::Kind::WriteFailed);
         QCOMPARE(contentOf(path), QByteArray("head\nrow\n"));
-    }
+#else
+        QSKIP("a process cannot be kept from writing here");
 #endif
+    }
 
     /// What becomes of a disk that fails is tried by the campaign of the files.
     void writesIntoDevicesAndRefusesFolders()
