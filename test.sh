@@ -50,4 +50,4 @@ if [[ $preset != sanitize ]]; then
     fi
 fi
 # More than there are cores, since the slowest mostly wait for an instrument.
-ctest --test-dir "$folder" --parallel $((2 * $(nproc))) --output-on-failure </dev/null
+ctest --test-dir "$folder" --parallel $((2 * $(nproc) + 1)) --output-on-failure </dev/null
