@@ -49,5 +49,5 @@ if [[ $preset != sanitize ]]; then
         localedef --inputfile=de_DE --charmap=UTF-8 "$LOCPATH/$MZ_TEST_LOCALE"
     fi
 fi
-# More than there are cores, since the slowest mostly wait for an instrument.
-ctest --test-dir "$folder" --parallel $((2 * $(nproc) + 1)) --output-on-failure </dev/null
+# Three to a core, since the slowest mostly wait for an instrument.
+ctest --test-dir "$folder" --parallel $((3 * $(nproc))) --output-on-failure </dev/null
