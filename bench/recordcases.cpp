@@ -83,7 +83,7 @@ double zoomStepMs(const RecordData &day)
             chart.zoomIn();
         else
             chart.zoomOut();
-        chart.viewport()->repaint();
+        chart.repaint();
     });
 }
 

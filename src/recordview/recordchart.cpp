@@ -1,76 +1,30 @@
 #include "recordview/recordchart.h"
 
-#include "recorddata/clockticks.h"
-
-#include <QChart>
 #include <QContextMenuEvent>
 #include <QMenu>
-#include <QSignalBlocker>
-#include <QValueAxis>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
-
-using namespace QtCharts;
 
 namespace {
 
 constexpr double zoomStep = 1.25;
 constexpr double keyStep = 0.1; // of what is shown
 constexpr double reach = 6.0;   // pixels about a cursor in which it is taken hold of
-constexpr int labelRoom = 96;   // pixels for the label of a division
-constexpr int levelRoom = 40;
-constexpr int rightMargin = 24;
-constexpr double widestInterval = 1e9; // one division at most
-
-QValueAxis *axisOf(QChart &chart, Qt::Orientation orientation)
-{
-    return qobject_cast<QValueAxis *>(chart.axes(orientation).constFirst());
-}
-
-/// With one layout of its labels; and at no time with divisions and a range that do not belong
-/// together, which would be millions.
-void setAxis(QValueAxis &axis, const ValueSpan &range, const AxisTicks &ticks)
-{
-    {
-        const QSignalBlocker quiet(&axis);
-        axis.setTickAnchor(ticks.first);
-        axis.setTickInterval(ticks.interval);
-    }
-    if (qFuzzyCompare(axis.min(), range.low) && qFuzzyCompare(axis.max(), range.high))
-        emit axis.tickIntervalChanged(ticks.interval);
-    axis.setRange(range.low, range.high);
-}
 
 } // namespace
 
 RecordChart::RecordChart(QWidget *parent)
-    : QGraphicsView(parent)
-    , m_stage(0, m_scene)
+    : QWidget(parent)
 {
-    setScene(&m_scene);
     setObjectName(QStringLiteral("recordChart"));
-    m_scene.setBackgroundBrush(Qt::white);
-    m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setViewportUpdateMode(FullViewportUpdate);
-    setRenderHint(QPainter::Antialiasing, false);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
-    const QFontMetrics metrics(font());
-    m_stage.chart()->setMargins(QMargins(0, 4, rightMargin, 2 * metrics.height() + 8));
-    m_xAxis = axisOf(*m_stage.chart(), Qt::Horizontal);
-    m_yAxis = axisOf(*m_stage.chart(), Qt::Vertical);
-    m_stage.leaveGridToAxes();
-    m_xAxis->setLabelsVisible(false);
-    m_xAxis->setTitleVisible(false);
-    for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
-        axis->setTickInterval(widestInterval); // before any range is known
-        axis->setTickType(QValueAxis::TicksDynamic);
-        axis->setGridLinePen(QPen(QColor(0xe2, 0xe6, 0xea), 0.0));
-    }
+    setMouseTracking(true);
+    constexpr int legible = 120;
+    setMinimumSize(legible, legible);
     retranslate();
 }
 
@@ -79,8 +33,8 @@ void RecordChart::retranslate()
     setAccessibleName(tr("Record"));
     setAccessibleDescription(tr("Level against the clock time, with cursors A and B"));
     const bool isRelative = hasData() && m_data->isRelative(0);
-    m_stage.setYTitle(isRelative ? tr("Power [dB]") : tr("Power [dBm]"));
-    viewport()->update();
+    m_axes.setTitle(isRelative ? tr("Power [dB]") : tr("Power [dBm]"));
+    update();
 }
 
 void RecordChart::setData(const RecordData *record, bool keepRange)
@@ -88,7 +42,6 @@ void RecordChart::setData(const RecordData *record, bool keepRange)
     m_data = record;
     if (!keepRange) {
         m_cursors = {noPoint, noPoint};
-        m_origin = hasData() ? std::floor(record->begin()) : 0.0;
         showAll();
     }
     for (int &cursor : m_cursors)
@@ -131,37 +84,26 @@ void RecordChart::showRange(ViewRange range)
     if (hasData())
         range = steering().held(range);
     range = RecordSteering::largeEnough(range);
-    const int width = std::max(1, static_cast<int>(m_stage.plotArea().width()));
-    m_curve.show(hasData() ? m_data : nullptr, range.xMin, range.xMax, width);
+    const auto showColumns = [this, &range](int width) {
+        m_curve.show(hasData() ? m_data : nullptr, range.xMin, range.xMax, width);
+    };
+    const auto width = [this] { return std::max(1, static_cast<int>(plotArea().width())); };
+    const int widthBefore = width();
+    showColumns(widthBefore);
     double low = 0.0;
     double high = 0.0;
     if (m_fitsLevel && m_curve.levels(low, high))
         range = RecordSteering::levelFitted(range, low, high);
+    m_axes.show(range, size(), font());
+    if (width() != widthBefore) // as the labels became wider or narrower
+        showColumns(width());
     m_shown = range;
-    applyAxes();
-    viewport()->update();
-}
-
-void RecordChart::applyAxes()
-{
-    const QRectF area = m_stage.plotArea();
-    const int most = std::max(1, static_cast<int>(area.width()) / labelRoom);
-    const AxisTicks time = ClockTicks::ofTime(m_shown.xMin, m_shown.xMax, most);
-    const AxisTicks level = ClockTicks::ofLevel(
-        m_shown.yMin, m_shown.yMax, std::max(2, static_cast<int>(area.height()) / levelRoom));
-    const ChartStage::LayoutGuard guard(m_stage);
-    const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(level.interval))), 0, 4);
-    const QString format = QStringLiteral("%.%1f").arg(decimals);
-    if (m_yAxis->labelFormat() != format)
-        m_yAxis->setLabelFormat(format);
-    setAxis(*m_xAxis, {m_shown.xMin - m_origin, m_shown.xMax - m_origin},
-            {time.first - m_origin, time.interval});
-    setAxis(*m_yAxis, {m_shown.yMin, m_shown.yMax}, level);
+    update();
 }
 
 QPointF RecordChart::valueAt(const QPointF &position) const
 {
-    const QRectF area = m_stage.plotArea();
+    const QRectF area = plotArea();
     return {
         m_shown.xMin + (position.x() - area.left()) / area.width() * (m_shown.xMax - m_shown.xMin),
         m_shown.yMax - (position.y() - area.top()) / area.height() * (m_shown.yMax - m_shown.yMin)};
@@ -214,9 +156,7 @@ void RecordChart::wheelEvent(QWheelEvent *event)
 
 void RecordChart::resizeEvent(QResizeEvent *event)
 {
-    QGraphicsView::resizeEvent(event);
-    m_scene.setSceneRect(QRectF(QPointF(), event->size()));
-    m_stage.resize(event->size());
+    QWidget::resizeEvent(event);
     refresh();
 }
 
@@ -226,7 +166,7 @@ void RecordChart::setCursorPoint(Cursor cursor, int point)
 {
     m_cursors[cursor] = hasData() ? std::clamp(point, 0, m_data->size() - 1) : noPoint;
     m_active = cursor;
-    viewport()->update();
+    update();
     emit cursorsMoved();
 }
 
@@ -248,7 +188,7 @@ void RecordChart::stepCursor(int points)
 /// The cursor at \a position, -1 for none.
 int RecordChart::cursorAt(const QPointF &position) const
 {
-    const QRectF area = m_stage.plotArea();
+    const QRectF area = plotArea();
     for (const Cursor cursor : {A, B}) {
         if (m_cursors[cursor] == noPoint)
             continue;
@@ -277,13 +217,13 @@ void RecordChart::mouseMoveEvent(QMouseEvent *event)
     const QPointF way = event->localPos() - m_pressed;
     if (m_drag == Drag::None) {
         const bool onCursor = hasData() && cursorAt(event->localPos()) != noPoint;
-        viewport()->setCursor(onCursor ? Qt::SplitHCursor : Qt::ArrowCursor);
+        setCursor(onCursor ? Qt::SplitHCursor : Qt::ArrowCursor);
     } else if (m_drag == Drag::Cursor) {
         placeCursor(m_active, valueAt(event->localPos()).x());
     } else if (m_drag == Drag::Pan || way.manhattanLength() > reach) {
         m_drag = Drag::Pan;
-        viewport()->setCursor(Qt::ClosedHandCursor);
-        const QRectF area = m_stage.plotArea();
+        setCursor(Qt::ClosedHandCursor);
+        const QRectF area = plotArea();
         showRange(m_pressedRange.movedBy(-way.x() / area.width(),
                                          m_fitsLevel ? 0.0 : way.y() / area.height()));
     }
@@ -296,7 +236,7 @@ void RecordChart::mouseReleaseEvent(QMouseEvent *event)
     if (m_drag == Drag::Undecided)
         placeCursor(event->modifiers() & Qt::ShiftModifier ? B : A, valueAt(m_pressed).x());
     m_drag = Drag::None;
-    viewport()->setCursor(Qt::ArrowCursor);
+    setCursor(Qt::ArrowCursor);
 }
 
 void RecordChart::contextMenuEvent(QContextMenuEvent *event)
@@ -342,61 +282,32 @@ void RecordChart::keyPressEvent(QKeyEvent *event)
     case Qt::Key_B:
         return placeCursor(B, centre.x());
     default:
-        QGraphicsView::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
     }
 }
 
 // --- Drawing
 
-void RecordChart::drawForeground(QPainter *painter, const QRectF &rect)
+void RecordChart::paintEvent(QPaintEvent *event)
 {
-    Q_UNUSED(rect)
-    const ChartMapping mapping = m_stage.mapping();
-    if (!mapping.isUsable() || !hasData())
+    QPainter painter(this);
+    painter.fillRect(event->rect(), Qt::white);
+    m_axes.paint(painter);
+    if (!hasData())
         return;
-    m_curve.draw(*painter, mapping, m_origin);
-    painter->save();
-    drawClock(*painter, mapping);
+    m_axes.paintClock(painter);
+    m_curve.draw(painter, m_axes.mapping());
     for (const Cursor cursor : {A, B})
-        drawCursor(*painter, mapping, cursor);
-    painter->restore();
+        drawCursor(painter, cursor);
 }
 
-/// The clock times below the axis, and the day of its begin below them.
-void RecordChart::drawClock(QPainter &painter, const ChartMapping &mapping) const
-{
-    constexpr double gap = 4.0;
-    const QRectF area = mapping.plotArea;
-    const QFontMetricsF metrics(painter.font());
-    const AxisTicks ticks =
-        ClockTicks::ofTime(m_shown.xMin, m_shown.xMax, std::max(1, int(area.width()) / labelRoom));
-    painter.setPen(Qt::black);
-    const int count = static_cast<int>((m_shown.xMax - ticks.first) / ticks.interval);
-    for (int i = 0; i <= count; ++i) {
-        const double time = ticks.first + i * ticks.interval;
-        if (time < m_shown.xMin)
-            continue;
-        const double x = mapping.toScene(QPointF(time - m_origin, 0.0)).x();
-        const QString label = ClockTicks::label(time, ticks.interval);
-        painter.drawText(QPointF(x - 0.5 * metrics.horizontalAdvance(label),
-                                 area.bottom() + gap + metrics.ascent()),
-                         label);
-    }
-    const QString from = ClockTicks::text(m_shown.xMin).left(19);
-    const QString to = ClockTicks::text(m_shown.xMax).left(19);
-    const double line = area.bottom() + gap + metrics.height() + metrics.ascent();
-    painter.setPen(QColor(0x46, 0x53, 0x5f));
-    painter.drawText(QPointF(area.left(), line), from);
-    painter.drawText(QPointF(area.right() - metrics.horizontalAdvance(to), line), to);
-}
-
-void RecordChart::drawCursor(QPainter &painter, const ChartMapping &mapping, Cursor cursor) const
+void RecordChart::drawCursor(QPainter &painter, Cursor cursor) const
 {
     const int point = m_cursors[cursor];
     if (point == noPoint)
         return;
-    const QRectF area = mapping.plotArea;
-    const QPointF place = mapping.toScene({m_data->time(point) - m_origin, m_data->level(point)});
+    const QRectF &area = plotArea();
+    const QPointF place = m_axes.mapping().toScene({m_data->time(point), m_data->level(point)});
     if (place.x() < area.left() || place.x() > area.right())
         return;
     const QColor color = cursor == A ? QColor(0xc2, 0x3b, 0x22) : QColor(0x2e, 0x7d, 0x32);

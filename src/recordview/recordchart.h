@@ -1,11 +1,10 @@
 #pragma once
 
-#include "2d/scene/chartstage.h"
 #include "recorddata/recordsteering.h"
+#include "recordview/recordaxes.h"
 #include "recordview/recordcurve.h"
 
-#include <QGraphicsScene>
-#include <QGraphicsView>
+#include <QWidget>
 
 #include <array>
 
@@ -13,7 +12,7 @@
 ///
 /// The wheel zooms the time about the pointer, with Ctrl the level; dragging pans, or moves the
 /// cursor that it began on. A click puts cursor A on the nearest point, with Shift cursor B.
-class RecordChart : public QGraphicsView
+class RecordChart : public QWidget
 {
     Q_OBJECT
 
@@ -50,7 +49,7 @@ signals:
     void fitsLevelChanged(bool fits);
 
 protected:
-    void drawForeground(QPainter *painter, const QRectF &rect) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -63,7 +62,6 @@ private:
     bool hasData() const { return m_data && !m_data->isEmpty(); }
     RecordSteering steering() const;
     void showRange(ViewRange range);
-    void applyAxes();
     void zoomTime(double centre, double factor);
     void zoomLevel(double centre, double factor);
     void pan(double widths, double heights);
@@ -71,17 +69,13 @@ private:
     void placeCursor(Cursor cursor, double time);
     int cursorAt(const QPointF &position) const;
     QPointF valueAt(const QPointF &position) const;
-    void drawClock(QPainter &painter, const ChartMapping &mapping) const;
-    void drawCursor(QPainter &painter, const ChartMapping &mapping, Cursor cursor) const;
+    void drawCursor(QPainter &painter, Cursor cursor) const;
+    const QRectF &plotArea() const { return m_axes.mapping().plotArea; }
 
-    QGraphicsScene m_scene;
-    ChartStage m_stage;
-    QtCharts::QValueAxis *m_xAxis;
-    QtCharts::QValueAxis *m_yAxis;
+    RecordAxes m_axes;
     RecordCurve m_curve;
     const RecordData *m_data = nullptr;
     ViewRange m_shown{0.0, 1.0, -100.0, 0.0};
-    double m_origin = 0.0; ///< where the axis begins to count: small numbers stay exact
     bool m_fitsLevel = true;
     std::array<int, 2> m_cursors{noPoint, noPoint};
     Cursor m_active = A;

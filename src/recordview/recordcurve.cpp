@@ -41,7 +41,7 @@ bool RecordCurve::levels(double &low, double &high) const
     return true;
 }
 
-void RecordCurve::draw(QPainter &painter, const ChartMapping &mapping, double origin) const
+void RecordCurve::draw(QPainter &painter, const ChartMapping &mapping) const
 {
     if (m_columns.empty())
         return;
@@ -51,15 +51,15 @@ void RecordCurve::draw(QPainter &painter, const ChartMapping &mapping, double or
     constexpr int denseColumn = 2;
     const int points = m_columns.back().last - m_columns.front().first;
     if (points > denseColumn * static_cast<int>(m_columns.size()))
-        drawBars(painter, mapping, origin);
+        drawBars(painter, mapping);
     else
-        drawLines(painter, mapping, origin);
+        drawLines(painter, mapping);
     painter.restore();
 }
 
 /// A bar for each column from its lowest to its highest level, reaching to where the column before
 /// ended. Filling rectangles of whole pixels costs a small part of stroking lines.
-void RecordCurve::drawBars(QPainter &painter, const ChartMapping &mapping, double origin) const
+void RecordCurve::drawBars(QPainter &painter, const ChartMapping &mapping) const
 {
     constexpr double adjacent = 1.5; // pixels
     QVector<QRect> bars;
@@ -67,7 +67,7 @@ void RecordCurve::drawBars(QPainter &painter, const ChartMapping &mapping, doubl
     bars.reserve(static_cast<int>(m_columns.size()));
     QPointF before;
     const auto place = [&](int point) {
-        return mapping.toScene(QPointF(m_data->time(point) - origin, m_data->level(point)));
+        return mapping.toScene(QPointF(m_data->time(point), m_data->level(point)));
     };
     // Where points lie within their columns must not leave a pixel out between two of these.
     const int left = qRound(mapping.plotArea.left());
@@ -96,7 +96,7 @@ void RecordCurve::drawBars(QPainter &painter, const ChartMapping &mapping, doubl
     painter.drawLines(lines);
 }
 
-void RecordCurve::drawLines(QPainter &painter, const ChartMapping &mapping, double origin) const
+void RecordCurve::drawLines(QPainter &painter, const ChartMapping &mapping) const
 {
     QVector<QPointF> line;
     QVector<QPointF> dots;
@@ -126,7 +126,7 @@ void RecordCurve::drawLines(QPainter &painter, const ChartMapping &mapping, doub
         int before = -1;
         for (const int point : points) {
             if (point != before)
-                line.append(mapping.toScene({m_data->time(point) - origin, m_data->level(point)}));
+                line.append(mapping.toScene({m_data->time(point), m_data->level(point)}));
             before = point;
         }
     }

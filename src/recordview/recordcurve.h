@@ -16,12 +16,12 @@ public:
     /// The lowest and the highest level of it; false when there is none.
     bool levels(double &low, double &high) const;
 
-    /// Draws it; the x axis of \a mapping counts seconds from \a origin.
-    void draw(QPainter &painter, const ChartMapping &mapping, double origin) const;
+    /// Draws it at the places of its times and levels.
+    void draw(QPainter &painter, const ChartMapping &mapping) const;
 
 private:
-    void drawBars(QPainter &painter, const ChartMapping &mapping, double origin) const;
-    void drawLines(QPainter &painter, const ChartMapping &mapping, double origin) const;
+    void drawBars(QPainter &painter, const ChartMapping &mapping) const;
+    void drawLines(QPainter &painter, const ChartMapping &mapping) const;
 
     const RecordData *m_data = nullptr;
     double m_from = 0.0;

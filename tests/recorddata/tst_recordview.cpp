@@ -98,14 +98,14 @@ private slots:
         QCOMPARE(chart->shownRange().xMin, all.xMin);
         QVERIFY(chart->fitsLevel());
 
-        const QPoint middle = chart->viewport()->rect().center();
-        QTest::mouseClick(chart->viewport(), Qt::LeftButton, {}, middle);
+        const QPoint middle = chart->rect().center();
+        QTest::mouseClick(chart, Qt::LeftButton, {}, middle);
         QVERIFY(chart->cursor(RecordChart::A) != RecordChart::noPoint);
-        QTest::mousePress(chart->viewport(), Qt::LeftButton, {}, middle + QPoint(100, 0));
+        QTest::mousePress(chart, Qt::LeftButton, {}, middle + QPoint(100, 0));
         QMouseEvent move(QEvent::MouseMove, middle + QPoint(200, 0), Qt::NoButton, Qt::LeftButton,
                          {});
-        QApplication::sendEvent(chart->viewport(), &move);
-        QTest::mouseRelease(chart->viewport(), Qt::LeftButton, {}, middle + QPoint(200, 0));
+        QApplication::sendEvent(chart, &move);
+        QTest::mouseRelease(chart, Qt::LeftButton, {}, middle + QPoint(200, 0));
         const double width = all.xMax - all.xMin;
         QVERIFY(chart->shownRange().xMin < all.xMin);
         QVERIFY(chart->shownRange().xMin > all.xMin - 0.5 * width);

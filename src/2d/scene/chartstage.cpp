@@ -370,15 +370,6 @@ void ChartStage::setPolarView(const PolarView &view)
     placeDirections();
 }
 
-void ChartStage::leaveGridToAxes()
-{
-    m_grid->hide();
-    for (QValueAxis *axis : {m_xAxis, m_yAxis}) {
-        axis->setGridLineVisible(true);
-        axis->setLineVisible(true);
-    }
-}
-
 void ChartStage::placeGrid()
 {
     m_grid->show({plotArea(), m_xAxis->tickCount(), m_yAxis->tickCount(), isPolar(),

@@ -69,8 +69,6 @@ public:
     /// One less than the number of ticks; along the bottom fewer where they find no room.
     void setXDivisions(int divisions);
     void setYDivisions(int divisions);
-    /// For axes whose ticks do not divide their range evenly: they draw lines and grid themselves.
-    void leaveGridToAxes();
     /// A printf format of a double for the numbers along both axes. Where it would show different
     /// numbers alike, as after zooming, they get the digits that they need.
     void setLabelFormat(const QString &format);
