@@ -141,7 +141,9 @@ private slots:
         const Prepare nothing([](const QDir &) {});
         const QString none;
         const QString answer = QStringLiteral("OK     %1: answers as \"MZ6218");
+#ifdef Q_OS_UNIX // elsewhere there always is one
         QTest::newRow("no display") << nothing << none << "note   There is no display";
+#endif
         QTest::newRow("instrument in the network") << nothing << "LAN" << answer;
         QTest::newRow("instrument at a port") << nothing << "serial" << answer;
         QTest::newRow("nobody at the address") << nothing << "127.255.0.1"
@@ -162,22 +164,23 @@ private slots:
 
     void examines()
     {
-#ifdef Q_OS_WIN
-        QSKIP("there is always a display on this system, and the simulator has no serial port");
-#endif
         QFETCH(Prepare, prepare);
         QFETCH(QString, address);
         QFETCH(QString, said);
+        if (!SimulatorProcess::hasSerialPort && address == QStringLiteral("serial"))
+            QSKIP(SimulatorProcess::noSerialPort);
         SimulatorProcess simulator;
-        QVERIFY(simulator.startOnInstrumentPort({QStringLiteral("--serial")}));
+        QVERIFY(simulator.startOnInstrumentPort(
+            words(SimulatorProcess::hasSerialPort ? "--serial" : "")));
         if (address == QStringLiteral("LAN"))
             address = simulator.address();
         else if (address == QStringLiteral("serial"))
             address = simulator.serialPath();
 
         const QTemporaryDir folder;
-        const QString copy = folder.filePath(QStringLiteral("mz6218"));
-        QVERIFY(QFile::copy(QStringLiteral(MZ_BIN_DIR "/mz6218"), copy));
+        const QString built = QStandardPaths::findExecutable(text("mz6218"), {text(MZ_BIN_DIR)});
+        const QString copy = folder.filePath(QFileInfo(built).fileName());
+        QVERIFY(QFile::copy(built, copy));
         prepare(QDir(folder.path()));
         const QStringList before = treeOf(folder.path());
         QProcess program;
@@ -199,6 +202,8 @@ private slots:
             said = said.arg(address);
         QVERIFY2(report.contains(said), qPrintable(report));
         QCOMPARE(treeOf(folder.path()), before);
+        // The system may let go of a program a little after its end.
+        QTRY_VERIFY(QFile::remove(copy) || !QFile::exists(copy));
     }
 };
 
