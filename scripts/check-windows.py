@@ -45,12 +45,19 @@ def settings_of(command):
             yield from (word, next(words))
 
 
+def sources_of(entry):
+    """The source that ENTRY compiles, or those that a unity build compiles as one."""
+    source = Path(entry["file"])
+    if source.parent.name != "Unity":
+        return [source]
+    return [Path(name) for name in re.findall(r'^#include "(.+)"$', source.read_text(encoding="utf-8"), re.M)]
+
+
 def compilations(build, part):
     """The settings of each source of ours, one compilation a source."""
     database = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     found = {}
-    for entry in database:
-        source = Path(entry["file"])
+    for source, entry in ((source, entry) for entry in database for source in sources_of(entry)):
         ours = source.is_relative_to(ROOT) and not source.is_relative_to(build)
         for_unix = source.name in UNIX_ONLY or source.is_relative_to(UNIX_ONLY_FOLDER)
         if ours and not for_unix and part in str(source):
