@@ -7,26 +7,41 @@
 #include <QSerialPortInfo>
 #include <QWindow>
 
-ConnectDialog::ConnectDialog(QWidget *parent, Listing listing)
+ConnectDialog::ConnectDialog(QWidget *parent, Form form)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
-    , m_ui(std::make_unique<Ui::ConnectDialog>())
+    , m_mode(serialLink)
 {
-    m_ui->setupUi(this);
-    fillBaudRates();
-    if (listing == Listing::AtOnce)
-        on_btnUpdate_clicked();
-    setLinkMode(serialLink);
-    setWindowTitle(tr("Connection"));
+    setObjectName(QStringLiteral("ConnectDialog"));
+    if (form == Form::AtOnce)
+        makeForm();
 }
 
 ConnectDialog::~ConnectDialog() = default;
+
+void ConnectDialog::makeForm()
+{
+    if (m_ui != nullptr)
+        return;
+    m_ui = std::make_unique<Ui::ConnectDialog>();
+    m_ui->setupUi(this);
+    setWindowTitle(tr("Connection"));
+    fillBaudRates();
+    on_btnUpdate_clicked();
+    showLinkMode();
+}
 
 void ConnectDialog::setLinkMode(const int &mode)
 {
     if (mode != serialLink && mode != lanLink)
         return;
     m_mode = mode;
-    const bool serial = mode == serialLink;
+    if (m_ui != nullptr)
+        showLinkMode();
+}
+
+void ConnectDialog::showLinkMode()
+{
+    const bool serial = m_mode == serialLink;
     m_ui->frameSerial->setVisible(serial);
     m_ui->btnUpdate->setVisible(serial);
     m_ui->frameLAN->setVisible(!serial);
@@ -35,6 +50,8 @@ void ConnectDialog::setLinkMode(const int &mode)
 
 void ConnectDialog::retranslate()
 {
+    if (m_ui == nullptr)
+        return;
     const QString chosenBaudRate = m_ui->baudRate->currentText();
     m_ui->retranslateUi(this);
     fillBaudRates();
@@ -45,9 +62,14 @@ void ConnectDialog::retranslate()
 void ConnectDialog::showEvent(QShowEvent *event)
 {
     windowHandle()->installEventFilter(this);
-    if (!m_isListed)
-        on_btnUpdate_clicked();
     QDialog::showEvent(event);
+}
+
+void ConnectDialog::setVisible(bool visible)
+{
+    if (visible)
+        makeForm();
+    QDialog::setVisible(visible);
 }
 
 bool ConnectDialog::eventFilter(QObject *watched, QEvent *event)
@@ -61,6 +83,7 @@ bool ConnectDialog::eventFilter(QObject *watched, QEvent *event)
 void ConnectDialog::setIP(QString ip)
 {
     qDebug() << "setIP: " << ip;
+    makeForm();
     m_ui->lineEdit->setText(ip);
 }
 
@@ -81,7 +104,6 @@ void ConnectDialog::on_cancel_clicked()
 
 void ConnectDialog::on_btnUpdate_clicked()
 {
-    m_isListed = true;
     // The list grows with every refresh: what the user has chosen so far must not vanish from it.
     const auto ports = QSerialPortInfo::availablePorts();
     for (const QSerialPortInfo &port : ports)

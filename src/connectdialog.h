@@ -15,11 +15,11 @@ class ConnectDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// When the serial ports are listed for the first time: to ask the system for them takes as
-    /// long as to make the dialog.
-    enum class Listing { AtOnce, WhenShown };
+    /// When the form is made and the serial ports are listed: a window that keeps the dialog from
+    /// its own start on is seen sooner without.
+    enum class Form { AtOnce, WhenShown };
 
-    explicit ConnectDialog(QWidget *parent = nullptr, Listing listing = Listing::AtOnce);
+    explicit ConnectDialog(QWidget *parent = nullptr, Form form = Form::AtOnce);
     ~ConnectDialog() override;
 
     /// Asks for a port and a baud rate (0 = serial) or for an IP address (1 = LAN); any other mode
@@ -32,6 +32,8 @@ public:
     /// Drops what was pressed while the connection was being made: it comes in when the dialog is
     /// closed already, and would connect once more.
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+    void setVisible(bool visible) override;
 
 public slots:
     /// Proposes \a ip as the address.
@@ -50,9 +52,10 @@ private slots:
     void on_btnUpdate_clicked();
 
 private:
+    void makeForm();
+    void showLinkMode();
     void fillBaudRates();
 
-    std::unique_ptr<Ui::ConnectDialog> m_ui;
+    std::unique_ptr<Ui::ConnectDialog> m_ui; // none before the form is made
     int m_mode = 0;
-    bool m_isListed = false;
 };

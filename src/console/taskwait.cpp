@@ -15,7 +15,7 @@ constexpr int longestWait = 30; // s
 
 TaskWait::TaskWait(QWidget *window)
     : QObject(window)
-    , m_dialog(new LoadingDialog(window))
+    , m_dialog(new LoadingDialog(window, LoadingDialog::Form::WhenNeeded))
     , m_timer(new QTimer(window))
     , m_secondsLeft(longestWait)
 {

@@ -6,27 +6,34 @@
 #include <QKeyEvent>
 #include <QMovie>
 
-LoadingDialog::LoadingDialog(QWidget *parent)
-    : QDialog(parent)
-    , m_ui(std::make_unique<Ui::LoadingDialog>())
-    , m_movie(new QMovie(this))
+// Without the frameless hint Windows makes a translucent window of this type layered, and shows
+// nothing of it.
+LoadingDialog::LoadingDialog(QWidget *parent, Form form)
+    : QDialog(parent, Qt::SplashScreen | Qt::FramelessWindowHint)
 {
-    m_ui->setupUi(this);
-    // Without the hint Windows makes a translucent window of this type layered, and shows nothing
-    // of it.
-    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+    setObjectName(QStringLiteral("LoadingDialog"));
     setAttribute(Qt::WA_TranslucentBackground);
-    m_movie->setFileName(QStringLiteral(":/image/loading.gif"));
+    if (form == Form::AtOnce)
+        makeForm();
+}
+
+LoadingDialog::~LoadingDialog() = default;
+
+void LoadingDialog::makeForm()
+{
+    if (m_ui != nullptr)
+        return;
+    m_ui = std::make_unique<Ui::LoadingDialog>();
+    m_ui->setupUi(this);
+    m_movie = new QMovie(QStringLiteral(":/image/loading.gif"), {}, this);
     m_ui->labelMovie->setMovie(m_movie);
     m_ui->labelText->setStyleSheet(
         QStringLiteral("QLabel {font-size: 30px; font-weight: bold; color: #FF0000;}"));
     m_movie->start();
-    // The console keeps this box for its whole life and shows it for seconds: frames that nobody
-    // sees are not worth the work.
+    // The console keeps this box and shows it for seconds: frames that nobody sees are not worth
+    // the work.
     connect(m_movie, &QMovie::frameChanged, this, [this] { m_movie->setPaused(!isVisible()); });
 }
-
-LoadingDialog::~LoadingDialog() = default;
 
 void LoadingDialog::setTaskLabelText(const QString &text)
 {
@@ -40,6 +47,7 @@ QString LoadingDialog::taskLabelText() const
 
 void LoadingDialog::setLabelText(const int &seconds)
 {
+    makeForm();
     m_ui->labelText->setText(tr("%1,waiting...%2 s").arg(m_task, QString::number(seconds)));
 }
 
@@ -52,10 +60,13 @@ int LoadingDialog::exec()
     return isVisible() ? QDialog::exec() : result();
 }
 
-void LoadingDialog::showEvent(QShowEvent *event)
+void LoadingDialog::setVisible(bool visible)
 {
-    m_movie->setPaused(false);
-    QDialog::showEvent(event);
+    if (visible) {
+        makeForm();
+        m_movie->setPaused(false);
+    }
+    QDialog::setVisible(visible);
 }
 
 void LoadingDialog::keyPressEvent(QKeyEvent *event)

@@ -19,7 +19,11 @@ class LoadingDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit LoadingDialog(QWidget *parent = nullptr);
+    /// When the form is made, and its animation read: a window that keeps the box from its own
+    /// start on is seen sooner without.
+    enum class Form { AtOnce, WhenNeeded };
+
+    explicit LoadingDialog(QWidget *parent = nullptr, Form form = Form::AtOnce);
     ~LoadingDialog() override;
 
     /// Names the running task, as the user reads it.
@@ -33,14 +37,16 @@ public:
     /// Shows the box until it is closed, which may have happened before this returns from showing
     /// it.
     int exec() override;
+    void setVisible(bool visible) override;
 
 protected:
-    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    std::unique_ptr<Ui::LoadingDialog> m_ui;
-    QMovie *m_movie;
+    void makeForm();
+
+    std::unique_ptr<Ui::LoadingDialog> m_ui; // none before the form is made
+    QMovie *m_movie = nullptr;
     QString m_task;
 };

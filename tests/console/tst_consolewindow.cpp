@@ -132,6 +132,7 @@ private slots:
         console.window().updateIDN(QStringLiteral("MZ6218,1"));
         console.window().updatePower(-20.0, QStringLiteral("10.00uW"));
         auto *dialog = console.find<ConnectDialog>("ConnectDialog");
+        dialog->show();
         auto *baudRate = dialog->findChild<QComboBox *>(QStringLiteral("baudRate"));
         baudRate->setCurrentText(QStringLiteral("19200"));
         console.find<QSpinBox>("spinBoxChartPeriod")->setValue(4);
