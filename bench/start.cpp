@@ -2,13 +2,13 @@
 // painting in ms, and ends. "console" shows the console, "chart" an empty window with a chart.
 #include "appinit.h"
 #include "frame/appstyle.h"
+#include "frame/lateicon.h"
 #include "mainwindow.h"
 #include "messagelog.h"
 
 #include <QApplication>
 #include <QChart>
 #include <QChartView>
-#include <QIcon>
 #include <QTimer>
 #include <QValueAxis>
 
@@ -43,7 +43,7 @@ std::unique_ptr<QMainWindow> makeConsole()
 {
     qInstallMessageHandler(MessageLog::handler);
     QApplication::setFont(AppStyle::applicationFont());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/pt.ico")));
+    QApplication::setWindowIcon(LateIcon::of(QStringLiteral(":/image/pt.ico")));
     AppStyle::applyStyleSheet();
     AppInit::Instance()->start();
     return std::make_unique<MainWindow>();

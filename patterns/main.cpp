@@ -2,6 +2,7 @@
 #include "frame/display.h"
 #include "frame/inputrules.h"
 #include "frame/language.h"
+#include "frame/lateicon.h"
 #include "patterns/batch.h"
 #include "patterns/batchreport.h"
 #include "patterns/commandline.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
 #include <QLoggingCategory>
 #include <QTextStream>
 #include <QTimer>
@@ -74,7 +74,7 @@ int main(int argc, char **argv)
     qInstallMessageHandler(nullptr);
     QApplication::setApplicationName(QStringLiteral("mz6218-patterns"));
     QApplication::setApplicationVersion(QStringLiteral(MZ_VERSION));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/patterns.ico")));
+    QApplication::setWindowIcon(LateIcon::of(QStringLiteral(":/image/patterns.ico")));
     InputRules::install();
     QApplication::setFont(AppStyle::applicationFont());
     AppStyle::applyStyleSheet();

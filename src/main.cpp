@@ -4,6 +4,7 @@
 #include "frame/appstyle.h"
 #include "frame/display.h"
 #include "frame/inputrules.h"
+#include "frame/lateicon.h"
 #include "mainwindow.h"
 #include "messagelog.h"
 #include "process/parentconsole.h"
@@ -11,7 +12,6 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QIcon>
 
 #include <cstdio>
 
@@ -79,7 +79,7 @@ int main(int argc, char **argv)
     qInstallMessageHandler(MessageLog::handler);
     InputRules::install();
     QApplication::setFont(AppStyle::applicationFont());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/pt.ico")));
+    QApplication::setWindowIcon(LateIcon::of(QStringLiteral(":/image/pt.ico")));
     QApplication::setApplicationName(QStringLiteral("MZ6218 Power Meter"));
     AppStyle::applyStyleSheet();
     AppInit::Instance()->start();
