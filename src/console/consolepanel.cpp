@@ -38,6 +38,7 @@ ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
     m_ui->mainToolBar->hide();
     m_ui->menuTools->menuAction()->setVisible(false);
     setShortcuts();
+    m_ui->scrollPanel->take(m_ui->viewport, m_ui->panel);
     // The window's ground is to be seen between the groups.
     m_ui->scrollPanel->viewport()->setAutoFillBackground(false);
     m_ui->panel->setAutoFillBackground(false);
@@ -45,9 +46,6 @@ ConsolePanel::ConsolePanel(Ui::MainWindow *form, QMainWindow *window)
     m_ui->doubleSpinBoxFreq->installEventFilter(window);
     m_ui->doubleSpinBoxOffset->installEventFilter(window);
     m_ui->spinBoxAverageCount->installEventFilter(window);
-    QFont pathFont = m_ui->lineEditPath->font();
-    pathFont.setPixelSize(11);
-    m_ui->lineEditPath->setFont(pathFont);
 }
 
 void ConsolePanel::retranslate()
