@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QStyle>
 #include <QVariant>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -13,7 +14,10 @@ namespace {
 
 constexpr int smallest = 30;
 constexpr int largest = 300;
-constexpr int probe = 100;
+
+// The three sizes hang together: the unit and the instrument's text are parts of the reading's.
+constexpr double unitShare = 0.4;
+constexpr double textShare = 0.45;
 
 QFont sized(const QLabel *label, int pixels)
 {
@@ -23,33 +27,26 @@ QFont sized(const QLabel *label, int pixels)
     return font;
 }
 
-int widthOf(const QFont &font, const QString &text)
+/// The width of the widest reading, \a unit and instrument's text beside each other, with the
+/// reading in \a font. The other two are not measured at their own sizes: the system takes long to
+/// find a font.
+double widthOf(const QFont &font, const QString &unit)
 {
-    return QFontMetrics(font).horizontalAdvance(text);
+    const QFontMetricsF metrics(font);
+    return metrics.horizontalAdvance(QStringLiteral("-100.00")) +
+           metrics.horizontalAdvance(unit) * unitShare +
+           metrics.horizontalAdvance(QStringLiteral("-100.00dBm")) * textShare;
 }
 
-/// The three sizes hang together: the unit and the instrument's text are parts of the reading's.
-struct Fonts
+/// The largest font for the reading that \a room has place for.
+QFont fitting(const QLabel *label, const QString &unit, const QSize &room)
 {
-    Fonts(int pixels, const QLabel *label)
-        : power(sized(label, pixels))
-        , unit(sized(label, pixels * 2 / 5))
-        , text(sized(label, pixels * 9 / 20))
-    {}
-
-    QFont power;
-    QFont unit;
-    QFont text;
-};
-
-/// The width of reading, \a unit and instrument's text with a reading of 100 pixels. Two fonts less
-/// than measuring each at its own size: the system takes long to find one.
-double widthAtProbe(const QLabel *label, const QString &unit)
-{
-    const QFontMetricsF metrics(sized(label, probe));
-    return metrics.horizontalAdvance(QStringLiteral("-100.00")) +
-           metrics.horizontalAdvance(unit) * 2 / 5 +
-           metrics.horizontalAdvance(QStringLiteral("-100.00dBm")) * 9 / 20;
+    const int tallest = std::clamp(room.height() / 8, smallest, largest);
+    const QFont font = sized(label, tallest);
+    const double width = widthOf(font, unit);
+    if (width <= room.width())
+        return font;
+    return sized(label, std::clamp(int(tallest * room.width() / width), smallest, largest));
 }
 
 /// The name by which the style sheet knows \a state.
@@ -145,16 +142,13 @@ void PowerDisplay::show(const Reading &reading, State state, int age)
 
 void PowerDisplay::fit(const QSize &room)
 {
-    const double scale = room.width() / widthAtProbe(m_labels.power, m_labels.unit->text());
-    const Fonts fonts(
-        std::clamp(std::min(room.height() / 8, int(probe * scale)), smallest, largest),
-        m_labels.power);
-    m_labels.power->setFont(fonts.power);
-    m_labels.unit->setFont(fonts.unit);
-    m_labels.text->setFont(fonts.text);
+    const QFont font = fitting(m_labels.power, m_labels.unit->text(), room);
+    const QFontMetricsF metrics(font);
+    m_labels.power->setFont(font);
+    m_labels.unit->setFont(sized(m_labels.power, int(font.pixelSize() * unitShare)));
+    m_labels.text->setFont(sized(m_labels.power, int(font.pixelSize() * textShare)));
     // Neither the digits nor the line they stand on are to move from one reading to the next.
-    m_labels.power->setMinimumWidth(widthOf(fonts.power, QStringLiteral("-100.00")));
-    const int descent = QFontMetrics(fonts.power).descent();
-    m_labels.unit->setContentsMargins(0, 0, 0, descent - QFontMetrics(fonts.unit).descent());
-    m_labels.text->setContentsMargins(0, 0, 0, descent - QFontMetrics(fonts.text).descent());
+    m_labels.power->setMinimumWidth(qCeil(metrics.horizontalAdvance(QStringLiteral("-100.00"))));
+    m_labels.unit->setContentsMargins(0, 0, 0, qRound(metrics.descent() * (1 - unitShare)));
+    m_labels.text->setContentsMargins(0, 0, 0, qRound(metrics.descent() * (1 - textShare)));
 }
