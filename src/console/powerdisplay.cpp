@@ -15,6 +15,9 @@ namespace {
 constexpr int smallest = 30;
 constexpr int largest = 300;
 
+constexpr double usualWidth = 8.35;  // of the texts beside each other, in heights of the reading
+constexpr double leastFilled = 0.95; // of the room, by a first guess
+
 // The three sizes hang together: the unit and the instrument's text are parts of the reading's.
 constexpr double unitShare = 0.4;
 constexpr double textShare = 0.45;
@@ -38,15 +41,17 @@ double widthOf(const QFont &font, const QString &unit)
            metrics.horizontalAdvance(QStringLiteral("-100.00dBm")) * textShare;
 }
 
-/// The largest font for the reading that \a room has place for.
+/// The largest font for the reading that \a room has place for, as a rule the first that is tried.
 QFont fitting(const QLabel *label, const QString &unit, const QSize &room)
 {
     const int tallest = std::clamp(room.height() / 8, smallest, largest);
-    const QFont font = sized(label, tallest);
-    const double width = widthOf(font, unit);
-    if (width <= room.width())
-        return font;
-    return sized(label, std::clamp(int(tallest * room.width() / width), smallest, largest));
+    const QFont guess = sized(label, std::clamp(int(room.width() / usualWidth), smallest, tallest));
+    const double width = widthOf(guess, unit);
+    const bool isTallest = guess.pixelSize() == tallest;
+    if (width <= room.width() && (isTallest || width > leastFilled * room.width()))
+        return guess;
+    const int fitting = int(guess.pixelSize() * room.width() / width);
+    return sized(label, std::clamp(fitting, smallest, tallest));
 }
 
 /// The name by which the style sheet knows \a state.

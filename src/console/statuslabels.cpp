@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include <utility>
+
 namespace {
 
 template<typename Label>
@@ -24,18 +26,17 @@ Label *addLabel(QStatusBar *bar, const QString &name, Qt::Alignment alignment)
 } // namespace
 
 StatusLabels::StatusLabels(QStatusBar *bar)
-    : m_identity(addLabel<ElidedLabel>(bar, QStringLiteral("labelIdentity"), Qt::AlignLeft))
+    : m_bar(bar)
+    , m_identity(addLabel<ElidedLabel>(bar, QStringLiteral("labelIdentity"), Qt::AlignLeft))
     , m_port(addLabel<ElidedLabel>(bar, QStringLiteral("labelPort"), Qt::AlignHCenter))
     , m_link(addLabel<QLabel>(bar, QStringLiteral("labelLink"), Qt::AlignHCenter))
     , m_clock(addLabel<QLabel>(bar, QStringLiteral("labelClock"), Qt::AlignRight))
     , m_notice(new ElidedLabel(bar))
     , m_stop(new QPushButton(bar))
 {
-    constexpr int noticeStretch = 4;
     m_notice->setObjectName(QStringLiteral("labelNotice"));
     m_stop->setObjectName(QStringLiteral("btnStopOpening"));
-    bar->insertWidget(0, m_notice, noticeStretch);
-    bar->insertWidget(1, m_stop);
+    bar->insertWidget(0, m_stop);
     m_stop->hide();
     clearNotice();
     showLink(Link::Closed);
@@ -65,6 +66,10 @@ void StatusLabels::showTime(const QDateTime &now)
 
 void StatusLabels::showNotice(Notice about, const std::function<QString()> &text)
 {
+    if (!std::exchange(m_isNoticePlaced, true)) {
+        constexpr int stretch = 4;
+        m_bar->insertWidget(0, m_notice, stretch);
+    }
     m_noticeTopic = about;
     m_noticeText = text;
     m_notice->setText(text());

@@ -45,13 +45,15 @@ public:
     void retranslate();
 
 private:
+    QStatusBar *m_bar;
     QLabel *m_identity;
     QLabel *m_port;
     QLabel *m_link;
     QLabel *m_clock;
-    QLabel *m_notice;
+    QLabel *m_notice; ///< takes its place in the bar with the first notice
     QPushButton *m_stop;
     Link m_shownLink = Link::Closed;
     Notice m_noticeTopic = Notice::Waiting;
     std::function<QString()> m_noticeText;
+    bool m_isNoticePlaced = false;
 };

@@ -62,16 +62,14 @@ void Callout::setAnchor(const QPointF &anchor, const QRectF &room)
 /// Above the anchor where there is room, else below it, and never past the sides.
 void Callout::placeBox()
 {
+    if (m_room.isEmpty())
+        return; // nowhere to be seen yet
     const QFontMetricsF metrics(calloutFont());
-    m_shownText = m_room.isEmpty() ? m_text
-                                   : metrics.elidedText(m_text, Qt::ElideMiddle,
-                                                        m_room.width() - 2.0 * padding - 1.0);
+    m_shownText = metrics.elidedText(m_text, Qt::ElideMiddle, m_room.width() - 2.0 * padding - 1.0);
     const QSizeF size(std::ceil(metrics.horizontalAdvance(m_shownText)) + 2.0 * padding,
                       std::ceil(metrics.height()) + padding);
     m_box = QRectF(
         QPointF(m_anchor.x() - size.width() / 2.0, m_anchor.y() - distance - size.height()), size);
-    if (m_room.isEmpty())
-        return;
     if (m_box.top() < m_room.top())
         m_box.moveTop(m_anchor.y() + distance);
     if (m_box.right() > m_room.right())
