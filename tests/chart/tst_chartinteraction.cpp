@@ -225,6 +225,8 @@ private slots:
         bench.view.addCurve(text("B"), sine(100, 0, 100, -25));
         bench.view.updatePathSelection(2); // the table follows the selection
         QCOMPARE(filled.size(), 2);
+        click(bench.view, bench.view.toScene({65.4, -10})); // on the table, which is above curve 1
+        QCOMPARE(bench.view.selectedPath()->pathId(), 2);
         QCOMPARE(emptied.size(), 0);
         run(bench.view, "clearSelectionSlot");
         QCOMPARE(emptied.size(), 1);

@@ -85,7 +85,10 @@ void MyMarkItem::setMarkSelected(bool selected)
 QRectF MyMarkItem::boundingRect() const
 {
     const double margin = ringWidth + 1.0;
-    return pin(radiusOf(m_markSelected)).boundingRect().adjusted(-margin, -margin, margin, margin);
+    const double radius = radiusOf(m_markSelected);
+    const QPointF corner = headCentre(radius) - QPointF(radius, radius);
+    return QRectF(corner, QSizeF(2.0 * radius, 2.0 * radius + stalk))
+        .adjusted(-margin, -margin, margin, margin);
 }
 
 QPainterPath MyMarkItem::shape() const

@@ -376,9 +376,14 @@ void MyPathItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
     }
     m_pressX = event->scenePos().x();
     m_pressY = event->scenePos().y();
+    select();
+    event->accept();
+}
+
+void MyPathItem::select()
+{
     setCurveSelected(true);
     emit selectPathId(m_pathId);
-    event->accept();
 }
 
 void MyPathItem::takePress(const QPointF &position)

@@ -71,6 +71,8 @@ public:
     bool hits(const QPointF &position) const;
     /// Holds the mouse, pressed at the scene position \a position, as if the press had come here.
     void takePress(const QPointF &position);
+    /// Is selected by a press, and tells so.
+    void select();
 
     /// The highest scene position of the drawn curve in the plot area, if any of it is there.
     std::optional<QPointF> highestPoint() const;

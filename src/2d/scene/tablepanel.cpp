@@ -38,6 +38,11 @@ void TablePanel::placeAnew(const QPointF &spot)
     setPos(spot);
 }
 
+bool TablePanel::covers(const QPointF &place) const
+{
+    return isVisible() && sceneBoundingRect().contains(place);
+}
+
 // The table reacts to no mouse. Were the events handed to it, it would swallow what moves the
 // panel.
 // NOLINTBEGIN(bugprone-parent-virtual-call)

@@ -19,6 +19,8 @@ public:
     void place(const QPointF &spot, const QRectF &room);
     /// Puts the panel to \a spot also when the user has moved it.
     void placeAnew(const QPointF &spot);
+    /// Whether it is seen at the scene position \a place.
+    bool covers(const QPointF &place) const;
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;

@@ -38,6 +38,25 @@ bool CurveList::hasName(const QString &name) const
                        [&name](const PathInfo *path) { return path->name() == name; });
 }
 
+QVector<MyPathItem *> CurveList::pressedAt(const QPointF &place) const
+{
+    QVector<MyPathItem *> items;
+    for (const PathInfo *path : qAsConst(m_paths)) {
+        MyPathItem *item = path->pathItem();
+        if (!path->isHidden() && item->isVisible() &&
+            item->selectionMode() != MyPathItem::NotSelectable && item->hits(place))
+            items.append(item);
+    }
+    return items;
+}
+
+bool CurveList::areCovered(const QPointF &place) const
+{
+    return m_marks.cover(place) ||
+           std::any_of(m_paths.cbegin(), m_paths.cend(),
+                       [&place](PathInfo *path) { return path->panels().cover(place); });
+}
+
 PathInfo *CurveList::add(const QString &name)
 {
     const int id = smallestFreeId(m_paths);

@@ -6,8 +6,10 @@
 #include <QMap>
 #include <QObject>
 #include <QSizeF>
+#include <QVector>
 
 class ChartStage;
+class MyPathItem;
 class PathInfo;
 struct AxisRanges;
 
@@ -31,6 +33,10 @@ public:
     /// The selected curve, null when there is none.
     PathInfo *selected() const;
     bool hasName(const QString &name) const;
+    /// The curves that a press at the scene position \a place selects, in the order of their ids.
+    QVector<MyPathItem *> pressedAt(const QPointF &place) const;
+    /// Whether a marker or a table of a curve is seen there.
+    bool areCovered(const QPointF &place) const;
 
     /// Makes an empty curve under the smallest free path id, without a signal.
     PathInfo *add(const QString &name);

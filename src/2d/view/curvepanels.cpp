@@ -50,6 +50,11 @@ QList<QGraphicsItem *> CurvePanels::items() const
     return made;
 }
 
+bool CurvePanels::cover(const QPointF &place) const
+{
+    return (m_marks && m_marks->covers(place)) || (m_parameters && m_parameters->covers(place));
+}
+
 bool CurvePanels::hasMarks() const
 {
     return m_marks && m_marks->table()->hasData();

@@ -13,6 +13,7 @@ struct ParaInfo;
 QT_BEGIN_NAMESPACE
 class QGraphicsItem;
 class QGraphicsScene;
+class QPointF;
 class QRectF;
 QT_END_NAMESPACE
 
@@ -31,6 +32,9 @@ public:
     MyCustomProxy *parameters();
     /// Those that have been made.
     QList<QGraphicsItem *> items() const;
+
+    /// Whether one of them is seen at the scene position \a place.
+    bool cover(const QPointF &place) const;
 
     bool hasMarks() const;
     bool hasParameters() const;

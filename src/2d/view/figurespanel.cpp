@@ -15,6 +15,11 @@ bool FiguresPanel::isShown() const
     return m_panel && m_panel->getParaTableDataStatus();
 }
 
+bool FiguresPanel::covers(const QPointF &place) const
+{
+    return m_panel && m_panel->covers(place);
+}
+
 void FiguresPanel::show(const ParaInfo &figures)
 {
     if (!m_panel) {

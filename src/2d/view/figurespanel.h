@@ -7,6 +7,7 @@ class MyCustomProxy;
 
 QT_BEGIN_NAMESPACE
 class QGraphicsScene;
+class QPointF;
 QT_END_NAMESPACE
 
 /// The panel with the figures of the selected curve, at the right of the plot area or where the
@@ -20,6 +21,8 @@ public:
     FiguresPanel(const ChartStage &stage, QGraphicsScene &scene);
 
     bool isShown() const;
+    /// Whether it is seen at the scene position \a place.
+    bool covers(const QPointF &place) const;
     void show(const ParaInfo &figures);
     void clear();
     /// Brings it back to its place after a change of size.

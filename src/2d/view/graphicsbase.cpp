@@ -150,11 +150,7 @@ void GraphicsBase::mousePressEvent(QMouseEvent *event)
         return;
     }
     if (!m_steering.isPanning()) {
-        QGraphicsView::mousePressEvent(event);
-        if (dynamic_cast<const TablePanel *>(scene()->mouseGrabberItem()))
-            return; // what lies under a table is not meant
-        pressCurves(event->pos());
-        handDragOver(event->pos());
+        pressCurves(event);
         return;
     }
     if (event->button() != Qt::LeftButton)
@@ -163,28 +159,45 @@ void GraphicsBase::mousePressEvent(QMouseEvent *event)
     qDebug() << "leftbtn press: " << toValue(event->localPos().toPoint());
 }
 
-/// A press can hit several curves; the last one keeps the selection.
-void GraphicsBase::pressCurves(const QPoint &position)
+/// Whether nothing at \a place but curves can take a press, nor lose the focus to it.
+bool GraphicsBase::isForCurvesAlone(const QPointF &place) const
 {
-    const QPointF place = mapToScene(position);
-    const QList<PathInfo *> candidates = paths().values();
-    for (const PathInfo *path : candidates) {
-        MyPathItem *item = path->pathItem();
-        if (!path->isHidden() && item->isVisible() && item->hits(place) &&
-            item->selectionMode() != MyPathItem::NotSelectable)
-            emit item->selectPathId(path->pathId());
+    return stage().plotArea().contains(place) && !curves().areCovered(place) &&
+           !m_figures->covers(place) && !scene()->mouseGrabberItem() && !scene()->focusItem() &&
+           !scene()->activePanel();
+}
+
+/// A press can hit several curves; the last one keeps the selection. To let the scene look for what
+/// is pressed takes twice the rest of a press, so that one curve alone, or none, is spared that.
+void GraphicsBase::pressCurves(QMouseEvent *event)
+{
+    const QPointF place = mapToScene(event->pos());
+    QVector<MyPathItem *> pressed = curves().pressedAt(place);
+    if (pressed.size() <= 1 && isForCurvesAlone(place)) {
+        if (!pressed.isEmpty() && event->button() == Qt::LeftButton) {
+            pressed.first()->takePress(place);
+            pressed.first()->select();
+        }
+    } else {
+        QGraphicsView::mousePressEvent(event);
+        if (dynamic_cast<const TablePanel *>(scene()->mouseGrabberItem()))
+            return; // what lies under a table is not meant
+        pressed = curves().pressedAt(place);
     }
+    for (MyPathItem *item : qAsConst(pressed))
+        emit item->selectPathId(item->pathId());
+    handDragOver(place);
 }
 
 /// The curve that lies on top holds the mouse; where the press has selected another one, that is
 /// the one to be dragged.
-void GraphicsBase::handDragOver(const QPoint &position)
+void GraphicsBase::handDragOver(const QPointF &place)
 {
     auto *held = dynamic_cast<MyPathItem *>(scene()->mouseGrabberItem());
     const PathInfo *selected = selectedPath();
     if (held && selected && selected->pathItem() != held) {
         held->ungrabMouse();
-        selected->pathItem()->takePress(mapToScene(position));
+        selected->pathItem()->takePress(place);
     }
 }
 

@@ -85,8 +85,9 @@ private:
     void showFigures(PathInfo &path);
     bool pressControlKey(int key);
     bool pressKey(int key);
-    void pressCurves(const QPoint &position);
-    void handDragOver(const QPoint &position);
+    bool isForCurvesAlone(const QPointF &place) const;
+    void pressCurves(QMouseEvent *event);
+    void handDragOver(const QPointF &place);
     void zoomAbout(const QPointF &centre, double factor);
     void showRange(const ViewRange &range);
     ChartSituation situation() const;

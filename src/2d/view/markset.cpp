@@ -37,6 +37,13 @@ void MarkSet::select(const MyMarkItem *mark)
     placeGuides();
 }
 
+bool MarkSet::cover(const QPointF &place) const
+{
+    return std::any_of(m_marks.cbegin(), m_marks.cend(), [&place](const MyMarkItem *mark) {
+        return mark->isVisible() && mark->sceneBoundingRect().contains(place);
+    });
+}
+
 MyMarkItem *MarkSet::add(const QPointF &position, const QColor &color)
 {
     const int number = smallestFreeId(m_marks);

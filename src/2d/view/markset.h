@@ -45,6 +45,9 @@ public:
     /// Selects \a mark alone; null deselects.
     void select(const MyMarkItem *mark);
 
+    /// Whether one is seen at the scene position \a place, or next to it.
+    bool cover(const QPointF &place) const;
+
     /// Puts a marker under the smallest free number at the scene position \a position.
     MyMarkItem *add(const QPointF &position, const QColor &color);
     void remove(int markId);
