@@ -12,6 +12,7 @@
 namespace {
 
 const QColor gridColor(0xe2, 0xe6, 0xea);
+const QColor axisColor(Qt::black);
 const QColor titleColor(0x40, 0x40, 0x44);
 const QColor dayColor(0x46, 0x53, 0x5f);
 
@@ -37,16 +38,34 @@ QFont titleFont()
     return font;
 }
 
-/// A line of one pixel. To fill it takes a twentieth of what stroking takes.
-QRect upright(double x, double top, double bottom)
+/// Draws lines along whole pixels of the screen. To fill them takes a twentieth of what stroking
+/// takes.
+class Ruler
 {
-    return {QPoint(qFloor(x), qFloor(top)), QPoint(qFloor(x), qFloor(bottom))};
-}
+public:
+    explicit Ruler(QPainter &painter)
+        : m_painter(painter)
+        , m_ratio(painter.device()->devicePixelRatioF())
+    {}
 
-QRect flat(double y, double left, double right)
-{
-    return {QPoint(qFloor(left), qFloor(y)), QPoint(qFloor(right), qFloor(y))};
-}
+    /// As fine as can be.
+    void drawFine(const QPointF &from, const QPointF &to) { fill(from, to, 1, gridColor); }
+    void drawFirm(const QPointF &from, const QPointF &to)
+    {
+        fill(from, to, std::max(1, qFloor(m_ratio)), axisColor);
+    }
+
+private:
+    void fill(const QPointF &from, const QPointF &to, int width, const QColor &color)
+    {
+        const QPoint first(qFloor(from.x() * m_ratio), qFloor(from.y() * m_ratio));
+        const QPoint last(qFloor(to.x() * m_ratio) + width, qFloor(to.y() * m_ratio) + width);
+        m_painter.fillRect(QRectF(QPointF(first) / m_ratio, QPointF(last) / m_ratio), color);
+    }
+
+    QPainter &m_painter;
+    double m_ratio;
+};
 
 /// So many divisions of a side of \a length as find room, but \a fewest.
 int divisions(double length, double room, int fewest)
@@ -109,19 +128,20 @@ void RecordAxes::show(const ViewRange &range, const QSizeF &size, const QFont &f
 void RecordAxes::paint(QPainter &painter) const
 {
     const QRectF &area = m_mapping.plotArea;
+    Ruler ruler(painter);
     for (const Division &time : m_times)
-        painter.fillRect(upright(time.place, area.top(), area.bottom()), gridColor);
+        ruler.drawFine({time.place, area.top()}, {time.place, area.bottom()});
     for (const Division &level : m_levels)
-        painter.fillRect(flat(level.place, area.left(), area.right()), gridColor);
+        ruler.drawFine({area.left(), level.place}, {area.right(), level.place});
 
-    painter.fillRect(flat(area.bottom(), area.left(), area.right()), Qt::black);
+    ruler.drawFirm(area.bottomLeft(), area.bottomRight());
     for (const Division &time : m_times)
-        painter.fillRect(upright(time.place, area.bottom(), area.bottom() + tickLength), Qt::black);
-    painter.fillRect(upright(area.left(), area.top(), area.bottom()), Qt::black);
+        ruler.drawFirm({time.place, area.bottom()}, {time.place, area.bottom() + tickLength});
+    ruler.drawFirm(area.topLeft(), area.bottomLeft());
     for (const Division &level : m_levels)
-        painter.fillRect(flat(level.place, area.left() - tickLength, area.left()), Qt::black);
+        ruler.drawFirm({area.left() - tickLength, level.place}, {area.left(), level.place});
 
-    painter.setPen(Qt::black);
+    painter.setPen(axisColor);
     painter.setFont(m_font);
     const QFontMetricsF metrics(m_font);
     for (const Division &level : m_levels)
@@ -151,7 +171,7 @@ void RecordAxes::paintClock(QPainter &painter) const
     const QRectF &area = m_mapping.plotArea;
     const QFontMetricsF metrics(m_font);
     painter.setFont(m_font);
-    painter.setPen(Qt::black);
+    painter.setPen(axisColor);
     const double line = area.bottom() + clockGap + metrics.ascent();
     for (const Division &time : m_times)
         painter.drawText(QPointF(time.place - 0.5 * metrics.horizontalAdvance(time.label), line),
