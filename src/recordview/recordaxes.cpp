@@ -22,8 +22,8 @@ constexpr double levelRoom = 40.0;
 constexpr double tickLength = 4.0;
 constexpr double besideLabel = 6.0;
 constexpr double aboveLabel = 14.0;
-constexpr double rightMargin = 31.0;
-constexpr double belowLabels = 24.0;
+constexpr double rightMargin = 12.0;
+constexpr double belowLabels = 8.0;
 constexpr double clockGap = 4.0;
 constexpr double least = 1.0; // of the plot area, however small the window
 
@@ -96,7 +96,7 @@ void RecordAxes::show(const ViewRange &range, const QSizeF &size, const QFont &f
     const QFontMetricsF metrics(font);
     const double top = aboveLabel + 0.5 * metrics.height();
     const double bottom =
-        std::max(top + least, size.height() - belowLabels - 3.0 * metrics.height());
+        std::max(top + least, size.height() - belowLabels - clockGap - 2.0 * metrics.height());
 
     const AxisTicks ticks =
         ClockTicks::ofLevel(range.yMin, range.yMax, divisions(bottom - top, levelRoom, 2));
