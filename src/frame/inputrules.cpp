@@ -2,11 +2,12 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
+#include <QSpinBox>
 #include <QValidator>
 
 namespace {
@@ -26,9 +27,12 @@ public:
             input.count(QLatin1Char(',')) == 1 && !input.contains(QLatin1Char('.'));
         if (isDecimal)
             input.replace(QLatin1Char(','), QLatin1Char('.'));
+        m_wasComma = isDecimal || (m_wasComma && input.contains(QLatin1Char('.')));
         // The box itself would take other commas for group separators, which nobody can have meant.
         if (input.contains(QLatin1Char(',')))
             return Invalid;
+        if (m_wasComma && qobject_cast<const QSpinBox *>(m_box))
+            joinThousand(input, pos);
         const State state = m_box->validate(input, pos);
         return state == Invalid && isWholeButForFraction(input) ? Intermediate : state;
     }
@@ -36,6 +40,18 @@ public:
     void fixup(QString &input) const override { m_box->fixup(input); }
 
 private:
+    /// A count has no fraction: three digits behind a comma can only be those of a thousand.
+    static void joinThousand(QString &input, int &pos)
+    {
+        static const QRegularExpression thousand(
+            QStringLiteral("^(\\D*[1-9]\\d{0,2})\\.(\\d{3}\\D*)$"));
+        const int point = input.indexOf(QLatin1Char('.'));
+        const int length = input.size();
+        input.replace(thousand, QStringLiteral("\\1\\2"));
+        if (input.size() < length && pos > point)
+            --pos;
+    }
+
     /// Whether \a input is a fraction in a box for whole numbers. Refusing its point alone would
     /// make ten times as much of it; as it is, the box goes back to the whole part when it is left.
     bool isWholeButForFraction(QString input) const
@@ -53,6 +69,7 @@ private:
     }
 
     QAbstractSpinBox *m_box;
+    mutable bool m_wasComma = false; // what is a point now was typed as a comma
 };
 
 class Rules : public QObject

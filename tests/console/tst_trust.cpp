@@ -83,6 +83,13 @@ private slots:
         type(console, "doubleSpinBoxFreq", QStringLiteral("2450,5")); // no 24505
         frequency->interpretText();
         QCOMPARE(frequency->text(), QStringLiteral("2450"));
+        console.find<QWidget>("groupBoxAverageCount")->setEnabled(true);
+        auto *count = console.find<QSpinBox>("spinBoxAverageCount");
+        for (const auto &[written, read] : {std::pair("1,024", 1024), std::pair("2,5", 2)}) {
+            type(console, "spinBoxAverageCount", text(written));
+            count->interpretText();
+            QCOMPARE(count->value(), read);
+        }
     }
 
     void refusedSettingIsTold_data()
