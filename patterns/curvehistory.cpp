@@ -46,7 +46,12 @@ public:
         , m_after(std::move(after))
     {}
 
-    void undo() override { m_history.restore(m_after, m_before); }
+    void undo() override
+    {
+        m_history.restore(m_after, m_before);
+        if (m_after.size() > m_before.size())
+            emit m_history.tookBack();
+    }
 
     void redo() override
     {

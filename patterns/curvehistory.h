@@ -47,6 +47,10 @@ public:
 
     QUndoStack &steps() { return m_steps; }
 
+signals:
+    /// Undoing a step took away curves that it had added.
+    void tookBack();
+
 private:
     friend class Step;
     class Command;

@@ -32,6 +32,8 @@ PatternWindow::PatternWindow(WindowContext &context, QWidget *parent)
     ui->setupUi(this);
     takeInitialSize();
     m_history = std::make_unique<CurveHistory>(form().curves());
+    // As when curves came, which fitted the charts to them.
+    connect(m_history.get(), &CurveHistory::tookBack, &form(), &ListChart::fit);
     m_open = std::make_unique<OpenActions>(*ui, *this);
     m_save = std::make_unique<SaveActions>(*ui, *this);
     m_edit = std::make_unique<EditActions>(*ui, *this);

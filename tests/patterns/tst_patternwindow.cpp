@@ -312,6 +312,7 @@ private slots:
         m_window->form().addCurve(text("A"), {{-90, -4}, {0, 0}, {90, -9}});
         m_window->form().addCurve(text("B"), {{-90, -1}, {0, 0}, {90, -7}});
         curves().select(2);
+        const double highest = m_window->form().cartesianChart().shownRange().yMax;
         for (QAction *entry : m_window->findChild<QMenu *>(text("menuEdit"))->actions()) {
             if (entry->text() == text(QTest::currentDataTag()))
                 entry->trigger();
@@ -323,6 +324,8 @@ private slots:
             QVERIFY(!curves().record(id).isSaved);
         }
         QTEST(made.join(QLatin1Char('|')), "made");
+        action("actionUndo").trigger(); // which shows what was shown before
+        QCOMPARE(m_window->form().cartesianChart().shownRange().yMax, highest);
     }
 
     void gainIsComparedWithAReference()
