@@ -94,6 +94,9 @@ RecordOptions recordOptions(const CommonOptions &common, const RecordTexts &text
     if (options.folder.isEmpty())
         throw CLI::ValidationError("--out", "names no folder");
     options.format = rowFormat(texts.format);
+    if (options.format == RowFormat::Influx && !RowText::isTag(options.name))
+        throw CLI::ValidationError("--name", "takes no backslash at its end or before a comma, '=' "
+                                             "or blank with --format influx");
     options.plan.every = OptionValues::duration("--every", texts.every);
     if (options.plan.every < shortestInterval)
         throw CLI::ValidationError("--every", "takes 10ms at least");

@@ -3,6 +3,7 @@
 #include "recorder/isotime.h"
 #include "recorder/numbertext.h"
 
+#include <QRegularExpression>
 #include <QVector>
 
 #include <array>
@@ -132,6 +133,12 @@ QByteArray header(RowFormat format)
         names += QByteArray(cell.name) + ',';
     names.back() = '\n';
     return names;
+}
+
+bool isTag(const QString &name)
+{
+    static const QRegularExpression escaping(QStringLiteral("\\\\([,= ]|$)"));
+    return !name.contains(escaping);
 }
 
 QByteArray line(RowFormat format, const Row &row, const QString &meter)

@@ -33,6 +33,9 @@ namespace RowText {
 QString fileEnding(RowFormat format);
 /// The first line of a file; empty where the format has none.
 QByteArray header(RowFormat format);
+/// Whether \a name can be a tag of the line protocol. That has no sign for a backslash before the
+/// end of a tag, nor before what needs one itself.
+bool isTag(const QString &name);
 /// \a meter is the tag of the line protocol; the others do not name the meter.
 QByteArray line(RowFormat format, const Row &row, const QString &meter);
 

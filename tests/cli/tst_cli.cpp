@@ -148,6 +148,7 @@ private slots:
         row("two addresses", "--lan a --serial b read", 2);
         row("bad port", "--lan a:b read", 2);
         row("limits crossed", "--lan a record --low -1 --high -2", 2);
+        row("no tag", "--lan 127.0.0.1:1 --name a\\ record --format influx --no-wait --out -", 2);
         row("nobody there", "--lan 127.0.0.1:1 read", 3);
         row("not waiting", "--lan 127.0.0.1:1 record --no-wait --out -", 3);
         row("no place to write", "--lan 127.0.0.1:1 record --out /dev/null/x", 4);
@@ -213,6 +214,21 @@ private slots:
             events << QJsonDocument::fromJson(line.toUtf8())[QStringLiteral("event")].toString();
         QCOMPARE(events, words("start link-lost link-up start stop"));
         QVERIFY(linesOf(metrics).contains(QStringLiteral("mz6218_up{meter=\"bench/1\"} 0")));
+    }
+
+    /// A row belongs to the day of its end.
+    void rowOverMidnight()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QTime east = QTime(0, 0).addSecs(now.time().secsTo(QTime(23, 59, 59)));
+        qputenv("TZ", "AAA-" + east.toString(Qt::ISODate).toLatin1()); // midnight within a second
+        QTemporaryDir folder;
+        const Ended ended = run(words("--lan 127.0.0.1:1 record --every 1100ms --count 1 --out") +
+                                QStringList(folder.path()));
+        qputenv("TZ", "UTC0");
+        QCOMPARE(ended.status, 0);
+        const QString day = now.date().addDays(1).toString(Qt::ISODate);
+        QCOMPARE(linesOf(folder.filePath(QStringLiteral("127.0.0.1_1-%1.csv").arg(day))).size(), 2);
     }
 
     void endedByASignal_data()
