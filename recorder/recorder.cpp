@@ -3,13 +3,9 @@
 #include "recorder/isotime.h"
 #include "storage/filewriting.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <limits>
-#include <system_error>
 
 namespace {
 
@@ -22,25 +18,13 @@ constexpr qint64 longestWait = second;
 constexpr std::size_t mostWaitingEvents = 10000;
 const QString eventsEnding = QStringLiteral(".events.jsonl");
 
-/// Writes \a text beside \a path and renames it. Readers of the folder pass over the first name.
-std::optional<QString> replaceBeside(const QString &path, const QByteArray &text)
+/// Why \a text did not take the place of the file \a path, or nothing.
+std::optional<QString> replaceMetrics(const QString &path, const QByteArray &text)
 {
-    const QString temporary = path + QStringLiteral(".tmp");
-    QFile file(temporary);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return file.errorString();
-    const auto failed = [&temporary](const QString &reason) {
-        QFile::remove(temporary);
-        return reason;
-    };
-    if (file.write(text) != text.size() || !file.flush())
-        return failed(file.errorString());
-    file.close();
-    std::error_code error;
-    std::filesystem::rename(temporary.toStdU16String(), path.toStdU16String(), error);
-    if (error)
-        return failed(qt_error_string(error.value()));
-    return std::nullopt;
+    const FileOutcome outcome = replaceFile(path, text);
+    if (outcome.kind == FileOutcome::Kind::Written)
+        return std::nullopt;
+    return outcome.reason;
 }
 
 } // namespace
@@ -91,7 +75,7 @@ std::optional<QString> Recorder::start()
             return obstacle;
     }
     if (!m_options.metricsFile.isEmpty()) {
-        if (const auto failure = replaceBeside(m_options.metricsFile, m_metrics.text()))
+        if (const auto failure = replaceMetrics(m_options.metricsFile, m_metrics.text()))
             return QStringLiteral("%1: %2").arg(m_options.metricsFile, *failure);
     }
     m_meter.poll(m_options.poll);
@@ -248,7 +232,7 @@ void Recorder::writeMetrics()
     m_metrics.alarm = m_recording.alarm();
     if (m_isOver && m_metrics.row)
         m_metrics.row->valid = 0;
-    const auto failure = replaceBeside(m_options.metricsFile, m_metrics.text());
+    const auto failure = replaceMetrics(m_options.metricsFile, m_metrics.text());
     if (failure && !m_areMetricsFailing)
         printMessage(QStringLiteral("%1: %2").arg(m_options.metricsFile, *failure));
     m_areMetricsFailing = failure.has_value();
