@@ -1,4 +1,5 @@
 #include "2d/scene/callout.h"
+#include "2d/scene/chartlegend.h"
 #include "2d/scene/generatecolors.h"
 #include "2d/scene/marktable.h"
 #include "2d/scene/mycustomproxy.h"
@@ -136,6 +137,15 @@ private slots:
         QVERIFY(!view.selectedPath());
         view.setPathInfoHide(0);
         QVERIFY(view.paths()[2]->isHidden());
+    }
+
+    void countsNamesWithoutAPlace()
+    {
+        GraphicsBase view(0, nullptr);
+        view.resetChart({text("A"), text("B"), text("C"), text("D"), text("E"), text("F")});
+        ChartLegend legend(*view.chart(), {});
+        legend.arrange({150, 80});
+        QCOMPARE(legend.texts(), (QStringList{text("A"), text("+5")}));
     }
 
     void dimsHiddenCurvesInTheLegend()

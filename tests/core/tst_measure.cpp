@@ -62,6 +62,8 @@ private slots:
             << 2 << false << QVector<double>{-9, -20, -9, -9} << "...H";
         QTest::newRow("latched until acknowledged and back")
             << 1 << true << QVector<double>{-9, -20, 200, -9, 200, -9, -20} << "H.hH..h";
+        QTest::newRow("acknowledged while it lasted, and again")
+            << 1 << true << QVector<double>{-9, 200, -20, -9, -20, 200} << "H.hH.h";
         QTest::newRow("latched no more")
             << 1 << true << QVector<double>{-9, -20, 300, -9, 300, -20} << "H.hH.h";
     }

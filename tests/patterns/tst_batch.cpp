@@ -19,6 +19,7 @@ private slots:
         QVERIFY(QDir::setCurrent(m_folder.path()));
         write(text("a.csv"), "T\nA/B\nAngle,Power\n-90,-3\n0,0.1\n90,-3.5\n");
         write(text("again.csv"), "T\nA/B\nAngle,Power\n-1,0\n0,1\n");
+        write(text("case.csv"), "T\na/b\nAngle,Power\n-1,0\n0,1\n");
         write(text("round.msi"),
               "NAME R\nFREQUENCY 900\nGAIN 3 dBi\nHORIZONTAL 4\n0 0\n90 10\n180 20\n"
               "270 10\nVERTICAL 4\n0 1\n90 10\n180 20\n270 10\n");
@@ -58,16 +59,17 @@ private slots:
             QByteArray("a.csv,A/B,,3,0.1,162.09677419354838,-3,-3.5,,3.6,162.09677419354838,,,"));
         QVERIFY(lines.at(2).startsWith("./again.csv,A/B (2),,2,1,,"));
         QVERIFY2(m_messages.startsWith(text("empty.csv: ")), qPrintable(m_messages));
-        QCOMPARE(FigureTable::row(text("a,\"b"), text("c"), text("9"), {}),
-                 QByteArray("\"a,\"\"b\",c,9,0,,,,,,,,,,\n"));
+        QCOMPARE(FigureTable::row(text("a,\"b"), text("c\"d"), text("9"), {}),
+                 QByteArray("\"a,\"\"b\",\"c\"\"d\",9,0,,,,,,,,,,\n"));
     }
 
     void exportOfCurves()
     {
         write(text("out/A_B.csv"), "old");
-        QCOMPARE(run("--export out a.csv again.csv round.msi"), int(Batch::Done));
+        QCOMPARE(run("--export out a.csv again.csv case.csv round.msi"), int(Batch::Done));
         QCOMPARE(QDir(text("out")).entryList(QDir::Files).join(QLatin1Char('|')),
-                 text("A_B (2).csv|A_B.csv|R H.csv|R V.csv"));
+                 text("A_B (2).csv|a_b (3).csv|A_B.csv|R H.csv|R V.csv"));
+        QVERIFY(contentOf(text("out/a_b (3).csv")).startsWith("T\na/b\n"));
         QCOMPARE(contentOf(text("out/A_B (2).csv")),
                  QByteArray("T\nA/B (2)\nAngle,Power\n-1,0\n0,1\n"));
         QCOMPARE(contentOf(text("out/R H.csv")),

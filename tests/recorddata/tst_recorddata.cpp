@@ -1,3 +1,4 @@
+#include "recorddata/clockticks.h"
 #include "recorddata/recordreader.h"
 #include "testfiles.h"
 #include "testmain.h"
@@ -84,7 +85,7 @@ private slots:
             << QByteArray("1=-20 2=-20 12=-21") << 0;
         QTest::newRow("the zone changes, the clock is put back, the unit changes")
             << csvHeader + csvRowAt(1, "-20") +
-                   csvRow("2026-11-21T13:00:02.000+02:00", "2026-11-21T13:00:01.000+02:00", "-21") +
+                   csvRow("2026-11-21T16:30:02.000+05:30", "2026-11-21T16:30:01.000+05:30", "-21") +
                    csvRowAt(1, "-22") + csvRowAt(2, "0.5", "1")
             << QByteArray("1=-20 2=-21 | 1=-22 2=0.5dB") << 0;
         QTest::newRow("torn, not a number, Windows' ends of line")
@@ -103,6 +104,10 @@ private slots:
             << consoleHeader + consoleRow("12:00", "-20.00") + consoleRow("12:01", "-21.00") +
                    consoleRow("12:03", "-22.00")
             << QByteArray("0=-20 60=-21 180=-22") << 0;
+        QTest::newRow("the leap day and the day behind it")
+            << consoleHeader +
+                   "2024/02/29 23:59,2.45,0,-20dBm,x\n2024/03/01 00:00,2.45,0,-21dBm,x\n"
+            << QByteArray("-8.60113e+07=-20 -8.60112e+07=-21") << 0;
         QTest::newRow("no reading, a minute that goes back, a pause")
             << consoleHeader + consoleRow("12:00", "-20.00") + consoleRow("12:01", "100.00") +
                    consoleRow("12:02", "-21.00") + consoleRow("12:01", "-22.00") +
@@ -234,6 +239,13 @@ private slots:
         }
         QCOMPARE(data.nearest(-5.0), 0);
         QCOMPARE(data.nearest(1e9), data.size() - 1);
+    }
+
+    void labelsOfTime()
+    {
+        const double midnight = 1795219200.0; // 2026-11-21
+        QCOMPARE(ClockTicks::label(midnight, 3600.0), QStringLiteral("11-21"));
+        QCOMPARE(ClockTicks::label(midnight, 1.0), QStringLiteral("00:00:00"));
     }
 
 private:

@@ -1,9 +1,11 @@
 #include "recorddata/recordreader.h"
 #include "recordview/recordchart.h"
+#include "recordview/recordcurve.h"
 #include "recordview/recordview.h"
 #include "testfiles.h"
 #include "testmain.h"
 
+#include <QPainter>
 #include <QTableWidget>
 #include <QTemporaryDir>
 
@@ -141,6 +143,26 @@ private slots:
         QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });
         QVERIFY(!m_view->saveRows(m_path));
         QCOMPARE(m_view->reader()->row(4), consoleRows(4, 5).trimmed());
+    }
+
+    /// With many points to a pixel the curve is drawn as bars.
+    void drawsNothingOverAGap()
+    {
+        RecordData data;
+        for (int i = 0; i < 1000; ++i)
+            data.append({i < 500 ? i * 0.1 : 50.0 + i * 0.1, -20.0, false, i == 500, {}});
+        data.index();
+        ChartMapping mapping;
+        mapping.plotArea = QRectF(0, 0, 150, 20);
+        mapping.axes = {0, 150, -30, -10};
+        RecordCurve curve;
+        curve.show(&data, 0, 150, 150);
+        QImage image(150, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        curve.draw(painter, mapping);
+        for (int x = 0; x < 150; ++x)
+            QCOMPARE(image.pixelColor(x, 10) == Qt::white, x >= 50 && x < 100);
     }
 
 private:

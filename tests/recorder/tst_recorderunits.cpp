@@ -116,6 +116,7 @@ private slots:
         QCOMPARE(at(newYork, first + 3600000), QStringLiteral("2026-11-01T01:30:00.000-05:00"));
         QCOMPARE(at("AAA5:45", first), QStringLiteral("2026-10-31T23:45:00.000-05:45"));
         QCOMPARE(localDate(first), QDate(2026, 10, 31));
+        QCOMPARE(localDate(first + 900000), QDate(2026, 11, 1)); // midnight begins the day
         QCOMPARE(at("BBB-5:30", first), QStringLiteral("2026-11-01T11:00:00.000+05:30"));
         QCOMPARE(at("UTC0", first + 7), QStringLiteral("2026-11-01T05:30:00.007+00:00"));
     }

@@ -369,7 +369,8 @@ private slots:
         QCOMPARE(at(0, "p"), QByteArray("0.00\n0.00\n"));
         QCOMPARE(at(0, "P 30 3"), QByteArray("RPRT 0\n"));
         QCOMPARE(at(1000, "p\r"), QByteArray("6.00\n3.00\n"));
-        for (const char *line : {"P 451 0", "P -180.1 0", "P nan 0", "P inf 0", "P 1,5 0", "P 5"})
+        for (const char *line : {"P 451 0", "P -180.1 0", "P nan 0", "P inf 0", "P 1,5 0", "P 5",
+                                 "P 0 90.1", "P 0 -0.1"})
             QCOMPARE(at(1000, line), QByteArray("RPRT -1\n"));
         QCOMPARE(at(2000, "S"), QByteArray("RPRT 0\n"));
         QCOMPARE(at(9000, "p"), QByteArray("12.00\n3.00\n"));

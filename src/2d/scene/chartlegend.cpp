@@ -83,6 +83,14 @@ double ChartLegend::arrange(const QSizeF &size)
     return m_area.height();
 }
 
+QStringList ChartLegend::texts() const
+{
+    QStringList texts;
+    for (const Cell &cell : m_cells)
+        texts.append(cell.text);
+    return texts;
+}
+
 /// One row, as wide as the names are.
 void ChartLegend::arrangeRow(const QStringList &names, const QSizeF &size)
 {

@@ -26,6 +26,10 @@ public:
     /// that they take, 0 without entries.
     double arrange(const QSizeF &size);
 
+    /// What is written, in its order: names, shortened where they must be, and perhaps the number
+    /// of those that have no place, as "+3".
+    QStringList texts() const;
+
     QRectF boundingRect() const override { return m_area; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
