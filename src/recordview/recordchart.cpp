@@ -291,7 +291,8 @@ void RecordChart::keyPressEvent(QKeyEvent *event)
 void RecordChart::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.fillRect(event->rect(), Qt::white);
+    // A screen scaled by 1.25 ends the chart within a pixel.
+    painter.fillRect(event->rect().adjusted(-1, -1, 1, 1), Qt::white);
     m_axes.paint(painter);
     if (!hasData())
         return;

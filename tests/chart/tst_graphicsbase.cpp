@@ -252,6 +252,19 @@ private slots:
         }
     }
 
+    void coversItsGroundAtAnyScale()
+    {
+        constexpr double scale = 1.25;
+        GraphicsBase view(0, nullptr);
+        show(view, 403, 303);
+        QImage picture(504, 379, QImage::Format_RGB32); // the last pixels are the view's in part
+        picture.setDevicePixelRatio(scale);
+        picture.fill(Qt::black);
+        view.viewport()->render(&picture, {}, {}, QWidget::RenderFlags());
+        QCOMPARE(picture.pixelColor(503, 100), QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(100, 378), QColor(Qt::white));
+    }
+
     /// The view keeps the chart's own line item in the dark about its points. Whoever changes a
     /// series past the view must not bring the two apart.
     void followsOutsideData()

@@ -77,6 +77,13 @@ void ChartCanvas::focusOutEvent(QFocusEvent *event)
     viewport()->update();
 }
 
+// A screen scaled by 1.25 ends a view within a pixel, which its ground has to cover wholly: what
+// has been painted there before would shine through.
+void ChartCanvas::drawBackground(QPainter *painter, const QRectF &rect)
+{
+    QGraphicsView::drawBackground(painter, rect.adjusted(-1.0, -1.0, 1.0, 1.0));
+}
+
 void ChartCanvas::paintEvent(QPaintEvent *event)
 {
     QGraphicsView::paintEvent(event);

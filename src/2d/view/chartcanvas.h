@@ -22,6 +22,7 @@ protected:
     bool event(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void drawBackground(QPainter *painter, const QRectF &rect) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
