@@ -64,6 +64,7 @@ void LoadingDialog::setVisible(bool visible)
 {
     if (visible) {
         makeForm();
+        adjustSize(); // to its text, before it is put in the middle of its window
         m_movie->setPaused(false);
     }
     QDialog::setVisible(visible);
