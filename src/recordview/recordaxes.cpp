@@ -181,7 +181,9 @@ void RecordAxes::paintClock(QPainter &painter) const
     const QString from = ClockTicks::text(m_mapping.axes.xMin).left(untilSeconds);
     const QString to = ClockTicks::text(m_mapping.axes.xMax).left(untilSeconds);
     const double dayLine = line + metrics.height();
+    const double end = area.right() - metrics.horizontalAdvance(to);
     painter.setPen(dayColor);
     painter.drawText(QPointF(area.left(), dayLine), from);
-    painter.drawText(QPointF(area.right() - metrics.horizontalAdvance(to), dayLine), to);
+    if (end > area.left() + metrics.horizontalAdvance(from) + besideLabel)
+        painter.drawText(QPointF(end, dayLine), to);
 }
