@@ -27,14 +27,17 @@ StatisticsPanel::StatisticsPanel(QWidget *parent)
     : QWidget(parent)
     , m_overLabel(new QLabel(this))
     , m_over(new QComboBox(this))
-    , m_table(new QTableWidget(RowCount, 1, this))
+    , m_table(new QTableWidget(this))
     , m_reset(new QPushButton(this))
     , m_copy(new QPushButton(this))
 {
     m_over->setObjectName(QStringLiteral("comboBoxStatisticsOver"));
     m_over->addItems({QString(), QString()});
     m_overLabel->setBuddy(m_over);
+    // Before there are rows, for which its header looks up the style of a table of this name.
     m_table->setObjectName(QStringLiteral("tableStatistics"));
+    m_table->setRowCount(RowCount);
+    m_table->setColumnCount(1);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setTabKeyNavigation(false);
     m_table->setWordWrap(false);
