@@ -35,8 +35,8 @@ void ConnectDialog::setLinkMode(const int &mode)
     if (mode != serialLink && mode != lanLink)
         return;
     m_mode = mode;
-    if (m_ui != nullptr)
-        showLinkMode();
+    makeForm();
+    showLinkMode();
 }
 
 void ConnectDialog::showLinkMode()

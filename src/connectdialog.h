@@ -17,7 +17,7 @@ class ConnectDialog : public QDialog
 public:
     /// When the form is made and the serial ports are listed: a window that keeps the dialog from
     /// its own start on is seen sooner without.
-    enum class Form { AtOnce, WhenShown };
+    enum class Form { AtOnce, WhenNeeded };
 
     explicit ConnectDialog(QWidget *parent = nullptr, Form form = Form::AtOnce);
     ~ConnectDialog() override;

@@ -132,8 +132,8 @@ private slots:
         console.restart();
         console.trigger("actionCommunication_by_LAN");
         auto *dialog = console.find<ConnectDialog>("ConnectDialog");
-        console.trigger("actionConnect");
         auto *address = dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit"));
+        console.trigger("actionConnect");
         QVERIFY(dialog->isVisible() && dialog->isModal());
         QCOMPARE(address->text(), meter.address());
         dialog->findChild<QPushButton *>(QStringLiteral("accept"))->click();
