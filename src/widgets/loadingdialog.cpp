@@ -64,7 +64,9 @@ void LoadingDialog::setVisible(bool visible)
 {
     if (visible) {
         makeForm();
-        adjustSize(); // to its text, before it is put in the middle of its window
+        // To the text of now, before the box is put in the middle of its window.
+        m_ui->card->updateGeometry();
+        adjustSize();
         m_movie->setPaused(false);
     }
     QDialog::setVisible(visible);
