@@ -32,7 +32,8 @@ void ConnectDialog::makeForm()
 
 void ConnectDialog::setLinkMode(const int &mode)
 {
-    if (mode != serialLink && mode != lanLink)
+    // The console begins with the mode that the dialog has: no reason to make the form.
+    if (mode == m_mode || (mode != serialLink && mode != lanLink))
         return;
     m_mode = mode;
     makeForm();
