@@ -57,6 +57,15 @@ bool knowsAll(const QStringList &wanted)
     });
 }
 
+/// Keeps \a ratios in \a table; those of a run of \a all groups replace what it holds.
+bool store(const QString &table, const QMap<QString, double> &ratios, bool all)
+{
+    QMap<QString, double> kept = all ? QMap<QString, double>() : RatioTable::read(table);
+    for (auto it = ratios.cbegin(); it != ratios.cend(); ++it)
+        kept.insert(it.key(), it.value());
+    return RatioTable::write(table, kept);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -86,7 +95,7 @@ int main(int argc, char **argv)
             group.run(report);
     }
     const QString table = QStringLiteral(MZ_BENCH_RATIOS);
-    if (stores && !RatioTable::write(table, report.ratios())) {
+    if (stores && !store(table, report.ratios(), wanted.isEmpty())) {
         QTextStream(stderr) << "the ratios could not be written: " << table << '\n';
         return 1;
     }
