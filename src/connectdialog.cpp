@@ -9,7 +9,6 @@
 
 ConnectDialog::ConnectDialog(QWidget *parent, Form form)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
-    , m_mode(serialLink)
 {
     setObjectName(QStringLiteral("ConnectDialog"));
     if (form == Form::AtOnce)

@@ -33,6 +33,7 @@ public:
     /// closed already, and would connect once more.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// Shows the dialog with its form, or hides it.
     void setVisible(bool visible) override;
 
 public slots:
@@ -57,5 +58,5 @@ private:
     void fillBaudRates();
 
     std::unique_ptr<Ui::ConnectDialog> m_ui; // none before the form is made
-    int m_mode = 0;
+    int m_mode = 0;                          // serial
 };

@@ -31,13 +31,6 @@ constexpr double least = 1.0; // of the plot area, however small the window
 constexpr double titleRoom = 40.0;
 constexpr double titleBaseline = 25.0;
 
-QFont titleFont()
-{
-    QFont font(QStringLiteral("Microsoft YaHei"), 9);
-    font.setWeight(QFont::Bold);
-    return font;
-}
-
 /// Draws lines along whole pixels of the screen. To fill them takes a twentieth of what stroking
 /// takes.
 class Ruler
@@ -154,7 +147,8 @@ void RecordAxes::paint(QPainter &painter) const
 void RecordAxes::paintTitle(QPainter &painter) const
 {
     const QRectF &area = m_mapping.plotArea;
-    const QFont font = titleFont();
+    QFont font = m_font;
+    font.setBold(true);
     const QFontMetricsF metrics(font);
     const QString title = metrics.elidedText(m_title, Qt::ElideRight, area.height());
     painter.save();

@@ -37,6 +37,7 @@ public:
     /// Shows the box until it is closed, which may have happened before this returns from showing
     /// it.
     int exec() override;
+    /// Shows the box with its form, as large as its text needs, or hides it.
     void setVisible(bool visible) override;
 
 protected:
